@@ -1,0 +1,68 @@
+#ifndef QENXML_MODEL_QENFARM_H
+#define QENXML_MODEL_QENFARM_H
+
+#include <string>
+#include <vector>
+
+#include <boost/uuid/uuid.hpp>
+
+#include "model/QenExport.h"
+#include "model/QenField.h"
+
+/// A farm of a grower: its identity and its fields.
+///
+/// A plain value: copying it copies every field, geometry, rec and product data beneath it.
+/// Nothing is validated, and no operation throws anything but std::bad_alloc.
+///
+/// Threads: a farm may be read by several threads at once as long as none changes it; id() changes
+/// nothing although it is not a const member.
+class QENXML_EXPORT QenFarm {
+public:
+    /// A farm with nil identifiers, an empty name and no fields.
+    QenFarm();
+
+    /// A farm without fields.
+    ///
+    /// @param name     display name
+    /// @param id       identity of the farm
+    /// @param growerId grower that the farm belongs to; kept, never compared
+    QenFarm(const std::string& name, const boost::uuids::uuid& id,
+            const boost::uuids::uuid& growerId);
+
+    std::string name() const; ///< Display name.
+
+    void setName(std::string name); ///< Replaces the display name.
+
+    boost::uuids::uuid id();             ///< Identity of the farm; all that equality looks at.
+    boost::uuids::uuid growerId() const; ///< Grower that the farm belongs to.
+
+    /// The fields themselves, in the order in which they were added; the caller may change the list
+    /// and its elements. Changing the list may invalidate references to its elements.
+    std::vector<QenField>& fields();
+
+    /// True when the two id() are equal; nothing else is compared.
+    bool operator==(const QenFarm& other) const;
+
+    /// True when the two id() differ.
+    bool operator!=(const QenFarm& other) const;
+
+    /// Puts a copy of @p field in the place of the first field with the same id, whose geometries
+    /// and recs are discarded (merge() combines them instead), or else appends it.
+    void addField(QenField field);
+
+    /// Adds what @p other, another version of the same farm, holds. This farm keeps its name,
+    /// identifiers and order of fields. A field that both hold becomes that of @p other, merged
+    /// with this farm's (so with the name, recs and geometries of @p other first); the fields that
+    /// only @p other holds are appended in its order. Does nothing when the two ids differ.
+    ///
+    /// When memory runs out, the fields added so far stay.
+    void merge(QenFarm other);
+
+private:
+    std::string name_;
+    boost::uuids::uuid id_{};
+    boost::uuids::uuid growerId_{};
+    std::vector<QenField> fields_;
+};
+
+#endif

@@ -1,0 +1,129 @@
+#ifndef QENXML_MODEL_QENFIELD_H
+#define QENXML_MODEL_QENFIELD_H
+
+#include <string>
+#include <vector>
+
+#include <boost/uuid/uuid.hpp>
+
+#include "model/QenExport.h"
+#include "model/QenFieldGeometry.h"
+#include "model/QenRec.h"
+
+/// A field: its identity, its boundary geometries and its recs.
+///
+/// A plain value: a copy has geometries, recs and product data of its own. Unlike assigning a
+/// single QenRec, assigning a field loses nothing: the recs that it held before are destroyed with
+/// their product data.
+///
+/// Look-ups never fail; they return the empty value that each of them names. Nothing is validated,
+/// and no operation throws anything but std::bad_alloc.
+///
+/// Threads: const members may be called by several threads at once as long as none changes the
+/// field.
+class QENXML_EXPORT QenField {
+public:
+    /// A field with nil identifiers, an empty name, no geometries and no recs.
+    QenField();
+
+    /// A field without geometries and recs.
+    ///
+    /// @param name     display name
+    /// @param id       identity of the field
+    /// @param growerId grower that the field belongs to; kept, never compared
+    /// @param farmId   farm that the field belongs to; kept, never compared
+    QenField(const std::string& name, const boost::uuids::uuid& id,
+             const boost::uuids::uuid& growerId, const boost::uuids::uuid& farmId);
+
+    /// A field with one geometry and no recs. Note that the geometry's date comes before its two
+    /// identifiers, unlike in the constructor of QenFieldGeometry.
+    ///
+    /// @param name         display name
+    /// @param id           identity of the field
+    /// @param growerId     grower that the field belongs to; kept, never compared
+    /// @param farmId       farm that the field belongs to; kept, never compared
+    /// @param geometryDate date of the geometry, as text
+    /// @param geometryId   identity of the geometry
+    /// @param geometry     identity of the geometry file
+    /// @param centroid     centre point of the geometry; only read
+    QenField(const std::string& name, const boost::uuids::uuid& id,
+             const boost::uuids::uuid& growerId, const boost::uuids::uuid& farmId,
+             const std::string& geometryDate, const boost::uuids::uuid& geometryId,
+             const boost::uuids::uuid& geometry, LLA& centroid);
+
+    QenField(const QenField& other);
+    QenField(QenField&& other) noexcept;
+    QenField& operator=(const QenField& other); ///< When memory runs out, nothing has changed.
+    QenField& operator=(QenField&& other) noexcept;
+    ~QenField();
+
+    std::string name() const; ///< Display name.
+
+    void setName(std::string name); ///< Replaces the display name.
+
+    boost::uuids::uuid id() const;       ///< Identity of the field; all that equality looks at.
+    boost::uuids::uuid growerId() const; ///< Grower that the field belongs to.
+    boost::uuids::uuid farmId() const;   ///< Farm that the field belongs to.
+
+    // Look-ups by a geometry's identifier. Of several geometries with that identifier the last one
+    // answers.
+
+    /// The date of the geometry @p geometryId; empty when the field has no such geometry.
+    std::string geometryDate(const boost::uuids::uuid& geometryId) const;
+
+    /// The name of the file that holds the shape of the geometry @p geometryId: the text of
+    /// geometryFileId() in lower case and with hyphens (8-4-4-4-12), without folder and extension.
+    /// Empty when the field has no such geometry.
+    std::string geometryFileName(const boost::uuids::uuid& geometryId) const;
+
+    /// The identity of the file that holds the shape of the geometry @p geometryId; nil when the
+    /// field has no such geometry.
+    boost::uuids::uuid geometryFileId(const boost::uuids::uuid& geometryId) const;
+
+    /// The centre point of the geometry @p geometryId; (0, 0, 0) when the field has no such
+    /// geometry.
+    LLA centroid(const boost::uuids::uuid& geometryId) const;
+
+    /// A copy of the geometries, in the order in which they were added.
+    std::vector<QenFieldGeometry> geometries() const;
+
+    /// The recs themselves, in the order in which they were added; the caller may change the list
+    /// and its elements. Changing the list may invalidate references to its elements.
+    std::vector<QenRec>& recs();
+
+    /// A copy of the first rec whose product data carries the identifier @p recId
+    /// (QenRecData::recId(); the rec's own id is not consulted). Recs without product data are
+    /// skipped. A default-constructed rec when there is none.
+    QenRec rec(boost::uuids::uuid recId) const;
+
+    /// True when the two id() are equal; nothing else is compared.
+    bool operator==(const QenField& other) const;
+
+    /// True when the two id() differ.
+    bool operator!=(const QenField& other) const;
+
+    /// Appends a copy of @p geometry, also when the field has one with the same identifier.
+    void addFieldGeometry(const QenFieldGeometry& geometry);
+
+    /// Assigns @p rec to the first rec with the same id, which keeps its place, or else appends a
+    /// copy. As this is an assignment of QenRec, the product data of a rec that is replaced is not
+    /// deleted: it belongs to the caller, who takes the pointer beforehand.
+    void addRec(QenRec rec);
+
+    /// Adds what @p other, another version of the same field, has beyond this one: its recs with
+    /// new ids, then its geometries with new identifiers, each appended in order. What this field
+    /// has already stays as it is, its name included. Does nothing when the two ids differ.
+    void merge(QenField other);
+
+private:
+    const QenFieldGeometry* lastGeometry(const boost::uuids::uuid& geometryId) const;
+
+    boost::uuids::uuid id_{};
+    boost::uuids::uuid growerId_{};
+    boost::uuids::uuid farmId_{};
+    std::string name_;
+    std::vector<QenFieldGeometry> geometries_;
+    std::vector<QenRec> recs_;
+};
+
+#endif

@@ -1,0 +1,43 @@
+#include "model/QenGrower.h"
+
+#include <utility>
+
+#include "model/ChildList.h"
+
+QenGrower::QenGrower() = default;
+
+QenGrower::QenGrower(const std::string& name, const boost::uuids::uuid& id)
+    : name_(name), id_(id) {}
+
+std::string QenGrower::name() const {
+    return name_;
+}
+
+void QenGrower::setName(std::string name) {
+    name_ = std::move(name);
+}
+
+boost::uuids::uuid QenGrower::id() const {
+    return id_;
+}
+
+std::vector<QenFarm>& QenGrower::farms() {
+    return farms_;
+}
+
+bool QenGrower::operator==(const QenGrower& other) const {
+    return id_ == other.id_;
+}
+
+bool QenGrower::operator!=(const QenGrower& other) const {
+    return !(*this == other);
+}
+
+void QenGrower::addFarm(QenFarm farm) {
+    qenxml::replaceOrAppend(farms_, farm);
+}
+
+void QenGrower::merge(QenGrower other) {
+    if (*this == other)
+        qenxml::mergeChildren(farms_, other.farms_);
+}

@@ -1,0 +1,69 @@
+#ifndef QENXML_MODEL_QENGROWER_H
+#define QENXML_MODEL_QENGROWER_H
+
+#include <string>
+#include <vector>
+
+#include <boost/uuid/uuid.hpp>
+
+#include "model/QenExport.h"
+#include "model/QenFarm.h"
+
+/// A grower: the root of a record tree, with the grower's identity and farms.
+///
+/// A plain value: copying it copies the whole tree beneath it. Nothing is validated, and no
+/// operation throws anything but std::bad_alloc.
+///
+/// Threads: a grower may be read by several threads at once as long as none changes it.
+class QENXML_EXPORT QenGrower {
+public:
+    /// A grower with a nil identifier, an empty name and no farms.
+    QenGrower();
+
+    /// A grower without farms.
+    ///
+    /// @param name display name
+    /// @param id   identity of the grower
+    QenGrower(const std::string& name, const boost::uuids::uuid& id);
+
+    std::string name() const; ///< Display name.
+
+    void setName(std::string name); ///< Replaces the display name.
+
+    boost::uuids::uuid id() const; ///< Identity of the grower; all that equality looks at.
+
+    /// The farms themselves, in the order in which they were added; the caller may change the list
+    /// and its elements. Changing the list may invalidate references to its elements.
+    std::vector<QenFarm>& farms();
+
+    /// True when the two id() are equal; nothing else is compared.
+    bool operator==(const QenGrower& other) const;
+
+    /// True when the two id() differ.
+    bool operator!=(const QenGrower& other) const;
+
+    /// Puts a copy of @p farm in the place of the first farm with the same id, whose fields are
+    /// discarded (merge() combines them instead), or else appends it. The farm's growerId() is not
+    /// looked at.
+    void addFarm(QenFarm farm);
+
+    /// Adds what @p other, another version of the same grower, holds. This grower keeps its name
+    /// and its order of farms. A farm that both hold becomes that of @p other, merged with this
+    /// grower's; the farms that only @p other holds are appended in its order. Does nothing when
+    /// the two ids differ.
+    ///
+    /// Which side wins alternates from level to level. Of a farm that both hold, the name and
+    /// grower of @p other's remain, and its fields come first. Of a field that both hold, this
+    /// grower's name, recs and geometries remain and come first; a rec that both hold keeps the
+    /// content that it has here.
+    ///
+    /// When memory runs out, the farms added so far stay.
+    void merge(QenGrower other);
+
+private:
+    std::string name_;
+    boost::uuids::uuid id_{};
+    std::vector<QenFarm> farms_;
+};
+
+#endif
