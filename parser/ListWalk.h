@@ -1,0 +1,59 @@
+/// @file
+/// How every list of a package is walked. Not part of the public interface.
+
+#ifndef QENXML_PARSER_LISTWALK_H
+#define QENXML_PARSER_LISTWALK_H
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <utility>
+#include <vector>
+
+#include <boost/uuid/uuid.hpp>
+#include <pugixml.hpp>
+
+namespace qenxml {
+
+/// Calls @p readItem for each item of the list in @p parent: its first child named @p itemName and
+/// *every* node after that, whatever its name and kind. What stands before the first item is
+/// skipped; a foreign element after it is read as an item, and fails for lack of its identifier.
+template <class ReadItem>
+void walkList(pugi::xml_node parent, const char* itemName, ReadItem readItem) {
+    for (pugi::xml_node node = parent.child(itemName); node; node = node.next_sibling())
+        readItem(node);
+}
+
+/// Leaves one child per identifier: in the place of the first, with the content of the last, as
+/// adding them one by one would. Sorts identifiers instead of searching the list for each child, so
+/// that a list of any length is read in reasonable time; what is replaced is destroyed.
+template <class Child>
+void keepLastOfEachIdentifier(std::vector<Child>& children) {
+    using Entry = std::pair<boost::uuids::uuid, std::size_t>;
+    std::vector<Entry> order;
+    order.reserve(children.size());
+    for (Child& child : children)
+        order.emplace_back(child.id(), order.size());
+    std::sort(order.begin(), order.end());
+    const auto sameIdentifier = [](const Entry& a, const Entry& b) { return a.first == b.first; };
+    if (std::adjacent_find(order.begin(), order.end(), sameIdentifier) == order.end())
+        return;
+
+    std::vector<std::pair<std::size_t, std::size_t>> firstAndLast;
+    for (auto group = order.begin(); group != order.end();) {
+        const auto next = std::find_if(
+            group, order.end(), [&](const Entry& entry) { return !sameIdentifier(entry, *group); });
+        firstAndLast.emplace_back(group->second, std::prev(next)->second);
+        group = next;
+    }
+    std::sort(firstAndLast.begin(), firstAndLast.end());
+    std::vector<Child> kept;
+    kept.reserve(firstAndLast.size());
+    for (const auto& [first, last] : firstAndLast)
+        kept.push_back(std::move(children[last]));
+    children = std::move(kept);
+}
+
+} // namespace qenxml
+
+#endif

@@ -1,0 +1,141 @@
+#ifndef QENXML_PARSER_QENXMLPARSER_H
+#define QENXML_PARSER_QENXMLPARSER_H
+
+#include <string>
+#include <vector>
+
+#include <boost/uuid/uuid.hpp>
+#include <pugixml.hpp>
+
+#include "model/QenExport.h"
+#include "model/QenFarm.h"
+#include "model/QenField.h"
+#include "model/QenGrower.h"
+#include "model/QenRec.h"
+
+class CommercialFertilizerRec;
+class CustomFertilizerRec;
+class PesticideRec;
+class PlantingRec;
+class QenRecData;
+
+/// Reads package files into growers.
+///
+/// A host constructs one parser, calls parseFile() once per package file and then getGrowers().
+///
+/// States: after construction there are no growers. Each parseFile() appends the growers of its
+/// file, also when it fails: those that it read completely before. Growers never go away and are
+/// never merged; QenGrower::merge() combines them.
+///
+/// Errors: what is broken in a package is an exception, raised where it occurs and never caught by
+/// the library. An identifier that is absent, empty or malformed is std::runtime_error with the
+/// text "invalid uuid string", which can be caught as boost::exception too. std::bad_alloc comes
+/// out when memory runs out. Absent names, dates and numbers are no errors: they read as empty
+/// texts and zeros.
+///
+/// The element readers read one element each, whatever its name, and may be called by a host that
+/// has a document of its own. They take the identifiers of the enclosing records, and use nothing
+/// of the parser but the UUID of the package file, which parseRecNode() puts into every rec.
+///
+/// Threads: one parser is used by one thread at a time; separate parsers share nothing.
+///
+/// A parser cannot be copied or moved.
+class QENXML_EXPORT QenXmlParser {
+public:
+    /// A parser without growers.
+    QenXmlParser();
+
+    QenXmlParser(const QenXmlParser&) = delete;
+    QenXmlParser& operator=(const QenXmlParser&) = delete;
+
+    ~QenXmlParser();
+
+    /// Reads a package file and appends its growers, in document order.
+    ///
+    /// The UUID of the package is taken from the path: the 36 characters before the last four,
+    /// whatever the last four are ("….xml"). This comes first, so that a path without a UUID is an
+    /// exception even when the file is fine.
+    ///
+    /// @param path path of the file; at least 40 characters
+    /// @return true when the file was read, even if it holds no grower; false when it cannot be
+    ///         loaded as XML or has no root element "RecPackage"
+    /// @throws std::out_of_range  the path is shorter than 40 characters
+    /// @throws std::runtime_error "invalid uuid string": the path carries no UUID, or an identifier
+    ///                            in the package is absent, empty or malformed. The growers before
+    ///                            the failing one stay; it and the rest of the file are not read.
+    bool parseFile(std::string path);
+
+    /// A copy of all growers read so far, with everything beneath them: call it once after the
+    /// files are read, not per access.
+    std::vector<QenGrower> getGrowers();
+
+    /// Reads a Grower element with its farms.
+    /// @throws std::runtime_error "invalid uuid string"
+    QenGrower parseGrowerNode(pugi::xml_node node);
+
+    /// Reads a Farm element with its fields.
+    /// @param growerId identifier of the enclosing grower
+    /// @param node     the element
+    /// @throws std::runtime_error "invalid uuid string"
+    QenFarm parseFarmNode(boost::uuids::uuid growerId, pugi::xml_node node);
+
+    /// Reads a Field element with its geometry and recs.
+    /// @param growerId identifier of the enclosing grower
+    /// @param farmId   identifier of the enclosing farm
+    /// @param node     the element
+    /// @throws std::runtime_error "invalid uuid string"
+    QenField parseFieldNode(boost::uuids::uuid growerId, boost::uuids::uuid farmId,
+                            pugi::xml_node node);
+
+    /// Reads a Rec element with its product data.
+    /// @param fieldId         identifier of the enclosing field
+    /// @param fieldGeometryId identifier of that field's geometry
+    /// @param node            the element
+    /// @throws std::runtime_error "invalid uuid string"
+    QenRec parseRecNode(boost::uuids::uuid fieldId, boost::uuids::uuid fieldGeometryId,
+                        pugi::xml_node node);
+
+    /// Reads a RecData element: its first child node selects the kind of product. Anything but
+    /// "CommercialFertilizer", "CustomFertilizer" and "Planting" yields null, "Pesticide" included.
+    /// @param recId identifier of the rec
+    /// @param node  the element; may be empty
+    /// @return product data that the caller owns, or null
+    /// @throws std::runtime_error "invalid uuid string"
+    QenRecData* parseRecDataNode(boost::uuids::uuid recId, pugi::xml_node node);
+
+    /// Reads a CommercialFertilizer element.
+    /// @param recId identifier of the rec
+    /// @param node  the element; may be empty
+    /// @return product data that the caller owns, or null when one of the children is missing
+    CommercialFertilizerRec* parseCommercialFertilizerRecDataNode(boost::uuids::uuid recId,
+                                                                  pugi::xml_node node);
+
+    /// Reads a CustomFertilizer element.
+    /// @param recId identifier of the rec
+    /// @param node  the element; may be empty
+    /// @return product data that the caller owns, or null when one of the children is missing
+    /// @throws std::runtime_error "invalid uuid string": all children are there, but "ProductID" is
+    ///                            no UUID
+    CustomFertilizerRec* parseCustomFertilizerRecDataNode(boost::uuids::uuid recId,
+                                                          pugi::xml_node node);
+
+    /// Reads a Planting element.
+    /// @param recId identifier of the rec
+    /// @param node  the element; may be empty
+    /// @return product data that the caller owns, or null when one of the children is missing
+    PlantingRec* parsePlantingRecDataNode(boost::uuids::uuid recId, pugi::xml_node node);
+
+    /// Reads the name and unit of a Pesticide element; its product lines are not read. Reading a
+    /// package never comes here: only a direct call does.
+    /// @param recId identifier of the rec
+    /// @param node  the element; may be empty
+    /// @return product data that the caller owns, or null when one of the children is missing
+    PesticideRec* parsePesticideRecDataNode(boost::uuids::uuid recId, pugi::xml_node node);
+
+private:
+    std::vector<QenGrower> growers_;
+    pugi::xml_document document_;
+    boost::uuids::uuid xmlFileName_{};
+};
+
+#endif
