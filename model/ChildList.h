@@ -1,24 +1,38 @@
 /// @file
-/// What the lists of a grower and of a farm have in common: one child per identifier. Not part of
-/// the public interface.
+/// What the lists of children have in common. Not part of the public interface.
+///
+/// Children come into a list by value: the argument belongs to the operation, which moves from it.
+/// All the same it has to look as if they were copied, and copying a rec drops product data of an
+/// unknown kind.
 
 #ifndef QENXML_MODEL_CHILDLIST_H
 #define QENXML_MODEL_CHILDLIST_H
 
 #include <algorithm>
+#include <utility>
 #include <vector>
+
+class QenFarm;
+class QenField;
+class QenRec;
 
 namespace qenxml {
 
-/// Puts a copy of @p child in the place of the first child with the same identifier, or else
-/// appends it. When memory runs out, the list has not changed.
+/// Deletes the product data that a copy would not have.
+void dropUnknownProductData(QenRec& rec) noexcept;
+void dropUnknownProductData(QenField& field) noexcept;
+void dropUnknownProductData(QenFarm& farm) noexcept;
+
+/// Puts @p child in the place of the first child with the same identifier, or else appends it. When
+/// memory runs out, the list has not changed.
 template <class Child>
-void replaceOrAppend(std::vector<Child>& children, const Child& child) {
+void replaceOrAppend(std::vector<Child>& children, Child& child) {
+    dropUnknownProductData(child);
     const auto present = std::find(children.begin(), children.end(), child);
     if (present != children.end())
-        *present = Child(child);
+        *present = std::move(child);
     else
-        children.push_back(child);
+        children.push_back(std::move(child));
 }
 
 /// Adds each of the @p incoming children to @p children. The incoming child absorbs the present
@@ -28,6 +42,7 @@ template <class Child>
 void mergeChildren(std::vector<Child>& children, std::vector<Child>& incoming) {
     for (Child& child : incoming) {
         const auto present = std::find(children.begin(), children.end(), child);
+        // Absorbs a copy, so that the present child is whole should memory run out on the way.
         if (present != children.end())
             child.merge(*present);
         replaceOrAppend(children, child);

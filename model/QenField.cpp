@@ -1,6 +1,7 @@
 #include "model/QenField.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 
 #include <boost/uuid/uuid_io.hpp>
@@ -108,23 +109,35 @@ void QenField::addFieldGeometry(const QenFieldGeometry& geometry) {
     geometries_.push_back(geometry);
 }
 
+void QenField::appendRec(QenRec& rec) {
+    if (recs_.size() == recs_.capacity()) {
+        // By hand, because the list would copy every rec with its product data to grow.
+        std::vector<QenRec> larger;
+        larger.reserve(std::max<std::size_t>(2 * recs_.size(), 1));
+        for (QenRec& present : recs_)
+            larger.emplace_back().take(present);
+        recs_ = std::move(larger);
+    }
+    recs_.emplace_back().take(rec);
+}
+
 void QenField::addRec(QenRec rec) {
     const auto present = std::find(recs_.begin(), recs_.end(), rec);
     if (present != recs_.end())
-        *present = rec;
+        present->take(rec);
     else
-        recs_.push_back(rec);
+        appendRec(rec);
 }
 
 void QenField::merge(QenField other) {
     if (*this != other)
         return;
-    for (const QenRec& rec : other.recs_) {
+    for (QenRec& rec : other.recs_) {
         if (std::find(recs_.begin(), recs_.end(), rec) == recs_.end())
-            recs_.push_back(rec);
+            appendRec(rec);
     }
-    for (const QenFieldGeometry& geometry : other.geometries_) {
+    for (QenFieldGeometry& geometry : other.geometries_) {
         if (std::find(geometries_.begin(), geometries_.end(), geometry) == geometries_.end())
-            geometries_.push_back(geometry);
+            geometries_.push_back(std::move(geometry));
     }
 }

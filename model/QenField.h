@@ -116,6 +116,9 @@ public:
     void merge(QenField other);
 
 private:
+    /// Appends a rec that is not looked at any more.
+    void appendRec(QenRec& rec);
+
     const QenFieldGeometry* lastGeometry(const boost::uuids::uuid& geometryId) const;
 
     boost::uuids::uuid id_{};

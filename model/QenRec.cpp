@@ -3,6 +3,7 @@
 #include <memory>
 #include <utility>
 
+#include "model/ChildList.h"
 #include "model/CommercialFertilizerRec.h"
 #include "model/CustomFertilizerRec.h"
 #include "model/PesticideRec.h"
@@ -67,69 +68,50 @@ QenRec::QenRec(boost::uuids::uuid fieldId, boost::uuids::uuid fieldGeometryId, s
                std::string rateUom, int rateUomId, double total, int totalUomId,
                std::string totalUom, double area, int areaUomId, std::string areaUom, bool isUsed,
                boost::uuids::uuid xmlFileName)
-    : fieldId_(fieldId),
-      fieldGeometryId_(fieldGeometryId),
-      name_(std::move(name)),
-      id_(id),
-      recGeometry_(recGeometry),
-      creationDate_(std::move(creationDate)),
-      recDbfCol_(std::move(recDbfCol)),
-      operationName_(std::move(operationName)),
-      operationId_(operationId),
-      seasonName_(std::move(seasonName)),
-      seasonId_(seasonId),
-      mgmtZoneId_(mgmtZoneId),
-      recData_(recData),
-      minimumRate_(minimumRate),
-      maximumRate_(maximumRate),
-      averageRate_(averageRate),
-      rateUomId_(rateUomId),
-      rateUom_(std::move(rateUom)),
-      total_(total),
-      totalUomId_(totalUomId),
-      totalUom_(std::move(totalUom)),
-      area_(area),
-      areaUomId_(areaUomId),
-      areaUom_(std::move(areaUom)),
-      isUsed_(isUsed),
-      xmlFileName_(xmlFileName) {}
+    : values_{fieldId,
+              fieldGeometryId,
+              std::move(name),
+              id,
+              recGeometry,
+              std::move(creationDate),
+              {},
+              std::move(recDbfCol),
+              std::move(operationName),
+              operationId,
+              std::move(seasonName),
+              seasonId,
+              mgmtZoneId,
+              minimumRate,
+              maximumRate,
+              averageRate,
+              rateUomId,
+              std::move(rateUom),
+              total,
+              totalUomId,
+              std::move(totalUom),
+              area,
+              areaUomId,
+              std::move(areaUom),
+              isUsed,
+              xmlFileName},
+      recData_(recData) {}
 
-QenRec::QenRec(const QenRec& other) {
-    *this = other;
-}
+QenRec::QenRec(const QenRec& other)
+    : values_(other.values_), recData_(copyOf(other.recData_).release()) {}
 
 QenRec& QenRec::operator=(const QenRec& other) {
     if (this == &other)
         return *this;
-    fieldId_ = other.fieldId_;
-    fieldGeometryId_ = other.fieldGeometryId_;
-    name_ = other.name_;
-    id_ = other.id_;
-    recGeometry_ = other.recGeometry_;
-    creationDate_ = other.creationDate_;
-    editDate_ = other.editDate_;
-    recDbfCol_ = other.recDbfCol_;
-    operationName_ = other.operationName_;
-    operationId_ = other.operationId_;
-    seasonName_ = other.seasonName_;
-    seasonId_ = other.seasonId_;
-    mgmtZoneId_ = other.mgmtZoneId_;
-    minimumRate_ = other.minimumRate_;
-    maximumRate_ = other.maximumRate_;
-    averageRate_ = other.averageRate_;
-    rateUomId_ = other.rateUomId_;
-    rateUom_ = other.rateUom_;
-    total_ = other.total_;
-    totalUomId_ = other.totalUomId_;
-    totalUom_ = other.totalUom_;
-    area_ = other.area_;
-    areaUomId_ = other.areaUomId_;
-    areaUom_ = other.areaUom_;
-    isUsed_ = other.isUsed_;
-    xmlFileName_ = other.xmlFileName_;
-    // The earlier product data is the caller's from here on; the copy constructor has none yet.
+    values_ = other.values_;
+    // The earlier product data is the caller's from here on.
     recData_ = copyOf(other.recData_).release();
     return *this;
+}
+
+void QenRec::take(QenRec& other) noexcept {
+    values_ = std::move(other.values_);
+    qenxml::dropUnknownProductData(other);
+    recData_ = std::exchange(other.recData_, nullptr);
 }
 
 QenRec::~QenRec() {
@@ -137,59 +119,59 @@ QenRec::~QenRec() {
 }
 
 bool QenRec::operator==(const QenRec& other) const {
-    return id_ == other.id_;
+    return values_.id == other.values_.id;
 }
 
 boost::uuids::uuid QenRec::fieldId() {
-    return fieldId_;
+    return values_.fieldId;
 }
 
 boost::uuids::uuid QenRec::fieldGeometryId() {
-    return fieldGeometryId_;
+    return values_.fieldGeometryId;
 }
 
 std::string QenRec::name() {
-    return name_;
+    return values_.name;
 }
 
 boost::uuids::uuid QenRec::id() {
-    return id_;
+    return values_.id;
 }
 
 boost::uuids::uuid QenRec::recGeometry() {
-    return recGeometry_;
+    return values_.recGeometry;
 }
 
 std::string QenRec::creationDate() {
-    return creationDate_;
+    return values_.creationDate;
 }
 
 std::string QenRec::editDate() {
-    return editDate_;
+    return values_.editDate;
 }
 
 std::string QenRec::recDbfCol() {
-    return recDbfCol_;
+    return values_.recDbfCol;
 }
 
 std::string QenRec::operationName() {
-    return operationName_;
+    return values_.operationName;
 }
 
 boost::uuids::uuid QenRec::operationId() {
-    return operationId_;
+    return values_.operationId;
 }
 
 std::string QenRec::seasonName() {
-    return seasonName_;
+    return values_.seasonName;
 }
 
 int QenRec::seasonId() {
-    return seasonId_;
+    return values_.seasonId;
 }
 
 boost::uuids::uuid QenRec::mgmtZoneId() {
-    return mgmtZoneId_;
+    return values_.mgmtZoneId;
 }
 
 QenRecData* QenRec::recData() {
@@ -197,107 +179,107 @@ QenRecData* QenRec::recData() {
 }
 
 double QenRec::minimumRate() {
-    return minimumRate_;
+    return values_.minimumRate;
 }
 
 double QenRec::maximumRate() {
-    return maximumRate_;
+    return values_.maximumRate;
 }
 
 double QenRec::averageRate() {
-    return averageRate_;
+    return values_.averageRate;
 }
 
 int QenRec::rateUomId() {
-    return rateUomId_;
+    return values_.rateUomId;
 }
 
 std::string QenRec::rateUom() {
-    return rateUom_;
+    return values_.rateUom;
 }
 
 double QenRec::total() {
-    return total_;
+    return values_.total;
 }
 
 int QenRec::totalUomId() {
-    return totalUomId_;
+    return values_.totalUomId;
 }
 
 std::string QenRec::totalUom() {
-    return totalUom_;
+    return values_.totalUom;
 }
 
 double QenRec::area() {
-    return area_;
+    return values_.area;
 }
 
 int QenRec::areaUomId() {
-    return areaUomId_;
+    return values_.areaUomId;
 }
 
 std::string QenRec::areaUom() {
-    return areaUom_;
+    return values_.areaUom;
 }
 
 bool QenRec::isUsed() {
-    return isUsed_;
+    return values_.isUsed;
 }
 
 boost::uuids::uuid QenRec::xmlFileName() {
-    return xmlFileName_;
+    return values_.xmlFileName;
 }
 
 void QenRec::setFieldId(boost::uuids::uuid fieldId) {
-    fieldId_ = fieldId;
+    values_.fieldId = fieldId;
 }
 
 void QenRec::setFieldGeometryId(boost::uuids::uuid fieldGeometryId) {
-    fieldGeometryId_ = fieldGeometryId;
+    values_.fieldGeometryId = fieldGeometryId;
 }
 
 void QenRec::setName(std::string name) {
-    name_ = std::move(name);
+    values_.name = std::move(name);
 }
 
 void QenRec::setId(boost::uuids::uuid id) {
-    id_ = id;
+    values_.id = id;
 }
 
 void QenRec::setRecGeometry(boost::uuids::uuid recGeometry) {
-    recGeometry_ = recGeometry;
+    values_.recGeometry = recGeometry;
 }
 
 void QenRec::setCreationDate(std::string creationDate) {
-    creationDate_ = std::move(creationDate);
+    values_.creationDate = std::move(creationDate);
 }
 
 void QenRec::setEditDate(std::string editDate) {
-    editDate_ = std::move(editDate);
+    values_.editDate = std::move(editDate);
 }
 
 void QenRec::setRecDbfCol(std::string recDbfCol) {
-    recDbfCol_ = std::move(recDbfCol);
+    values_.recDbfCol = std::move(recDbfCol);
 }
 
 void QenRec::setOperationName(std::string operationName) {
-    operationName_ = std::move(operationName);
+    values_.operationName = std::move(operationName);
 }
 
 void QenRec::setOperationId(boost::uuids::uuid operationId) {
-    operationId_ = operationId;
+    values_.operationId = operationId;
 }
 
 void QenRec::setSeasonName(std::string seasonName) {
-    seasonName_ = std::move(seasonName);
+    values_.seasonName = std::move(seasonName);
 }
 
 void QenRec::setSeasonId(int seasonId) {
-    seasonId_ = seasonId;
+    values_.seasonId = seasonId;
 }
 
 void QenRec::setMgMtZoneId(boost::uuids::uuid mgmtZoneId) {
-    mgmtZoneId_ = mgmtZoneId;
+    values_.mgmtZoneId = mgmtZoneId;
 }
 
 void QenRec::setRecData(QenRecData* recData) {
@@ -305,53 +287,53 @@ void QenRec::setRecData(QenRecData* recData) {
 }
 
 void QenRec::setMinimumRate(double minimumRate) {
-    minimumRate_ = minimumRate;
+    values_.minimumRate = minimumRate;
 }
 
 void QenRec::setMaximumRate(double maximumRate) {
-    maximumRate_ = maximumRate;
+    values_.maximumRate = maximumRate;
 }
 
 void QenRec::setAverageRate(double averageRate) {
-    averageRate_ = averageRate;
+    values_.averageRate = averageRate;
 }
 
 void QenRec::setRateUomId(int rateUomId) {
-    rateUomId_ = rateUomId;
+    values_.rateUomId = rateUomId;
 }
 
 void QenRec::setRateUom(std::string rateUom) {
-    rateUom_ = std::move(rateUom);
+    values_.rateUom = std::move(rateUom);
 }
 
 void QenRec::setTotal(double total) {
-    total_ = total;
+    values_.total = total;
 }
 
 void QenRec::setTotalUomId(int totalUomId) {
-    totalUomId_ = totalUomId;
+    values_.totalUomId = totalUomId;
 }
 
 void QenRec::setTotalUom(std::string totalUom) {
-    totalUom_ = std::move(totalUom);
+    values_.totalUom = std::move(totalUom);
 }
 
 void QenRec::setArea(double area) {
-    area_ = area;
+    values_.area = area;
 }
 
 void QenRec::setAreaUomId(int areaUomId) {
-    areaUomId_ = areaUomId;
+    values_.areaUomId = areaUomId;
 }
 
 void QenRec::setAreaUom(std::string areaUom) {
-    areaUom_ = std::move(areaUom);
+    values_.areaUom = std::move(areaUom);
 }
 
 void QenRec::setIsUsed(bool isUsed) {
-    isUsed_ = isUsed;
+    values_.isUsed = isUsed;
 }
 
 void QenRec::setXmlFileName(boost::uuids::uuid xmlFileName) {
-    xmlFileName_ = xmlFileName;
+    values_.xmlFileName = xmlFileName;
 }

@@ -132,35 +132,44 @@ public:
     void setXmlFileName(boost::uuids::uuid xmlFileName); ///< Sets xmlFileName().
 
 private:
-    friend class QenField; // Its look-ups read const recs without copying them.
+    friend class QenField; // Takes recs over and reads const ones without copying them.
 
-    boost::uuids::uuid fieldId_{};
-    boost::uuids::uuid fieldGeometryId_{};
-    std::string name_;
-    boost::uuids::uuid id_{};
-    boost::uuids::uuid recGeometry_{};
-    std::string creationDate_;
-    std::string editDate_;
-    std::string recDbfCol_;
-    std::string operationName_;
-    boost::uuids::uuid operationId_{};
-    std::string seasonName_;
-    int seasonId_ = -1;
-    boost::uuids::uuid mgmtZoneId_{};
+    /// All that a rec holds beside its product data, as one value that copies and moves by itself.
+    struct Values {
+        boost::uuids::uuid fieldId{};
+        boost::uuids::uuid fieldGeometryId{};
+        std::string name;
+        boost::uuids::uuid id{};
+        boost::uuids::uuid recGeometry{};
+        std::string creationDate;
+        std::string editDate;
+        std::string recDbfCol;
+        std::string operationName;
+        boost::uuids::uuid operationId{};
+        std::string seasonName;
+        int seasonId = -1;
+        boost::uuids::uuid mgmtZoneId{};
+        double minimumRate = 0.0;
+        double maximumRate = 0.0;
+        double averageRate = 0.0;
+        int rateUomId = -1;
+        std::string rateUom;
+        double total = 0.0;
+        int totalUomId = -1;
+        std::string totalUom;
+        double area = 0.0;
+        int areaUomId = -1;
+        std::string areaUom;
+        bool isUsed = false;
+        boost::uuids::uuid xmlFileName{};
+    };
+
+    /// Takes the content of @p other over, where nobody will look at @p other again. Like copying,
+    /// it drops product data of an unknown kind and leaves that which this rec held before alone.
+    void take(QenRec& other) noexcept;
+
+    Values values_;
     QenRecData* recData_ = nullptr;
-    double minimumRate_ = 0.0;
-    double maximumRate_ = 0.0;
-    double averageRate_ = 0.0;
-    int rateUomId_ = -1;
-    std::string rateUom_;
-    double total_ = 0.0;
-    int totalUomId_ = -1;
-    std::string totalUom_;
-    double area_ = 0.0;
-    int areaUomId_ = -1;
-    std::string areaUom_;
-    bool isUsed_ = false;
-    boost::uuids::uuid xmlFileName_{};
 };
 
 #endif
