@@ -1,0 +1,19 @@
+/// @file
+/// Conversion of text to doubles. Not part of the public interface.
+
+#ifndef QENXML_PARSER_NUMBER_H
+#define QENXML_PARSER_NUMBER_H
+
+namespace qenxml {
+
+/// The number at the front of @p text, by the rules of strtod() in the "C" locale: white space is
+/// skipped; decimal, hexadecimal, "inf" and "nan" are read; what follows the number is ignored; a
+/// text without a number is 0.0, one out of range an infinity or the nearest small number.
+///
+/// The decimal point is a point, whatever locale the host has set: the conversion of the XML
+/// library follows that locale and would read "12.75" as 12 where the comma is in use.
+double numberFromText(const char* text);
+
+} // namespace qenxml
+
+#endif
