@@ -8,9 +8,9 @@ namespace tag = qenxml::tag;
 QenFarm QenXmlParser::parseFarmNode(boost::uuids::uuid growerId, pugi::xml_node node) {
     QenFarm farm(node.child(tag::FarmName).child_value(),
                  qenxml::uuidFromText(node.attribute(tag::FarmID).as_string()), growerId);
-    qenxml::walkList(node, tag::Field, [&](pugi::xml_node field) {
-        farm.fields().push_back(parseFieldNode(growerId, farm.id(), field));
+    std::vector<QenField>& fields = farm.fields();
+    qenxml::readChildren(fields, node.child(tag::Field), [&](pugi::xml_node field) {
+        fields.push_back(parseFieldNode(growerId, farm.id(), field));
     });
-    qenxml::keepLastOfEachIdentifier(farm.fields());
     return farm;
 }

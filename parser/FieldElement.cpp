@@ -1,27 +1,43 @@
+#include "parser/ChildCursor.h"
 #include "parser/Identifier.h"
 #include "parser/ListWalk.h"
+#include "parser/Number.h"
 #include "parser/QenXmlParser.h"
+#include "parser/RecElement.h"
 #include "parser/TagNames.h"
 
 namespace tag = qenxml::tag;
 
+namespace {
+
+LLA readCentroid(pugi::xml_node node) {
+    qenxml::ChildCursor children(node);
+    LLA centroid{};
+    centroid.latitude = qenxml::numberFromText(children.child(tag::Latitude).text().as_string());
+    centroid.longitude = qenxml::numberFromText(children.child(tag::Longitude).text().as_string());
+    return centroid;
+}
+
+} // namespace
+
 QenField QenXmlParser::parseFieldNode(boost::uuids::uuid growerId, boost::uuids::uuid farmId,
                                       pugi::xml_node node) {
-    const auto text = [&](const char* name) { return node.child(name).child_value(); };
+    qenxml::ChildCursor children(node);
+    const auto text = [&](const char* name) { return children.child(name).child_value(); };
 
     const boost::uuids::uuid id = qenxml::uuidFromText(node.attribute(tag::FieldID).as_string());
+    const char* const name = text(tag::FieldName);
     const boost::uuids::uuid geometryId = qenxml::uuidFromText(text(tag::FieldGeometryID));
+    const char* const geometryDate = text(tag::FieldGeometryDate);
     const boost::uuids::uuid geometry = qenxml::uuidFromText(text(tag::FieldGeometry));
-    const pugi::xml_node centroidNode = node.child(tag::FieldCentroid);
-    LLA centroid{};
-    centroid.latitude = centroidNode.child(tag::Latitude).text().as_double();
-    centroid.longitude = centroidNode.child(tag::Longitude).text().as_double();
+    LLA centroid = readCentroid(children.child(tag::FieldCentroid));
 
-    QenField field(text(tag::FieldName), id, growerId, farmId, text(tag::FieldGeometryDate),
-                   geometryId, geometry, centroid);
-    qenxml::walkList(node.child(tag::Recommendations), tag::Rec, [&](pugi::xml_node rec) {
-        field.recs().push_back(parseRecNode(id, geometryId, rec));
+    QenField field(name, id, growerId, farmId, geometryDate, geometryId, geometry, centroid);
+    std::vector<QenRec>& recs = field.recs();
+    const pugi::xml_node firstRec = children.child(tag::Recommendations).child(tag::Rec);
+    qenxml::readChildren(recs, firstRec, [&](pugi::xml_node rec) {
+        // In its place from the start: a rec cannot be moved.
+        qenxml::readRec(id, geometryId, xmlFileName_, rec, recs.emplace_back());
     });
-    qenxml::keepLastOfEachIdentifier(field.recs());
     return field;
 }

@@ -8,9 +8,9 @@ namespace tag = qenxml::tag;
 QenGrower QenXmlParser::parseGrowerNode(pugi::xml_node node) {
     QenGrower grower(node.child(tag::GrowerName).child_value(),
                      qenxml::uuidFromText(node.attribute(tag::GrowerID).as_string()));
-    qenxml::walkList(node, tag::Farm, [&](pugi::xml_node farm) {
-        grower.farms().push_back(parseFarmNode(grower.id(), farm));
+    std::vector<QenFarm>& farms = grower.farms();
+    qenxml::readChildren(farms, node.child(tag::Farm), [&](pugi::xml_node farm) {
+        farms.push_back(parseFarmNode(grower.id(), farm));
     });
-    qenxml::keepLastOfEachIdentifier(grower.farms());
     return grower;
 }

@@ -15,13 +15,24 @@
 
 namespace qenxml {
 
-/// Calls @p readItem for each item of the list in @p parent: its first child named @p itemName and
-/// *every* node after that, whatever its name and kind. What stands before the first item is
-/// skipped; a foreign element after it is read as an item, and fails for lack of its identifier.
+/// Calls @p readItem for each item of a list: its first item and *every* node after that in the
+/// same parent, whatever its name and kind. What stands before the first item is skipped; a foreign
+/// element after it is read as an item, and fails for lack of its identifier.
 template <class ReadItem>
-void walkList(pugi::xml_node parent, const char* itemName, ReadItem readItem) {
-    for (pugi::xml_node node = parent.child(itemName); node; node = node.next_sibling())
+void walkList(pugi::xml_node firstItem, ReadItem readItem) {
+    for (pugi::xml_node node = firstItem; node; node = node.next_sibling())
         readItem(node);
+}
+
+/// Makes room for the items of a list, so that it does not grow step by step. A limit keeps a file
+/// of many tiny items from claiming much more memory than its own size before any of them is read.
+template <class Child>
+void reserveForItems(std::vector<Child>& children, pugi::xml_node firstItem) {
+    constexpr std::size_t limit = 4096;
+    std::size_t count = 0;
+    for (pugi::xml_node node = firstItem; node && count < limit; node = node.next_sibling())
+        ++count;
+    children.reserve(count);
 }
 
 /// Leaves one child per identifier: in the place of the first, with the content of the last, as
@@ -52,6 +63,14 @@ void keepLastOfEachIdentifier(std::vector<Child>& children) {
     for (const auto& [first, last] : firstAndLast)
         kept.push_back(std::move(children[last]));
     children = std::move(kept);
+}
+
+/// Reads a whole list of children, one per identifier. @p readItem appends the item of a node.
+template <class Child, class ReadItem>
+void readChildren(std::vector<Child>& children, pugi::xml_node firstItem, ReadItem readItem) {
+    reserveForItems(children, firstItem);
+    walkList(firstItem, readItem);
+    keepLastOfEachIdentifier(children);
 }
 
 } // namespace qenxml

@@ -38,7 +38,7 @@ bool QenXmlParser::parseFile(std::string path) {
     if (package.empty())
         return false;
 
-    qenxml::walkList(package, qenxml::tag::Grower,
+    qenxml::walkList(package.child(qenxml::tag::Grower),
                      [this](pugi::xml_node node) { growers_.push_back(parseGrowerNode(node)); });
     return true;
 }

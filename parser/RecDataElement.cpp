@@ -1,4 +1,5 @@
-#include <memory>
+#include "parser/RecDataElement.h"
+
 #include <string_view>
 #include <vector>
 
@@ -13,21 +14,10 @@
 
 namespace tag = qenxml::tag;
 
-QenRecData* QenXmlParser::parseRecDataNode(boost::uuids::uuid recId, pugi::xml_node node) {
-    // Only the first node counts, and it may be a text, whose name is empty.
-    const pugi::xml_node product = node.first_child();
-    const std::string_view kind = product.name();
-    if (kind == tag::CommercialFertilizer)
-        return parseCommercialFertilizerRecDataNode(recId, product);
-    if (kind == tag::CustomFertilizer)
-        return parseCustomFertilizerRecDataNode(recId, product);
-    if (kind == tag::Planting)
-        return parsePlantingRecDataNode(recId, product);
-    return nullptr; // A pesticide mix is not read from packages, on purpose.
-}
+namespace {
 
-CommercialFertilizerRec*
-QenXmlParser::parseCommercialFertilizerRecDataNode(boost::uuids::uuid recId, pugi::xml_node node) {
+std::unique_ptr<CommercialFertilizerRec> readCommercialFertilizer(const boost::uuids::uuid& recId,
+                                                                  pugi::xml_node node) {
     qenxml::RequiredChildren child(node);
     const int productId = child.integer(tag::ProductID);
     const char* productName = child.text(tag::ProductName);
@@ -35,12 +25,11 @@ QenXmlParser::parseCommercialFertilizerRecDataNode(boost::uuids::uuid recId, pug
     const char* uom = child.text(tag::UOM);
     if (!child.complete())
         return nullptr;
-    return std::make_unique<CommercialFertilizerRec>(recId, productId, productName, uomId, uom)
-        .release();
+    return std::make_unique<CommercialFertilizerRec>(recId, productId, productName, uomId, uom);
 }
 
-CustomFertilizerRec* QenXmlParser::parseCustomFertilizerRecDataNode(boost::uuids::uuid recId,
-                                                                    pugi::xml_node node) {
+std::unique_ptr<CustomFertilizerRec> readCustomFertilizer(const boost::uuids::uuid& recId,
+                                                          pugi::xml_node node) {
     qenxml::RequiredChildren child(node);
     const char* productId = child.text(tag::ProductID);
     const char* productName = child.text(tag::ProductName);
@@ -66,12 +55,11 @@ CustomFertilizerRec* QenXmlParser::parseCustomFertilizerRecDataNode(boost::uuids
     // Only now, so that a missing child yields null even when the identifier is malformed.
     const boost::uuids::uuid productUuid = qenxml::uuidFromText(productId);
     return std::make_unique<CustomFertilizerRec>(
-               recId, productUuid, productName, uomId, uom, sFertT_ID, spGravity, pct_N, pct_P,
-               pct_K, pct_Ca, pct_Mg, pct_S, pct_Fe, pct_Mn, pct_Zn, pct_Cu, pct_B, pct_Mo, pct_Cl)
-        .release();
+        recId, productUuid, productName, uomId, uom, sFertT_ID, spGravity, pct_N, pct_P, pct_K,
+        pct_Ca, pct_Mg, pct_S, pct_Fe, pct_Mn, pct_Zn, pct_Cu, pct_B, pct_Mo, pct_Cl);
 }
 
-PlantingRec* QenXmlParser::parsePlantingRecDataNode(boost::uuids::uuid recId, pugi::xml_node node) {
+std::unique_ptr<PlantingRec> readPlanting(const boost::uuids::uuid& recId, pugi::xml_node node) {
     qenxml::RequiredChildren child(node);
     const int cropId = child.integer(tag::CropID);
     const char* cropName = child.text(tag::CropName);
@@ -84,12 +72,10 @@ PlantingRec* QenXmlParser::parsePlantingRecDataNode(boost::uuids::uuid recId, pu
     if (!child.complete())
         return nullptr;
     return std::make_unique<PlantingRec>(recId, cropId, cropName, companyId, companyName, varietyId,
-                                         varietyName, uomId, uom)
-        .release();
+                                         varietyName, uomId, uom);
 }
 
-PesticideRec* QenXmlParser::parsePesticideRecDataNode(boost::uuids::uuid recId,
-                                                      pugi::xml_node node) {
+std::unique_ptr<PesticideRec> readPesticide(const boost::uuids::uuid& recId, pugi::xml_node node) {
     qenxml::RequiredChildren child(node);
     const char* pesticideMixName = child.text(tag::PesticideMixName);
     const int uomId = child.integer(tag::UOMID);
@@ -98,6 +84,44 @@ PesticideRec* QenXmlParser::parsePesticideRecDataNode(boost::uuids::uuid recId,
         return nullptr;
     return std::make_unique<PesticideRec>(recId, std::vector<PesticideByPercent>(),
                                           std::vector<PesticideByAmount>(), pesticideMixName, uomId,
-                                          uom)
-        .release();
+                                          uom);
+}
+
+} // namespace
+
+std::unique_ptr<QenRecData> qenxml::readRecData(const boost::uuids::uuid& recId,
+                                                pugi::xml_node node) {
+    // Only the first node counts, and it may be a text, whose name is empty.
+    const pugi::xml_node product = node.first_child();
+    const std::string_view kind = product.name();
+    if (kind == tag::CommercialFertilizer)
+        return readCommercialFertilizer(recId, product);
+    if (kind == tag::CustomFertilizer)
+        return readCustomFertilizer(recId, product);
+    if (kind == tag::Planting)
+        return readPlanting(recId, product);
+    return nullptr; // A pesticide mix is not read from packages, on purpose.
+}
+
+QenRecData* QenXmlParser::parseRecDataNode(boost::uuids::uuid recId, pugi::xml_node node) {
+    return qenxml::readRecData(recId, node).release();
+}
+
+CommercialFertilizerRec*
+QenXmlParser::parseCommercialFertilizerRecDataNode(boost::uuids::uuid recId, pugi::xml_node node) {
+    return readCommercialFertilizer(recId, node).release();
+}
+
+CustomFertilizerRec* QenXmlParser::parseCustomFertilizerRecDataNode(boost::uuids::uuid recId,
+                                                                    pugi::xml_node node) {
+    return readCustomFertilizer(recId, node).release();
+}
+
+PlantingRec* QenXmlParser::parsePlantingRecDataNode(boost::uuids::uuid recId, pugi::xml_node node) {
+    return readPlanting(recId, node).release();
+}
+
+PesticideRec* QenXmlParser::parsePesticideRecDataNode(boost::uuids::uuid recId,
+                                                      pugi::xml_node node) {
+    return readPesticide(recId, node).release();
 }

@@ -1,6 +1,11 @@
+#include "parser/RecElement.h"
+
 #include "model/QenRecData.h"
+#include "parser/ChildCursor.h"
 #include "parser/Identifier.h"
+#include "parser/Number.h"
 #include "parser/QenXmlParser.h"
+#include "parser/RecDataElement.h"
 #include "parser/TagNames.h"
 
 namespace tag = qenxml::tag;
@@ -34,43 +39,53 @@ void readSeason(pugi::xml_node season, QenRec& rec) {
 /// Without the element the statistics read as zeros: the unit codes become 0, unlike the -1 of a
 /// rec that was not read from a package.
 void readStatistics(pugi::xml_node statistics, QenRec& rec) {
-    const auto text = [&](const char* name) { return statistics.child(name).text(); };
-    rec.setMinimumRate(text(tag::MinimumRate).as_double());
-    rec.setMaximumRate(text(tag::MaximumRate).as_double());
-    rec.setAverageRate(text(tag::AverageRate).as_double());
+    qenxml::ChildCursor children(statistics);
+    const auto text = [&](const char* name) { return children.child(name).text(); };
+    const auto number = [&](const char* name) {
+        return qenxml::numberFromText(text(name).as_string());
+    };
+    rec.setMinimumRate(number(tag::MinimumRate));
+    rec.setMaximumRate(number(tag::MaximumRate));
+    rec.setAverageRate(number(tag::AverageRate));
     rec.setRateUomId(text(tag::RateUOMID).as_int());
     rec.setRateUom(text(tag::RateUOM).as_string());
-    rec.setTotal(text(tag::Total).as_double());
+    rec.setTotal(number(tag::Total));
     rec.setTotalUomId(text(tag::TotalUOMID).as_int());
     rec.setTotalUom(text(tag::TotalUOM).as_string());
-    rec.setArea(text(tag::Area).as_double());
+    rec.setArea(number(tag::Area));
     rec.setAreaUomId(text(tag::AreaUOMID).as_int());
     rec.setAreaUom(text(tag::AreaUOM).as_string());
 }
 
 } // namespace
 
-QenRec QenXmlParser::parseRecNode(boost::uuids::uuid fieldId, boost::uuids::uuid fieldGeometryId,
-                                  pugi::xml_node node) {
-    const auto text = [&](const char* name) { return node.child(name).text().as_string(); };
+void qenxml::readRec(const boost::uuids::uuid& fieldId, const boost::uuids::uuid& fieldGeometryId,
+                     const boost::uuids::uuid& package, pugi::xml_node node, QenRec& rec) {
+    ChildCursor children(node);
+    const auto text = [&](const char* name) { return children.child(name).text().as_string(); };
 
-    QenRec rec;
     rec.setFieldId(fieldId);
     rec.setFieldGeometryId(fieldGeometryId);
-    rec.setName(node.child(tag::RecName).child_value());
+    rec.setName(children.child(tag::RecName).child_value());
     rec.setId(identifierAttribute(node, tag::RecID));
-    rec.setRecGeometry(qenxml::uuidFromText(text(tag::RecGeometry)));
+    rec.setRecGeometry(uuidFromText(text(tag::RecGeometry)));
     rec.setCreationDate(text(tag::CreationDate));
     rec.setEditDate(text(tag::EditDate));
     rec.setRecDbfCol(text(tag::RecDBFCol));
-    readOperation(node.child(tag::Operation), rec);
-    readSeason(node.child(tag::Season), rec);
+    readOperation(children.child(tag::Operation), rec);
+    readSeason(children.child(tag::Season), rec);
     // The management zone alone may be empty: most recs have none.
-    if (*node.attribute(tag::MgmtZoneID).as_string() != '\0')
-        rec.setMgMtZoneId(identifierAttribute(node, tag::MgmtZoneID));
-    // The rec owns the data from the moment it exists, so a later failure leaks nothing.
-    rec.setRecData(parseRecDataNode(rec.id(), node.child(tag::RecData)));
-    readStatistics(node.child(tag::RecStats), rec);
-    rec.setXmlFileName(xmlFileName_);
+    const char* const zone = node.attribute(tag::MgmtZoneID).as_string();
+    if (*zone != '\0')
+        rec.setMgMtZoneId(uuidFromText(zone));
+    rec.setRecData(readRecData(rec.id(), children.child(tag::RecData)).release());
+    readStatistics(children.child(tag::RecStats), rec);
+    rec.setXmlFileName(package);
+}
+
+QenRec QenXmlParser::parseRecNode(boost::uuids::uuid fieldId, boost::uuids::uuid fieldGeometryId,
+                                  pugi::xml_node node) {
+    QenRec rec;
+    qenxml::readRec(fieldId, fieldGeometryId, xmlFileName_, node, rec);
     return rec;
 }

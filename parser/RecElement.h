@@ -1,0 +1,21 @@
+/// @file
+/// Reading a Rec element into a rec that is in its place already. Not part of the public interface.
+
+#ifndef QENXML_PARSER_RECELEMENT_H
+#define QENXML_PARSER_RECELEMENT_H
+
+#include <boost/uuid/uuid.hpp>
+#include <pugixml.hpp>
+
+#include "model/QenRec.h"
+
+namespace qenxml {
+
+/// Fills @p rec, which is freshly constructed.
+/// @throws std::runtime_error "invalid uuid string"
+void readRec(const boost::uuids::uuid& fieldId, const boost::uuids::uuid& fieldGeometryId,
+             const boost::uuids::uuid& package, pugi::xml_node node, QenRec& rec);
+
+} // namespace qenxml
+
+#endif
