@@ -117,9 +117,10 @@ public:
 
 private:
     /// Appends a rec that is not looked at any more.
-    void appendRec(QenRec& rec);
+    QENXML_LOCAL void appendRec(QenRec& rec);
 
-    const QenFieldGeometry* lastGeometry(const boost::uuids::uuid& geometryId) const;
+    /// The last of the geometries with the identifier, or null.
+    QENXML_LOCAL const QenFieldGeometry* lastGeometry(const boost::uuids::uuid& geometryId) const;
 
     boost::uuids::uuid id_{};
     boost::uuids::uuid growerId_{};

@@ -166,7 +166,7 @@ private:
 
     /// Takes the content of @p other over, where nobody will look at @p other again. Like copying,
     /// it drops product data of an unknown kind and leaves that which this rec held before alone.
-    void take(QenRec& other) noexcept;
+    QENXML_LOCAL void take(QenRec& other) noexcept;
 
     Values values_;
     QenRecData* recData_ = nullptr;

@@ -12,23 +12,22 @@ namespace qenxml {
 
 /// Finds children by name as xml_node::child() does: the first of a name. Asking for them in the
 /// order in which packages have them is fast, because the next child is then the one asked for;
-/// any other order searches from the front. Each name must be asked for once only.
+/// any other order searches. Each name must be asked for once only.
 class ChildCursor {
 public:
-    explicit ChildCursor(pugi::xml_node parent) : parent_(parent), next_(parent.first_child()) {}
+    explicit ChildCursor(pugi::xml_node parent) : next_(parent.first_child()) {}
 
     /// The first child named @p name, or an empty node.
     pugi::xml_node child(const char* name) {
         // All children before next_ were asked for by other names, so none of them has this one.
         if (std::strcmp(next_.name(), name) != 0)
-            return parent_.child(name);
+            return next_.next_sibling(name);
         const pugi::xml_node found = next_;
         next_ = next_.next_sibling();
         return found;
     }
 
 private:
-    pugi::xml_node parent_;
     pugi::xml_node next_;
 };
 
