@@ -1,0 +1,57 @@
+# The library: qenxml::qenxml, its installation and its package configuration.
+
+include(CMakePackageConfigHelpers)
+include(GNUInstallDirs)
+
+find_package(pugixml REQUIRED)
+find_package(Boost 1.55 REQUIRED OPTIONAL_COMPONENTS system)
+
+file(GLOB qenxml_sources CONFIGURE_DEPENDS model/*.cpp parser/*.cpp)
+file(GLOB qenxml_model_headers CONFIGURE_DEPENDS model/*.h)
+list(FILTER qenxml_model_headers EXCLUDE REGEX "/ChildList\\.h$") # internal
+set(qenxml_parser_headers ${CMAKE_CURRENT_SOURCE_DIR}/parser/QenXmlParser.h)
+
+add_library(qenxml ${qenxml_sources})
+add_library(qenxml::qenxml ALIAS qenxml)
+
+target_compile_features(qenxml PUBLIC cxx_std_17)
+target_include_directories(qenxml PUBLIC
+    $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/qenxml>)
+target_link_libraries(qenxml
+    PUBLIC pugixml::pugixml Boost::headers
+    PRIVATE $<BUILD_INTERFACE:qenxml_developer_flags>)
+if(TARGET Boost::system)
+    # Its error categories; a library of its own only in some installations of Boost.
+    target_link_libraries(qenxml PRIVATE Boost::system)
+endif()
+
+set_target_properties(qenxml PROPERTIES
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON
+    POSITION_INDEPENDENT_CODE ON
+    VERSION ${PROJECT_VERSION}
+    SOVERSION ${PROJECT_VERSION_MAJOR})
+if(BUILD_SHARED_LIBS)
+    set(export_map ${CMAKE_CURRENT_SOURCE_DIR}/libqenxml.map)
+    target_link_options(qenxml PRIVATE LINKER:--version-script=${export_map} LINKER:--no-undefined)
+    set_property(TARGET qenxml APPEND PROPERTY LINK_DEPENDS ${export_map})
+endif()
+
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/qenxml)
+install(TARGETS qenxml EXPORT qenxmlTargets
+    RUNTIME COMPONENT Runtime
+    LIBRARY COMPONENT Runtime NAMELINK_COMPONENT Development
+    ARCHIVE COMPONENT Development)
+install(FILES ${qenxml_model_headers}
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/qenxml/model COMPONENT Development)
+install(FILES ${qenxml_parser_headers}
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/qenxml/parser COMPONENT Development)
+install(EXPORT qenxmlTargets NAMESPACE qenxml::
+    DESTINATION ${package_dir} COMPONENT Development)
+configure_package_config_file(cmake/qenxmlConfig.cmake.in qenxmlConfig.cmake
+    INSTALL_DESTINATION ${package_dir})
+write_basic_package_version_file(qenxmlConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/qenxmlConfig.cmake
+              ${CMAKE_CURRENT_BINARY_DIR}/qenxmlConfigVersion.cmake
+    DESTINATION ${package_dir} COMPONENT Development)

@@ -1,0 +1,43 @@
+#include "model/CommercialFertilizerRec.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/Signatures.h"
+#include "tests/support/Uuids.h"
+
+namespace {
+
+using boost::uuids::uuid;
+using std::string;
+using test::hasType;
+using Rec = CommercialFertilizerRec;
+
+static_assert(std::is_base_of_v<QenRecData, Rec>);
+static_assert(std::is_convertible_v<Rec*, QenRecData*>, "the base is public");
+static_assert(std::has_virtual_destructor_v<Rec>);
+static_assert(!std::is_default_constructible_v<Rec>);
+static_assert(std::is_constructible_v<Rec, const uuid&, const int&, const string&, const int&,
+                                      const string&>);
+static_assert(!std::is_constructible_v<Rec, const uuid&, const uuid&, const string&, const int&,
+                                       const string&>,
+              "the product identifier is a number");
+static_assert(hasType<test::Getter<Rec, int>>(&Rec::productId));
+static_assert(hasType<test::Getter<Rec, string>>(&Rec::productName));
+static_assert(hasType<test::Getter<Rec, int>>(&Rec::uomId));
+static_assert(hasType<test::Getter<Rec, string>>(&Rec::uom));
+
+} // namespace
+
+TEST(CommercialFertilizerRec, ReturnsEveryValueThatItWasBuiltWith) {
+    CommercialFertilizerRec data(test::uuid(1), 2, "product", 3, "unit");
+    EXPECT_EQ(data.recId(), test::uuid(1));
+    EXPECT_EQ(data.productId(), 2);
+    EXPECT_EQ(data.productName(), "product");
+    EXPECT_EQ(data.uomId(), 3);
+    EXPECT_EQ(data.uom(), "unit");
+}
+
+TEST(CommercialFertilizerRec, IsOfTheKindCommercialFertilizer) {
+    CommercialFertilizerRec data(test::uuid(1), 2, "product", 3, "unit");
+    EXPECT_EQ(data.recType(), RecTypeCommercialFertilizer);
+}

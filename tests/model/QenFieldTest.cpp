@@ -1,0 +1,478 @@
+#include "model/QenField.h"
+
+#include <algorithm>
+#include <iterator>
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include "model/PlantingRec.h"
+#include "tests/model/Allocations.h"
+#include "tests/support/Describe.h"
+#include "tests/support/Signatures.h"
+#include "tests/support/Uuids.h"
+
+namespace {
+
+using boost::uuids::uuid;
+using std::string;
+using test::describe;
+using test::hasType;
+
+template <class Value>
+using ConstGetter = test::ConstGetter<QenField, Value>;
+
+template <class Value>
+using LookUp = Value (QenField::*)(const uuid&) const;
+
+static_assert(!std::is_polymorphic_v<QenField>, "nothing virtual, the destructor included");
+static_assert(std::is_default_constructible_v<QenField>);
+static_assert(
+    std::is_constructible_v<QenField, const string&, const uuid&, const uuid&, const uuid&>);
+static_assert(std::is_constructible_v<QenField, const string&, const uuid&, const uuid&,
+                                      const uuid&, const string&, const uuid&, const uuid&, LLA&>);
+static_assert(
+    !std::is_constructible_v<QenField, const string&, const uuid&, const uuid&, const uuid&,
+                             const string&, const uuid&, const uuid&, const LLA&>,
+    "the centroid is taken by non-const reference");
+static_assert(std::is_copy_constructible_v<QenField> && std::is_copy_assignable_v<QenField>);
+static_assert(hasType<ConstGetter<string>>(&QenField::name));
+static_assert(hasType<test::Setter<QenField, string>>(&QenField::setName));
+static_assert(hasType<ConstGetter<uuid>>(&QenField::id));
+static_assert(hasType<ConstGetter<uuid>>(&QenField::growerId));
+static_assert(hasType<ConstGetter<uuid>>(&QenField::farmId));
+static_assert(hasType<LookUp<string>>(&QenField::geometryDate));
+static_assert(hasType<LookUp<string>>(&QenField::geometryFileName));
+static_assert(hasType<LookUp<uuid>>(&QenField::geometryFileId));
+static_assert(hasType<LookUp<LLA>>(&QenField::centroid));
+static_assert(hasType<ConstGetter<std::vector<QenFieldGeometry>>>(&QenField::geometries),
+              "a copy, unlike recs()");
+static_assert(hasType<test::Getter<QenField, std::vector<QenRec>&>>(&QenField::recs));
+static_assert(hasType<QenRec (QenField::*)(uuid) const>(&QenField::rec));
+static_assert(hasType<test::Comparison<QenField>>(&QenField::operator==));
+static_assert(hasType<test::Comparison<QenField>>(&QenField::operator!=));
+static_assert(
+    hasType<test::Setter<QenField, const QenFieldGeometry&>>(&QenField::addFieldGeometry));
+static_assert(hasType<test::Setter<QenField, QenRec>>(&QenField::addRec));
+static_assert(hasType<test::Setter<QenField, QenField>>(&QenField::merge));
+
+QenField fieldWithGeometry() {
+    LLA centroid{1.5, 2.5, 3.5};
+    return QenField("field", test::uuid(1), test::uuid(2), test::uuid(3), "date", test::uuid(4),
+                    test::uuid("00112233-4455-6677-8899-aabbccddeeff"), centroid);
+}
+
+QenFieldGeometry geometry(unsigned id, const string& date, unsigned file = 90) {
+    return QenFieldGeometry(test::uuid(id), date, test::uuid(file), LLA{file + 0.5, 2.0, 3.0});
+}
+
+/// A rec with an id and a name, and with product data of the given recId unless it is 0.
+QenRec makeRec(unsigned id, const string& name, unsigned recId = 0) {
+    QenRec rec;
+    rec.setId(test::uuid(id));
+    rec.setName(name);
+    if (recId != 0)
+        rec.setRecData(
+            new PlantingRec(test::uuid(recId), 1, name, 2, "company", 3, "variety", 4, "seeds"));
+    return rec;
+}
+
+/// A rec whose product data is of a kind that copies drop.
+QenRec recOfUnknownKind(unsigned id) {
+    return QenRec({}, {}, "unknown", test::uuid(id), {}, "", "", "", {}, "", 0, {},
+                  new QenRecData(test::uuid(99), static_cast<RecType>(5)), 0.0, 0.0, 0.0, "", 0,
+                  0.0, 0, "", 0.0, 0, "", false, {});
+}
+
+std::vector<string> recNames(QenField field) {
+    std::vector<string> result;
+    for (QenRec& rec : field.recs())
+        result.push_back(rec.name());
+    return result;
+}
+
+std::vector<string> dates(const QenField& field) {
+    std::vector<string> result;
+    for (QenFieldGeometry& geometry : field.geometries())
+        result.push_back(geometry.geometryDate());
+    return result;
+}
+
+using Texts = std::vector<string>;
+
+} // namespace
+
+TEST(QenField, IsEmptyByDefault) {
+    QenField field;
+    EXPECT_EQ(field.name(), "");
+    EXPECT_EQ(field.id(), uuid{});
+    EXPECT_EQ(field.growerId(), uuid{});
+    EXPECT_EQ(field.farmId(), uuid{});
+    EXPECT_EQ(dates(field), Texts{});
+    EXPECT_EQ(recNames(field), Texts{});
+}
+
+TEST(QenField, ReturnsTheNameAndIdentifiersThatItWasBuiltWith) {
+    const QenField field("field", test::uuid(1), test::uuid(2), test::uuid(3));
+    EXPECT_EQ(field.name(), "field");
+    EXPECT_EQ(field.id(), test::uuid(1));
+    EXPECT_EQ(field.growerId(), test::uuid(2));
+    EXPECT_EQ(field.farmId(), test::uuid(3));
+    EXPECT_EQ(dates(field), Texts{});
+    EXPECT_EQ(recNames(field), Texts{});
+}
+
+TEST(QenField, BuiltWithAGeometryHasExactlyThatOneAndNoRecs) {
+    QenField field = fieldWithGeometry();
+    EXPECT_EQ(field.name(), "field");
+    EXPECT_EQ(field.id(), test::uuid(1));
+    EXPECT_EQ(field.growerId(), test::uuid(2));
+    EXPECT_EQ(field.farmId(), test::uuid(3));
+    ASSERT_EQ(field.geometries().size(), 1U);
+    QenFieldGeometry only = field.geometries()[0];
+    EXPECT_EQ(only.geometryId(), test::uuid(4));
+    EXPECT_EQ(only.geometryDate(), "date");
+    EXPECT_EQ(only.geometry(), test::uuid("00112233-4455-6677-8899-aabbccddeeff"));
+    EXPECT_EQ(only.centroid().latitude, 1.5);
+    EXPECT_EQ(only.centroid().longitude, 2.5);
+    EXPECT_EQ(only.centroid().altitude, 3.5);
+    EXPECT_EQ(recNames(field), Texts{});
+}
+
+TEST(QenField, OnlyReadsTheCentroidThatItIsBuiltWith) {
+    LLA centroid{1.5, 2.5, 3.5};
+    const QenField field("field", test::uuid(1), test::uuid(2), test::uuid(3), "date",
+                         test::uuid(4), test::uuid(5), centroid);
+    EXPECT_EQ(centroid.latitude, 1.5);
+    EXPECT_EQ(centroid.longitude, 2.5);
+    EXPECT_EQ(centroid.altitude, 3.5);
+    centroid.latitude = 9.5;
+    EXPECT_EQ(field.centroid(test::uuid(4)).latitude, 1.5);
+}
+
+TEST(QenField, SetNameReplacesTheNameAndNothingElse) {
+    QenField field = fieldWithGeometry();
+    field.addRec(makeRec(1, "rec", 2));
+    QenField expected("other", test::uuid(1), test::uuid(2), test::uuid(3));
+    expected.addFieldGeometry(field.geometries()[0]);
+    expected.addRec(makeRec(1, "rec", 2));
+    field.setName("other");
+    EXPECT_EQ(field.name(), "other");
+    EXPECT_EQ(describe(field), describe(expected));
+}
+
+TEST(QenField, EqualityComparesTheIdAlone) {
+    const QenField field = fieldWithGeometry();
+    const QenField sameId("other", test::uuid(1), test::uuid(12), test::uuid(13));
+    EXPECT_TRUE(field == sameId);
+    EXPECT_FALSE(field != sameId);
+    QenField otherId("field", test::uuid(11), test::uuid(2), test::uuid(3));
+    otherId.addFieldGeometry(field.geometries()[0]);
+    EXPECT_FALSE(field == otherId);
+    EXPECT_TRUE(field != otherId);
+    EXPECT_TRUE(QenField() == QenField());
+}
+
+TEST(QenField, LooksUpWhatItsGeometryWasBuiltWith) {
+    const QenField field = fieldWithGeometry();
+    EXPECT_EQ(field.geometryDate(test::uuid(4)), "date");
+    EXPECT_EQ(field.geometryFileId(test::uuid(4)),
+              test::uuid("00112233-4455-6677-8899-aabbccddeeff"));
+    EXPECT_EQ(field.geometryFileName(test::uuid(4)), "00112233-4455-6677-8899-aabbccddeeff");
+    EXPECT_EQ(field.centroid(test::uuid(4)).latitude, 1.5);
+    EXPECT_EQ(field.centroid(test::uuid(4)).longitude, 2.5);
+    EXPECT_EQ(field.centroid(test::uuid(4)).altitude, 3.5);
+}
+
+TEST(QenField, FileNamesAreTheBytesInOrderInLowerCaseWithHyphens) {
+    const unsigned char bytes[] = {0x00, 0x11, 0x22, 0x33, 0x44, 0x55, 0x66, 0x77,
+                                   0x88, 0x99, 0xaa, 0xbb, 0xcc, 0xdd, 0xee, 0xff};
+    uuid file{};
+    std::copy(std::begin(bytes), std::end(bytes), file.begin());
+    QenField field;
+    field.addFieldGeometry(QenFieldGeometry(test::uuid(1), "", file, LLA{}));
+    EXPECT_EQ(field.geometryFileName(test::uuid(1)), "00112233-4455-6677-8899-aabbccddeeff");
+}
+
+TEST(QenField, FileNamesKeepLeadingZerosAndTheHighDigitFirst) {
+    QenField field;
+    field.addFieldGeometry(QenFieldGeometry(
+        test::uuid(1), "", test::uuid("0a0b0c0d-0e0f-1020-3040-5060708090a0"), LLA{}));
+    EXPECT_EQ(field.geometryFileName(test::uuid(1)), "0a0b0c0d-0e0f-1020-3040-5060708090a0");
+}
+
+TEST(QenField, TheFileNameOfANilFileIsItsText) {
+    QenField field;
+    field.addFieldGeometry(QenFieldGeometry(test::uuid(1), "", uuid{}, LLA{}));
+    EXPECT_EQ(field.geometryFileName(test::uuid(1)), "00000000-0000-0000-0000-000000000000");
+    EXPECT_EQ(field.geometryFileId(test::uuid(1)), uuid{});
+}
+
+TEST(QenField, LookUpsOfAnUnknownGeometryReturnTheEmptyValues) {
+    const QenField field = fieldWithGeometry();
+    EXPECT_EQ(field.geometryDate(test::uuid(5)), "");
+    EXPECT_EQ(field.geometryFileName(test::uuid(5)), "");
+    EXPECT_EQ(field.geometryFileId(test::uuid(5)), uuid{});
+    EXPECT_EQ(field.centroid(test::uuid(5)).latitude, 0.0);
+    EXPECT_EQ(field.centroid(test::uuid(5)).longitude, 0.0);
+    EXPECT_EQ(field.centroid(test::uuid(5)).altitude, 0.0);
+}
+
+TEST(QenField, LookUpsDoNotTakeTheFileForTheGeometry) {
+    const QenField field = fieldWithGeometry();
+    EXPECT_EQ(field.geometryDate(test::uuid("00112233-4455-6677-8899-aabbccddeeff")), "");
+}
+
+TEST(QenField, LookUpsOfTheNilIdFindAGeometryWithIt) {
+    QenField field;
+    field.addFieldGeometry(QenFieldGeometry(uuid{}, "date", test::uuid(1), LLA{}));
+    EXPECT_EQ(field.geometryDate(uuid{}), "date");
+    EXPECT_EQ(QenField().geometryDate(uuid{}), "");
+}
+
+TEST(QenField, OfGeometriesWithOneIdTheLastAnswersEveryLookUp) {
+    QenField field;
+    field.addFieldGeometry(geometry(1, "first", 11));
+    field.addFieldGeometry(geometry(1, "last", 12));
+    field.addFieldGeometry(geometry(2, "other", 13));
+    EXPECT_EQ(field.geometryDate(test::uuid(1)), "last");
+    EXPECT_EQ(field.geometryFileId(test::uuid(1)), test::uuid(12));
+    EXPECT_EQ(field.geometryFileName(test::uuid(1)), "00000000-0000-0000-0000-00000000000c");
+    EXPECT_EQ(field.centroid(test::uuid(1)).latitude, 12.5);
+    EXPECT_EQ(field.geometryDate(test::uuid(2)), "other");
+}
+
+TEST(QenField, LookUpsLeaveTheFieldUnchanged) {
+    QenField field = fieldWithGeometry();
+    field.addFieldGeometry(geometry(4, "again"));
+    field.addRec(makeRec(1, "rec", 2));
+    const string before = describe(field);
+    field.geometryDate(test::uuid(4));
+    field.geometryFileName(test::uuid(4));
+    field.geometryFileId(test::uuid(4));
+    field.centroid(test::uuid(4));
+    field.rec(test::uuid(2));
+    EXPECT_EQ(describe(field), before);
+}
+
+TEST(QenField, AddsAGeometryThatEqualsAPresentOneOnceMore) {
+    QenField field;
+    field.addFieldGeometry(geometry(1, "first"));
+    field.addFieldGeometry(geometry(2, "second"));
+    field.addFieldGeometry(geometry(1, "third"));
+    EXPECT_EQ(dates(field), (Texts{"first", "second", "third"}));
+}
+
+TEST(QenField, AddsOneOfItsOwnGeometriesOnceMore) {
+    QenField field = fieldWithGeometry();
+    field.addFieldGeometry(field.geometries().front());
+    EXPECT_EQ(dates(field), (Texts{"date", "date"}));
+}
+
+TEST(QenField, HandsOutACopyOfItsGeometries) {
+    QenField field = fieldWithGeometry();
+    std::vector<QenFieldGeometry> geometries = field.geometries();
+    geometries.clear();
+    EXPECT_EQ(dates(field), Texts{"date"});
+    field.geometries().push_back(geometry(9, "lost"));
+    EXPECT_EQ(dates(field), Texts{"date"});
+}
+
+TEST(QenField, HandsOutItsListOfRecsItself) {
+    QenField field;
+    field.recs().push_back(makeRec(1, "first"));
+    field.recs().push_back(makeRec(1, "same id"));
+    EXPECT_EQ(recNames(field), (Texts{"first", "same id"}));
+    field.recs()[0].setName("renamed");
+    EXPECT_EQ(recNames(field), (Texts{"renamed", "same id"}));
+    field.recs().clear();
+    EXPECT_EQ(recNames(field), Texts{});
+}
+
+TEST(QenField, AddingARecWithANewIdAppendsIt) {
+    QenField field;
+    field.addRec(makeRec(2, "first"));
+    field.addRec(makeRec(1, "second"));
+    field.addRec(makeRec(3, "third"));
+    EXPECT_EQ(recNames(field), (Texts{"first", "second", "third"}));
+}
+
+TEST(QenField, AddingARecWithAPresentIdReplacesItInPlace) {
+    QenField field;
+    field.addRec(makeRec(1, "first", 11));
+    field.addRec(makeRec(2, "second", 12));
+    field.addRec(makeRec(3, "third", 13));
+    const std::unique_ptr<QenRecData> earlier(field.recs()[1].recData());
+
+    field.addRec(makeRec(2, "new second", 22));
+    EXPECT_EQ(recNames(field), (Texts{"first", "new second", "third"}));
+    QenRec expected = makeRec(2, "new second", 22);
+    EXPECT_EQ(describe(field.recs()[1]), describe(expected));
+    EXPECT_EQ(field.rec(test::uuid(12)).name(), "");
+}
+
+TEST(QenField, AddingARecLeavesTheEarlierProductDataToTheCaller) {
+    QenField field;
+    field.addRec(makeRec(1, "rec", 11));
+    std::unique_ptr<QenRecData> earlier(field.recs()[0].recData());
+    field.addRec(makeRec(1, "rec", 12));
+    EXPECT_NE(field.recs()[0].recData(), earlier.get());
+    EXPECT_EQ(earlier->recId(), test::uuid(11)) << "it is still there";
+}
+
+TEST(QenField, AddingARecReplacesOnlyTheFirstOfSeveralWithItsId) {
+    QenField field;
+    field.recs().push_back(makeRec(1, "first"));
+    field.recs().push_back(makeRec(1, "second"));
+    field.addRec(makeRec(1, "new"));
+    EXPECT_EQ(recNames(field), (Texts{"new", "second"}));
+}
+
+TEST(QenField, AddedRecsHaveProductDataOfTheirOwn) {
+    QenRec rec = makeRec(1, "rec", 11);
+    QenField field;
+    field.addRec(rec);
+    EXPECT_NE(field.recs()[0].recData(), rec.recData());
+    EXPECT_EQ(describe(field.recs()[0]), describe(rec));
+    rec.setName("changed");
+    EXPECT_EQ(recNames(field), Texts{"rec"});
+}
+
+TEST(QenField, AddedRecsLoseProductDataOfAnUnknownKind) {
+    ASSERT_NE(recOfUnknownKind(1).recData(), nullptr);
+    QenField field;
+    field.addRec(recOfUnknownKind(1));
+    EXPECT_EQ(recNames(field), Texts{"unknown"});
+    EXPECT_EQ(field.recs()[0].recData(), nullptr) << "a new rec";
+    field.addRec(recOfUnknownKind(1));
+    EXPECT_EQ(recNames(field), Texts{"unknown"});
+    EXPECT_EQ(field.recs()[0].recData(), nullptr) << "a rec replaced";
+}
+
+TEST(QenField, FindsARecByTheRecIdOfItsProductData) {
+    QenField field;
+    field.addRec(makeRec(1, "first", 11));
+    field.addRec(makeRec(2, "second", 12));
+    QenRec expected = makeRec(2, "second", 12);
+    EXPECT_EQ(describe(field.rec(test::uuid(12))), describe(expected));
+}
+
+TEST(QenField, DoesNotFindARecByItsOwnId) {
+    QenField field;
+    field.addRec(makeRec(1, "rec", 11));
+    QenRec none = field.rec(test::uuid(1));
+    EXPECT_EQ(describe(none), describe(QenRec()));
+    EXPECT_EQ(none.recData(), nullptr);
+}
+
+TEST(QenField, OfRecsWhoseProductDataHasOneRecIdTheFirstIsFound) {
+    QenField field;
+    field.addRec(makeRec(1, "first", 11));
+    field.addRec(makeRec(2, "second", 11));
+    EXPECT_EQ(field.rec(test::uuid(11)).name(), "first");
+}
+
+TEST(QenField, SkipsRecsWithoutProductDataWhenItLooksForARec) {
+    QenField field;
+    field.addRec(makeRec(1, "without"));
+    field.addRec(makeRec(2, "with", 11));
+    EXPECT_EQ(field.rec(test::uuid(11)).name(), "with");
+    EXPECT_EQ(field.rec(uuid{}).name(), "") << "having none is not having one with a nil recId";
+}
+
+TEST(QenField, FindsARecWhoseProductDataHasANilRecId) {
+    QenField field;
+    QenRec& rec = field.recs().emplace_back();
+    rec.setName("rec");
+    rec.setRecData(new PlantingRec(uuid{}, 1, "crop", 2, "c", 3, "v", 4, "seeds"));
+    EXPECT_EQ(field.rec(uuid{}).name(), "rec");
+}
+
+TEST(QenField, TheRecFoundIsACopyWithProductDataOfItsOwn) {
+    QenField field;
+    field.addRec(makeRec(1, "rec", 11));
+    QenRec found = field.rec(test::uuid(11));
+    ASSERT_NE(found.recData(), nullptr);
+    EXPECT_NE(found.recData(), field.recs()[0].recData());
+    found.setName("changed");
+    EXPECT_EQ(recNames(field), Texts{"rec"});
+}
+
+TEST(QenField, TheRecFoundLosesProductDataOfAnUnknownKind) {
+    // A copy, as any other.
+    QenField field;
+    field.recs().emplace_back().setRecData(new QenRecData(test::uuid(11), RecTypeNone));
+    field.recs()[0].setName("rec");
+    QenRec found = field.rec(test::uuid(11));
+    EXPECT_EQ(found.name(), "rec");
+    EXPECT_EQ(found.recData(), nullptr);
+}
+
+TEST(QenField, ACopyIsIndependent) {
+    QenField field = fieldWithGeometry();
+    field.addRec(makeRec(1, "rec", 11));
+    const string before = describe(field);
+    QenField copy(field);
+    EXPECT_EQ(describe(copy), before);
+    EXPECT_NE(copy.recs()[0].recData(), field.recs()[0].recData());
+    copy.setName("other");
+    copy.recs()[0].setName("other");
+    copy.addRec(makeRec(2, "new"));
+    copy.addFieldGeometry(geometry(9, "new"));
+    EXPECT_EQ(describe(field), before);
+}
+
+TEST(QenField, AssignmentReplacesEverything) {
+    QenField source = fieldWithGeometry();
+    source.addRec(makeRec(1, "rec", 11));
+    QenField target("other", test::uuid(21), test::uuid(22), test::uuid(23));
+    target.addFieldGeometry(geometry(24, "other"));
+    target.addRec(makeRec(25, "first", 26));
+    target.addRec(makeRec(27, "second", 28));
+    QenField& result = target = source;
+    EXPECT_EQ(&result, &target);
+    EXPECT_EQ(describe(target), describe(source));
+    EXPECT_NE(target.recs()[0].recData(), source.recs()[0].recData());
+}
+
+TEST(QenField, SelfAssignmentChangesNothing) {
+    QenField field = fieldWithGeometry();
+    field.addRec(makeRec(1, "rec", 11));
+    QenRecData* const data = field.recs()[0].recData();
+    const string before = describe(field);
+    const QenField& itself = field;
+    field = itself;
+    EXPECT_EQ(describe(field), before);
+    EXPECT_EQ(field.recs()[0].recData(), data);
+}
+
+TEST(QenField, AssignmentReleasesTheRecsHeldBefore) {
+    const long before = test::livingBlocks();
+    {
+        QenField source;
+        source.addRec(makeRec(1, "rec", 11));
+        QenField target;
+        for (unsigned id = 1; id < 5; ++id)
+            target.addRec(makeRec(id, "earlier", id));
+        target = source;
+        target = QenField(source);
+    }
+    EXPECT_EQ(test::livingBlocks(), before);
+}
+
+TEST(QenField, WithoutMemoryForAnAssignmentNothingChanges) {
+    QenField source = fieldWithGeometry();
+    source.addRec(makeRec(1, string(100, 'x'), 11));
+    QenField target;
+    target.addRec(makeRec(2, "earlier", 12));
+    const string unchanged = describe(target);
+    const long before = test::livingBlocks();
+    long successes = 0;
+    while (test::runsOutOfMemory(successes, [&] { target = source; })) {
+        EXPECT_EQ(test::livingBlocks(), before);
+        EXPECT_EQ(describe(target), unchanged);
+        ++successes;
+    }
+    EXPECT_EQ(describe(target), describe(source));
+    EXPECT_GE(successes, 3);
+}

@@ -1,0 +1,42 @@
+# What the scripts of the tests share.
+
+cmake_minimum_required(VERSION 3.25)
+
+# run(COMMAND...): runs a command, which must succeed.
+function(run)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result
+        OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    if(NOT result EQUAL 0)
+        list(JOIN ARGN " " command)
+        message(FATAL_ERROR "${command}\nended with ${result}:\n${output}")
+    endif()
+endfunction()
+
+# expect_same(WHAT ACTUAL EXPECTED): compares two texts.
+function(expect_same what actual expected)
+    if(NOT actual STREQUAL expected)
+        message("---- expected\n${expected}\n---- actual\n${actual}\n----")
+        message(FATAL_ERROR "${what} is not as expected.")
+    endif()
+endfunction()
+
+# expect_host_output(PROGRAM): runs the example host with good, overlapping, broken and missing
+# packages. It runs in the folder of the packages, so that its messages do not depend on where the
+# sources are.
+function(expect_host_output program)
+    execute_process(
+        COMMAND ${program}
+            3ce1268c-9c80-42e3-bfec-3fee8ed2305d.xml
+            f08db22f-d293-456a-b170-fab23d90fbac.xml
+            broken/rec-id/5ee118ce-09bf-4cfe-ad36-a8f803f97869.xml
+            00112233-4455-6677-8899-aabbccddeeff.xml
+            a.xml
+            f3faa8e8-79ea-4723-8ad5-cfbc1d74bd1c.xml
+        WORKING_DIRECTORY ${SOURCE_DIR}/examples/packages
+        RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE errors)
+    file(READ ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/host.output.txt expected_output)
+    file(READ ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/host.errors.txt expected_errors)
+    expect_same("The output of the example host" "${output}" "${expected_output}")
+    expect_same("The error output of the example host" "${errors}" "${expected_errors}")
+    expect_same("The exit code of the example host" "${result}" 1)
+endfunction()

@@ -1,0 +1,113 @@
+// How texts become numbers: seen through the latitude of a field.
+
+#include "parser/QenXmlParser.h"
+
+#include <cmath>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <pugixml.hpp>
+#include <rapidcheck/gtest.h>
+
+#include "tests/support/PackageText.h"
+#include "tests/support/Uuids.h"
+#include "tests/support/Xml.h"
+
+namespace {
+
+/// The number that is read is the one that the XML library makes of the text, bit for bit.
+bool isReadAsByTheXmlLibrary(const std::string& text) {
+    const test::Xml xml(test::field(21, "<FieldCentroid><Latitude/></FieldCentroid>"));
+    pugi::xml_node latitude = xml.root().child("FieldCentroid").child("Latitude");
+    latitude.append_child(pugi::node_pcdata).set_value(text.c_str());
+    const double expected = latitude.text().as_double();
+    const double got = QenXmlParser()
+                           .parseFieldNode(test::uuid(1), test::uuid(11), xml.root())
+                           .geometries()
+                           .at(0)
+                           .centroid()
+                           .latitude;
+    if (std::isnan(expected))
+        return std::isnan(got);
+    return expected == got && std::signbit(expected) == std::signbit(got);
+}
+
+} // namespace
+
+TEST(Number, OfAnUnusualTextIsThatOfTheXmlLibrary) {
+    for (const char* text :
+         {"",
+          " ",
+          "+",
+          "-",
+          ".",
+          "-.",
+          "e5",
+          "1e",
+          "1e+",
+          "1e5x",
+          "1.e5",
+          ".5e1",
+          "+1",
+          "+-1",
+          "--1",
+          "- 1",
+          "\t\n 1",
+          "\v\f1",
+          "1 ",
+          "1 2",
+          "1,5",
+          "1.5.5",
+          "00012",
+          "-0",
+          "-0.0",
+          "0x",
+          "0x1F",
+          "-0X1f",
+          "0x1.8p3",
+          "0x.8",
+          "0xg",
+          "1e308",
+          "1e309",
+          "-1e309",
+          "4.9e-324",
+          "2e-324",
+          "1e-400",
+          "-1e-400",
+          "inf",
+          "-inf",
+          "INFINITY",
+          "infin",
+          "nan",
+          "-nan",
+          "NAN(12)",
+          "nano",
+          "1e99999999999999999999",
+          "9007199254740993",
+          "179769313486231570814527423731704356798070567525844996598917476803157260780028538760589",
+          "0.1000000000000000055511151231257827021181583404541015625000000000000000000000000001",
+          "2.2250738585072011e-308",
+          "1\xC2\xA0",
+          "\xC2\xA0"
+          "1",
+          "\xD9\xA1"}) {
+        EXPECT_TRUE(isReadAsByTheXmlLibrary(text)) << text;
+    }
+}
+
+RC_GTEST_PROP(Number, OfAnyTextIsThatOfTheXmlLibrary, ()) {
+    const auto digit = rc::gen::elementOf(std::string("0123456789"));
+    const auto other = rc::gen::elementOf(std::string("+-.eExXpPaAfFiInN ,\t"));
+    const auto character = rc::gen::weightedOneOf<char>({{4, digit}, {1, other}});
+    const std::string text = *rc::gen::container<std::string>(character);
+    RC_ASSERT(isReadAsByTheXmlLibrary(text));
+}
+
+RC_GTEST_PROP(Number, OfAnyDecimalNumberIsThatOfTheXmlLibrary, ()) {
+    const auto digits = rc::gen::container<std::string>(rc::gen::inRange('0', ':'));
+    std::string text = *rc::gen::element<std::string>("", "-", "+");
+    text += *digits + *rc::gen::element<std::string>("", ".") + *digits;
+    text += *rc::gen::element<std::string>("", "e", "E-", "e+");
+    text += std::to_string(*rc::gen::inRange(0, 330));
+    RC_ASSERT(isReadAsByTheXmlLibrary(text));
+}

@@ -1,0 +1,63 @@
+/// @file
+/// The text of packages, put together from elements. Each element holds what it must hold, so that
+/// a test writes only what it is about.
+///
+/// Identifiers are those of test::uuid(unsigned). A field with the number N has the geometry
+/// 7000 + N and the geometry file 8000 + N, a rec the geometry 9000 + N.
+
+#ifndef QENXML_TESTS_SUPPORT_PACKAGETEXT_H
+#define QENXML_TESTS_SUPPORT_PACKAGETEXT_H
+
+#include <string>
+
+#include "tests/support/Uuids.h"
+
+namespace test {
+
+inline std::string uuidText(unsigned number) {
+    return to_string(uuid(number));
+}
+
+/// An element without attributes.
+inline std::string element(const std::string& name, const std::string& content) {
+    return "<" + name + ">" + content + "</" + name + ">";
+}
+
+/// An element with its identifier as an attribute.
+inline std::string element(const std::string& name, const std::string& attribute, unsigned number,
+                           const std::string& content) {
+    return "<" + name + " " + attribute + "=\"" + uuidText(number) + "\">" + content + "</" + name +
+           ">";
+}
+
+inline std::string rec(unsigned number, const std::string& content = "") {
+    return element("Rec", "RecID", number,
+                   element("RecGeometry", uuidText(9000 + number)) + content);
+}
+
+/// @param content children of the field, Recommendations for one
+inline std::string field(unsigned number, const std::string& content = "") {
+    return element("Field", "FieldID", number,
+                   element("FieldGeometryID", uuidText(7000 + number)) +
+                       element("FieldGeometry", uuidText(8000 + number)) + content);
+}
+
+inline std::string recommendations(const std::string& recs) {
+    return element("Recommendations", recs);
+}
+
+inline std::string farm(unsigned number, const std::string& content = "") {
+    return element("Farm", "FarmID", number, content);
+}
+
+inline std::string grower(unsigned number, const std::string& content = "") {
+    return element("Grower", "GrowerID", number, content);
+}
+
+inline std::string package(const std::string& growers = "") {
+    return element("RecPackage", growers);
+}
+
+} // namespace test
+
+#endif

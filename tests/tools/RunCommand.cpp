@@ -1,0 +1,150 @@
+#include "tests/tools/RunCommand.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <future>
+#include <stdexcept>
+#include <system_error>
+#include <utility>
+
+#include <fcntl.h>
+#include <pty.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <termios.h>
+#include <unistd.h>
+
+namespace test {
+
+namespace {
+
+void require(bool success, const char* what) {
+    if (!success)
+        throw std::system_error(errno, std::generic_category(), what);
+}
+
+/// A file descriptor that is not inherited by commands.
+class Descriptor {
+public:
+    explicit Descriptor(int number = -1) : number_(number) {
+        if (number >= 0)
+            fcntl(number, F_SETFD, FD_CLOEXEC);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+    Descriptor& operator=(Descriptor&& other) noexcept {
+        std::swap(number_, other.number_);
+        return *this;
+    }
+    ~Descriptor() { reset(); }
+
+    int number() const { return number_; }
+
+    void reset() {
+        if (number_ >= 0)
+            close(std::exchange(number_, -1));
+    }
+
+private:
+    int number_;
+};
+
+/// The two ends of a channel: the command writes to one, the test reads from the other.
+struct Channel {
+    Descriptor reader;
+    Descriptor writer;
+};
+
+Channel openPipe() {
+    std::array<int, 2> ends{};
+    require(pipe(ends.data()) == 0, "pipe");
+    return {Descriptor(ends[0]), Descriptor(ends[1])};
+}
+
+Channel openTerminal() {
+    int master = -1;
+    int terminal = -1;
+    termios raw = {}; // so that line feeds come out as they are
+    cfmakeraw(&raw);
+    require(openpty(&master, &terminal, nullptr, &raw, nullptr) == 0, "openpty");
+    return {Descriptor(master), Descriptor(terminal)};
+}
+
+Channel openOutput(Output output) {
+    switch (output) {
+    case Output::Terminal:
+        return openTerminal();
+    case Output::FullDisk:
+        return {Descriptor(), Descriptor(open("/dev/full", O_WRONLY))};
+    case Output::ClosedPipe: {
+        Channel channel = openPipe();
+        channel.reader.reset();
+        return channel;
+    }
+    case Output::File:
+    case Output::SameAsErrors:
+        break;
+    }
+    return openPipe();
+}
+
+std::string readAll(int descriptor) {
+    std::string text;
+    std::array<char, 4096> buffer{};
+    // A terminal whose other end is closed reports an error instead of an end.
+    for (ssize_t count = 0; (count = read(descriptor, buffer.data(), buffer.size())) > 0;)
+        text.append(buffer.data(), static_cast<std::size_t>(count));
+    return text;
+}
+
+std::vector<char*> pointers(std::vector<std::string>& texts) {
+    std::vector<char*> result;
+    result.reserve(texts.size() + 1);
+    for (std::string& text : texts)
+        result.push_back(text.data());
+    result.push_back(nullptr);
+    return result;
+}
+
+} // namespace
+
+RunResult runCommand(const std::vector<std::string>& arguments, const RunOptions& options) {
+    Channel output = openOutput(options.output);
+    Channel errors = openPipe();
+    require(output.writer.number() >= 0, "output");
+
+    const bool together = options.output == Output::SameAsErrors;
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addchdir_np(&actions, options.folder.c_str());
+    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_adddup2(
+        &actions, together ? errors.writer.number() : output.writer.number(), STDOUT_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, errors.writer.number(), STDERR_FILENO);
+
+    std::vector<std::string> words = {QENXML_COMMAND};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    std::vector<std::string> environment = options.environment;
+    pid_t process = 0;
+    const int failure = posix_spawn(&process, QENXML_COMMAND, &actions, nullptr,
+                                    pointers(words).data(), pointers(environment).data());
+    posix_spawn_file_actions_destroy(&actions);
+    if (failure != 0)
+        throw std::system_error(failure, std::generic_category(), QENXML_COMMAND);
+
+    output.writer.reset();
+    errors.writer.reset();
+    // At the same time, lest the command waits for one channel while the test reads the other.
+    auto messages = std::async(std::launch::async, readAll, errors.reader.number());
+    RunResult result;
+    result.output = output.reader.number() >= 0 ? readAll(output.reader.number()) : "";
+    result.errors = messages.get();
+    int status = 0;
+    require(waitpid(process, &status, 0) == process, "waitpid");
+    result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return result;
+}
+
+} // namespace test

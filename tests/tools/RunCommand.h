@@ -1,0 +1,37 @@
+/// @file
+/// Runs the built qenxml command as a user does.
+
+#ifndef QENXML_TESTS_TOOLS_RUNCOMMAND_H
+#define QENXML_TESTS_TOOLS_RUNCOMMAND_H
+
+#include <string>
+#include <vector>
+
+namespace test {
+
+/// Where the output of a command goes.
+enum class Output {
+    File,         ///< collected
+    Terminal,     ///< a terminal; collected
+    FullDisk,     ///< a device on which there is never room
+    ClosedPipe,   ///< a pipe whose reader is gone
+    SameAsErrors, ///< collected together with the messages, in `errors`
+};
+
+struct RunOptions {
+    std::string folder = "/";             ///< Current folder of the command.
+    std::vector<std::string> environment; ///< Its whole environment, as NAME=VALUE.
+    Output output = Output::File;
+};
+
+struct RunResult {
+    std::string output; ///< What the command wrote to its standard output.
+    std::string errors; ///< What it wrote to its standard error.
+    int exitCode = -1;  ///< -1 when a signal ended it.
+};
+
+RunResult runCommand(const std::vector<std::string>& arguments, const RunOptions& options = {});
+
+} // namespace test
+
+#endif

@@ -1,0 +1,374 @@
+// Runs the built command and compares all that it writes.
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/TemporaryFolder.h"
+#include "tests/tools/RunCommand.h"
+
+using test::Output;
+using test::RunOptions;
+using test::RunResult;
+
+namespace {
+
+const std::string nameA = "aaaaaaaa-0000-4000-8000-000000000001.xml";
+const std::string nameB = "bbbbbbbb-0000-4000-8000-000000000002.xml";
+const std::string nameC = "cccccccc-0000-4000-8000-000000000003.xml";
+
+const std::string packageA = R"(<?xml version="1.0" encoding="UTF-8"?>
+<RecPackage>
+  <Grower GrowerID="10000000-0000-4000-8000-000000000001">
+    <GrowerName>Hansen Farms</GrowerName>
+    <Farm FarmID="20000000-0000-4000-8000-000000000001">
+      <FarmName>Home</FarmName>
+      <Field FieldID="30000000-0000-4000-8000-000000000001">
+        <FieldName>North 40</FieldName>
+        <FieldGeometryID>40000000-0000-4000-8000-000000000001</FieldGeometryID>
+        <FieldGeometryDate>2014-03-01</FieldGeometryDate>
+        <FieldGeometry>50000000-0000-4000-8000-000000000001</FieldGeometry>
+        <FieldCentroid><Latitude>41.58</Latitude><Longitude>-93.62</Longitude></FieldCentroid>
+        <Recommendations>
+          <Rec RecID="60000000-0000-4000-8000-000000000001" MgmtZoneID="70000000-0000-4000-8000-000000000001">
+            <RecName>Corn</RecName>
+            <RecGeometry>80000000-0000-4000-8000-000000000001</RecGeometry>
+            <CreationDate>2014-02-01</CreationDate>
+            <EditDate>2014-02-03</EditDate>
+            <RecDBFCol>TGT_RATE</RecDBFCol>
+            <Operation OpID="90000000-0000-4000-8000-000000000001"><OpName>Planting</OpName></Operation>
+            <Season SeasonID="14"><SeasonName>Spring 2014</SeasonName></Season>
+            <RecData><Planting>
+              <CropID>1</CropID><CropName>Corn</CropName>
+              <CompanyID>2</CompanyID><CompanyName>Prairie Seed</CompanyName>
+              <VarietyID>3</VarietyID><VarietyName>PS 44</VarietyName>
+              <UOMID>4</UOMID><UOM>seeds</UOM>
+            </Planting></RecData>
+            <RecStats>
+              <MinimumRate>28000</MinimumRate><MaximumRate>34000</MaximumRate>
+              <AverageRate>31250.5</AverageRate><RateUOMID>5</RateUOMID><RateUOM>seeds/ac</RateUOM>
+              <Total>1250020</Total><TotalUOMID>4</TotalUOMID><TotalUOM>seeds</TotalUOM>
+              <Area>40.1</Area><AreaUOMID>6</AreaUOMID><AreaUOM>ac</AreaUOM>
+            </RecStats>
+          </Rec>
+        </Recommendations>
+      </Field>
+    </Farm>
+  </Grower>
+</RecPackage>
+)";
+
+const std::string headingA = "Package aaaaaaaa-0000-4000-8000-000000000001  " + nameA + "\n";
+
+const std::string shownA =
+    headingA +
+    "  Grower Hansen Farms  10000000-0000-4000-8000-000000000001\n"
+    "    Farm Home  20000000-0000-4000-8000-000000000001\n"
+    "      Field North 40  30000000-0000-4000-8000-000000000001\n"
+    "        Boundary 2014-03-01  40000000-0000-4000-8000-000000000001\n"
+    "          file       50000000-0000-4000-8000-000000000001\n"
+    "          centroid   41.58, -93.62\n"
+    "        Rec Corn  60000000-0000-4000-8000-000000000001\n"
+    "          operation  Planting  90000000-0000-4000-8000-000000000001\n"
+    "          season     Spring 2014\n"
+    "          zone       70000000-0000-4000-8000-000000000001\n"
+    "          product    planting: crop Corn, company Prairie Seed, variety PS 44, unit seeds\n"
+    "          rate       min 28000, avg 31250.5, max 34000 seeds/ac\n"
+    "          total      1250020 seeds\n"
+    "          area       40.1 ac\n"
+    "          geometry   80000000-0000-4000-8000-000000000001  column TGT_RATE\n"
+    "          created    2014-02-01\n"
+    "          edited     2014-02-03\n";
+
+/// The same field as in A, with a rec of A under another name, a new rec and a new boundary; and a
+/// grower of its own before it.
+const std::string packageB = R"(<RecPackage>
+  <Grower GrowerID="10000000-0000-4000-8000-000000000002"><GrowerName>Olsen</GrowerName></Grower>
+  <Grower GrowerID="10000000-0000-4000-8000-000000000001">
+    <GrowerName>Hansen Ltd</GrowerName>
+    <Farm FarmID="20000000-0000-4000-8000-000000000001">
+      <FarmName>Home Farm</FarmName>
+      <Field FieldID="30000000-0000-4000-8000-000000000001">
+        <FieldName>North forty</FieldName>
+        <FieldGeometryID>40000000-0000-4000-8000-000000000002</FieldGeometryID>
+        <FieldGeometry>50000000-0000-4000-8000-000000000002</FieldGeometry>
+        <Recommendations>
+          <Rec RecID="60000000-0000-4000-8000-000000000001">
+            <RecName>Maize</RecName>
+            <RecGeometry>80000000-0000-4000-8000-000000000002</RecGeometry>
+          </Rec>
+          <Rec RecID="60000000-0000-4000-8000-000000000003">
+            <RecName>Lime</RecName>
+            <RecGeometry>80000000-0000-4000-8000-000000000003</RecGeometry>
+          </Rec>
+        </Recommendations>
+      </Field>
+    </Farm>
+  </Grower>
+</RecPackage>
+)";
+
+const std::string headingB = "Package bbbbbbbb-0000-4000-8000-000000000002  " + nameB + "\n";
+
+const std::string merged =
+    headingA + headingB +
+    "\n"
+    "Grower Hansen Farms  10000000-0000-4000-8000-000000000001\n"
+    "  Farm Home Farm  20000000-0000-4000-8000-000000000001\n"
+    "    Field North 40  30000000-0000-4000-8000-000000000001\n"
+    "      Boundary 2014-03-01  40000000-0000-4000-8000-000000000001\n"
+    "        file       50000000-0000-4000-8000-000000000001\n"
+    "        centroid   41.58, -93.62\n"
+    "      Boundary  40000000-0000-4000-8000-000000000002\n"
+    "        file       50000000-0000-4000-8000-000000000002\n"
+    "      Rec Corn  60000000-0000-4000-8000-000000000001\n"
+    "        package    aaaaaaaa-0000-4000-8000-000000000001\n"
+    "        operation  Planting  90000000-0000-4000-8000-000000000001\n"
+    "        season     Spring 2014\n"
+    "        zone       70000000-0000-4000-8000-000000000001\n"
+    "        product    planting: crop Corn, company Prairie Seed, variety PS 44, unit seeds\n"
+    "        rate       min 28000, avg 31250.5, max 34000 seeds/ac\n"
+    "        total      1250020 seeds\n"
+    "        area       40.1 ac\n"
+    "        boundary   40000000-0000-4000-8000-000000000001\n"
+    "        geometry   80000000-0000-4000-8000-000000000001  column TGT_RATE\n"
+    "        created    2014-02-01\n"
+    "        edited     2014-02-03\n"
+    "      Rec Lime  60000000-0000-4000-8000-000000000003\n"
+    "        package    bbbbbbbb-0000-4000-8000-000000000002\n"
+    "        product    no product data\n"
+    "        boundary   40000000-0000-4000-8000-000000000002\n"
+    "        geometry   80000000-0000-4000-8000-000000000003\n"
+    "Grower Olsen  10000000-0000-4000-8000-000000000002\n";
+
+/// One good grower, then one without an identifier.
+const std::string halfPackage = "<RecPackage>\n"
+                                "  <Grower GrowerID=\"10000000-0000-4000-8000-000000000003\"/>\n"
+                                "  <Grower/>\n"
+                                "</RecPackage>\n";
+
+class Show : public testing::Test {
+protected:
+    RunResult show(std::vector<std::string> arguments, RunOptions options = {}) {
+        arguments.insert(arguments.begin(), "show");
+        options.folder = folder_.path("");
+        return test::runCommand(arguments, options);
+    }
+
+    test::TemporaryFolder folder_;
+};
+
+TEST_F(Show, PrintsTheTreeOfAPackage) {
+    folder_.write(nameA, packageA);
+    const RunResult result = show({nameA});
+    EXPECT_EQ(result.output, shownA);
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.exitCode, 0);
+}
+
+TEST_F(Show, PrintsOneSectionPerFileInTheGivenOrder) {
+    folder_.write(nameA, packageA);
+    folder_.write(nameC, "<RecPackage/>");
+    const RunResult result = show({nameC, nameA, nameC});
+    const std::string shownC =
+        "Package cccccccc-0000-4000-8000-000000000003  " + nameC + "\n  no growers\n";
+    EXPECT_EQ(result.output, shownC + "\n" + shownA + "\n" + shownC);
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.exitCode, 0);
+}
+
+TEST_F(Show, MergesTheGrowersOfAllFiles) {
+    folder_.write(nameA, packageA);
+    folder_.write(nameB, packageB);
+    const RunResult result = show({"--merge", nameA, nameB});
+    EXPECT_EQ(result.output, merged);
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(show({nameA, "--merge", nameB}).output, merged);
+}
+
+TEST_F(Show, MergesInTheOrderOfTheFiles) {
+    folder_.write(nameA, packageA);
+    folder_.write(nameB, packageB);
+    const std::string output = show({"--merge", nameB, nameA}).output;
+    EXPECT_EQ(output.substr(0, output.find("    Field")),
+              headingB + headingA +
+                  "\n"
+                  "Grower Olsen  10000000-0000-4000-8000-000000000002\n"
+                  "Grower Hansen Ltd  10000000-0000-4000-8000-000000000001\n"
+                  "  Farm Home  20000000-0000-4000-8000-000000000001\n");
+}
+
+TEST_F(Show, SaysThatMergedPackagesHaveNoGrowers) {
+    folder_.write(nameC, "<RecPackage/>");
+    EXPECT_EQ(show({"--merge", nameC}).output,
+              "Package cccccccc-0000-4000-8000-000000000003  " + nameC + "\n\nno growers\n");
+}
+
+TEST_F(Show, ReportsEveryKindOfFailureAndGoesOn) {
+    folder_.write(nameA, packageA);
+    folder_.write(nameB, "<RecPackage>\n  <Grower>\xC3\xA9</Farm>");
+    folder_.write(nameC, "<Package/>");
+    folder_.write("short.xml", packageA);
+    folder_.write("00000000-00000000-0000-000000000000_.xml", packageA);
+    std::filesystem::create_directory(folder_.path("folder"));
+    const std::string nameD = "dddddddd-0000-4000-8000-000000000004.xml";
+    folder_.write(nameD, "<RecPackage><Grower/></RecPackage>");
+    const RunResult result =
+        show({"missing.xml", nameB, nameC, "short.xml", "00000000-00000000-0000-000000000000_.xml",
+              nameA, "folder", nameD});
+    EXPECT_EQ(result.output, shownA);
+    const std::string noUuid = ": file name without a package UUID: a name such as "
+                               "00112233-4455-6677-8899-aabbccddeeff.xml is expected; "
+                               "the file is skipped\n";
+    EXPECT_EQ(result.errors,
+              "qenxml: missing.xml: not found; the file is skipped\n"
+              "qenxml: " +
+                  nameB +
+                  ":2:14: not well-formed: Start-end tags mismatch; the file is skipped\n"
+                  "qenxml: " +
+                  nameC +
+                  ":1:1: no \"RecPackage\": the root element is \"Package\"; the file is skipped\n"
+                  "qenxml: short.xml" +
+                  noUuid + "qenxml: 00000000-00000000-0000-000000000000_.xml" + noUuid +
+                  "qenxml: folder: is a directory; the file is skipped\n"
+                  "qenxml: " +
+                  nameD +
+                  ":1:13: invalid uuid string: /RecPackage/Grower[1] has no GrowerID; "
+                  "the file is skipped\n");
+    EXPECT_EQ(result.exitCode, 1);
+}
+
+TEST_F(Show, ShowsTheGrowersThatWereReadBeforeAFailure) {
+    folder_.write(nameC, halfPackage);
+    const RunResult result = show({nameC});
+    EXPECT_EQ(result.output, "Package cccccccc-0000-4000-8000-000000000003  " + nameC +
+                                 "  (incomplete)\n"
+                                 "  Grower  10000000-0000-4000-8000-000000000003\n");
+    EXPECT_EQ(result.errors,
+              "qenxml: " + nameC +
+                  ":3:3: invalid uuid string: /RecPackage/Grower[2] has no GrowerID; "
+                  "the grower before it is shown\n");
+    EXPECT_EQ(result.exitCode, 1);
+}
+
+TEST_F(Show, MergesTheGrowersThatWereReadBeforeAFailure) {
+    folder_.write(nameA, "<RecPackage><Grower GrowerID='10000000-0000-4000-8000-000000000003'>"
+                         "<GrowerName>Lund</GrowerName></Grower></RecPackage>");
+    folder_.write(nameC, halfPackage);
+    const RunResult result = show({"--merge", nameC, nameB, nameA});
+    EXPECT_EQ(result.output, "Package cccccccc-0000-4000-8000-000000000003  " + nameC +
+                                 "  (incomplete)\n" + headingA +
+                                 "\n"
+                                 "Grower  10000000-0000-4000-8000-000000000003\n");
+    EXPECT_EQ(result.errors,
+              "qenxml: " + nameC +
+                  ":3:3: invalid uuid string: /RecPackage/Grower[2] has no GrowerID; "
+                  "the grower before it is shown\n"
+                  "qenxml: " +
+                  nameB + ": not found; the file is skipped\n");
+    EXPECT_EQ(result.exitCode, 1);
+}
+
+TEST_F(Show, PrintsNothingWhenNoFileCanBeRead) {
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{nameA}, std::vector<std::string>{"--merge", nameA}}) {
+        const RunResult result = show(arguments);
+        EXPECT_EQ(result.output, "");
+        EXPECT_EQ(result.errors, "qenxml: " + nameA + ": not found; the file is skipped\n");
+        EXPECT_EQ(result.exitCode, 1);
+    }
+}
+
+TEST_F(Show, KeepsResultsAndMessagesInOrder) {
+    folder_.write(nameA, packageA);
+    RunOptions options;
+    options.output = Output::SameAsErrors;
+    EXPECT_EQ(show({nameA, "x.xml", nameA}, options).errors,
+              shownA + "qenxml: x.xml: not found; the file is skipped\n\n" + shownA);
+}
+
+TEST_F(Show, EscapesTextsAndFileNames) {
+    folder_.write(nameA, "<RecPackage><Grower GrowerID='10000000-0000-4000-8000-000000000001'>"
+                         "<GrowerName>a&#27;[31m\nGrower \xC2\x9B\xFF\u202E&#8232;\\</GrowerName>"
+                         "</Grower></RecPackage>");
+    std::filesystem::create_directory(folder_.path("\x1b[2J\n"));
+    const std::string path = "\x1b[2J\n/" + nameA;
+    std::filesystem::copy(folder_.path(nameA), folder_.path(path));
+    const RunResult result = show({path, "x\ny\r.xml"});
+    EXPECT_EQ(result.output,
+              "Package aaaaaaaa-0000-4000-8000-000000000001  \\x1B[2J\\n/" + nameA +
+                  "\n"
+                  "  Grower a\\x1B[31m\\nGrower \\u{009B}\\xFF\\u{202E}\\u{2028}\\\\  "
+                  "10000000-0000-4000-8000-000000000001\n");
+    EXPECT_EQ(result.errors, "qenxml: x\\ny\\x0D.xml: not found; the file is skipped\n");
+}
+
+TEST_F(Show, ColoursItsOutputOnATerminalOnly) {
+    folder_.write(nameC, halfPackage);
+    RunOptions options;
+    options.output = Output::Terminal;
+    options.environment = {"TERM=xterm"};
+    const std::string coloured =
+        "\x1b[36mPackage\x1b[0m \x1b[2mcccccccc-0000-4000-8000-000000000003\x1b[0m  \x1b[1m" +
+        nameC +
+        "\x1b[0m\x1b[33m  (incomplete)\x1b[0m\n"
+        "  \x1b[36mGrower\x1b[0m  \x1b[2m10000000-0000-4000-8000-000000000003\x1b[0m\n";
+    const RunResult result = show({nameC}, options);
+    EXPECT_EQ(result.output, coloured);
+    EXPECT_EQ(result.errors.find('\x1b'), std::string::npos);
+
+    const std::string plain = "Package cccccccc-0000-4000-8000-000000000003  " + nameC +
+                              "  (incomplete)\n"
+                              "  Grower  10000000-0000-4000-8000-000000000003\n";
+    options.environment = {"TERM=xterm", "NO_COLOR=1"};
+    EXPECT_EQ(show({nameC}, options).output, plain);
+    options.environment = {"TERM=xterm", "NO_COLOR="};
+    EXPECT_EQ(show({nameC}, options).output, coloured);
+    options.environment = {"TERM=dumb"};
+    EXPECT_EQ(show({nameC}, options).output, plain);
+    options.environment = {"TERM=xterm"};
+    options.output = Output::File;
+    EXPECT_EQ(show({nameC}, options).output, plain);
+}
+
+TEST_F(Show, TakesFileNamesThatBeginWithAHyphen) {
+    folder_.write("-" + nameA, "<RecPackage/>");
+    const std::string shown =
+        "Package aaaaaaaa-0000-4000-8000-000000000001  -" + nameA + "\n  no growers\n";
+    EXPECT_EQ(show({"--", "-" + nameA}).output, shown);
+    const RunResult several = show({"--", "-" + nameA, "--merge"});
+    EXPECT_EQ(several.output, shown);
+    EXPECT_EQ(several.errors, "qenxml: --merge: not found; the file is skipped\n");
+    EXPECT_EQ(several.exitCode, 1);
+}
+
+TEST_F(Show, TakesAFileNamedAsACommand) {
+    EXPECT_EQ(show({"show"}).errors, "qenxml: show: not found; the file is skipped\n");
+}
+
+TEST_F(Show, ReportsAFullDisk) {
+    folder_.write(nameA, packageA);
+    RunOptions options;
+    options.output = Output::FullDisk;
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{nameA}, std::vector<std::string>{"--merge", nameA}}) {
+        const RunResult result = show(arguments, options);
+        EXPECT_EQ(result.errors,
+                  "qenxml: the output could not be written: No space left on device\n");
+        EXPECT_EQ(result.exitCode, 1);
+    }
+}
+
+TEST_F(Show, ReportsThatTheReaderOfAPipeIsGone) {
+    folder_.write(nameA, packageA);
+    RunOptions options;
+    options.output = Output::ClosedPipe;
+    const RunResult result = show({nameA}, options);
+    EXPECT_EQ(result.errors, "qenxml: the output could not be written: Broken pipe\n");
+    EXPECT_EQ(result.exitCode, 1);
+}
+
+} // namespace

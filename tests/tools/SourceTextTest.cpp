@@ -1,0 +1,132 @@
+#include "tools/SourceText.h"
+
+#include <ostream>
+#include <string>
+#include <string_view>
+
+#include <gtest/gtest.h>
+
+bool operator==(const Position& a, const Position& b) {
+    return a.line == b.line && a.column == b.column;
+}
+
+std::ostream& operator<<(std::ostream& out, const Position& position) {
+    return out << position.line << ':' << position.column;
+}
+
+namespace {
+
+std::string utf16(std::u16string_view text, bool bigEndian) {
+    std::string bytes;
+    for (const char16_t unit : text) {
+        const char high = static_cast<char>(unit >> 8U);
+        const char low = static_cast<char>(unit & 0xFFU);
+        bytes += bigEndian ? high : low;
+        bytes += bigEndian ? low : high;
+    }
+    return bytes;
+}
+
+std::string utf32(std::u32string_view text, bool bigEndian) {
+    std::string bytes;
+    for (const char32_t unit : text) {
+        for (unsigned i = 0; i < 4; ++i)
+            bytes += static_cast<char>(unit >> 8U * (bigEndian ? 3 - i : i) & 0xFFU);
+    }
+    return bytes;
+}
+
+/// Where pugixml finds a text not well-formed.
+Position faultIn(const std::string& bytes) {
+    const SourceText text(bytes);
+    pugi::xml_document document;
+    const pugi::xml_parse_result loaded = text.load(document);
+    EXPECT_FALSE(loaded) << bytes;
+    return text.position(static_cast<std::size_t>(loaded.offset));
+}
+
+TEST(SourceText, CountsLinesAndColumnsFromOne) {
+    EXPECT_EQ(faultIn("<a></b>"), (Position{1, 6}));
+    EXPECT_EQ(faultIn("<a>\n  </b>"), (Position{2, 5}));
+    EXPECT_EQ(faultIn("<a>\n\n</b>"), (Position{3, 3}));
+}
+
+TEST(SourceText, TakesEveryKindOfLineEndForOne) {
+    EXPECT_EQ(faultIn("<a>\r\n\r\n</b>"), (Position{3, 3}));
+    EXPECT_EQ(faultIn("<a>\r\r</b>"), (Position{3, 3}));
+    EXPECT_EQ(faultIn("<a>\n\r</b>"), (Position{3, 3}));
+}
+
+TEST(SourceText, CountsColumnsInCharactersAndNotInBytes) {
+    EXPECT_EQ(faultIn("<a>\u00e9\u20ac\U0001F600</b>"), (Position{1, 9}));
+}
+
+TEST(SourceText, CountsAByteThatIsNoCharacterAsOne) {
+    EXPECT_EQ(faultIn("<a>\xE9</b>"), (Position{1, 7}));
+    EXPECT_EQ(faultIn("<a>\x80\x80</b>"), (Position{1, 8}));
+}
+
+TEST(SourceText, DoesNotCountAByteOrderMark) {
+    EXPECT_EQ(faultIn("\xEF\xBB\xBF<a></b>"), (Position{1, 6}));
+    EXPECT_EQ(faultIn("\xEF\xBB\xBF<a>\n</b>"), (Position{2, 3}));
+}
+
+TEST(SourceText, CountsTheSameInEveryEncoding) {
+    const std::u16string text16 = u"<?xml version='1.0'?>\n<a>\u00e9\u20ac\U0001F600</b>";
+    const std::u32string text32 = U"<?xml version='1.0'?>\n<a>\u00e9\u20ac\U0001F600</b>";
+    for (const bool bigEndian : {false, true}) {
+        EXPECT_EQ(faultIn(utf16(text16, bigEndian)), (Position{2, 9}));
+        EXPECT_EQ(faultIn(utf16(u"\uFEFF" + text16, bigEndian)), (Position{2, 9}));
+        EXPECT_EQ(faultIn(utf32(text32, bigEndian)), (Position{2, 9}));
+        EXPECT_EQ(faultIn(utf32(U"\uFEFF" + text32, bigEndian)), (Position{2, 9}));
+    }
+    EXPECT_EQ(faultIn("<?xml version='1.0' encoding='iso-8859-1'?>\n<a>\xE9\xA4</b>"),
+              (Position{2, 8}));
+}
+
+TEST(SourceText, LeavesOutUnitsThatAreNoCharacters) {
+    const char16_t lead = 0xD83D;
+    const char16_t trail = 0xDE00;
+    for (const std::u16string& broken : {std::u16string{lead}, std::u16string{trail},
+                                         std::u16string{trail, lead}, std::u16string{lead, u'x'}}) {
+        const std::size_t characters = broken.back() == u'x' ? 1 : 0;
+        EXPECT_EQ(faultIn(utf16(u"<a>" + broken + u"</b>", false)), (Position{1, 6 + characters}));
+    }
+    const std::u32string broken = {0xD83D, 0x110000, 0xFFFFFFFF};
+    EXPECT_EQ(faultIn(utf32(U"<a>" + broken + U"</b>", true)), (Position{1, 6}));
+}
+
+TEST(SourceText, FindsFaultsWherePugixmlGivesUp) {
+    EXPECT_EQ(faultIn("<a>\n"), (Position{1, 4}));             // element never ended
+    EXPECT_EQ(faultIn("<a>\n<b x=1/></a>"), (Position{2, 6})); // attribute without quotes
+    EXPECT_EQ(faultIn("<a>\n<!-- x"), (Position{2, 6}));       // comment never ended
+    EXPECT_EQ(faultIn("<a>\n<"), (Position{2, 1}));            // nothing behind
+    EXPECT_EQ(faultIn("\n "), (Position{2, 2}));               // no element at all
+}
+
+TEST(SourceText, TakesAPlaceBeyondTheEndForTheEnd) {
+    EXPECT_EQ(SourceText("<a>\nxy").position(1000), (Position{2, 3}));
+}
+
+TEST(SourceText, FindsElementsAtTheirOpeningBracket) {
+    for (const std::string mark : {"", "\xEF\xBB\xBF"}) {
+        const SourceText text(mark + "<a>\r\n  <b>\u00e9 &lt;</b><c/></a>");
+        pugi::xml_document document;
+        ASSERT_TRUE(text.load(document));
+        const pugi::xml_node a = document.child("a");
+        EXPECT_EQ(text.position(a), (Position{1, 1}));
+        EXPECT_EQ(text.position(a.child("b")), (Position{2, 3}));
+        EXPECT_EQ(text.position(a.child("c")), (Position{2, 16}));
+    }
+}
+
+TEST(SourceText, FindsTextsAtTheirFirstCharacter) {
+    const SourceText text("<a><b/>\n  stray<![CDATA[more]]></a>");
+    pugi::xml_document document;
+    ASSERT_TRUE(text.load(document));
+    const pugi::xml_node stray = document.child("a").child("b").next_sibling();
+    EXPECT_EQ(text.position(stray), (Position{2, 3}));
+    EXPECT_EQ(text.position(stray.next_sibling()), (Position{2, 17}));
+}
+
+} // namespace

@@ -1,0 +1,47 @@
+#include "tools/Utf8.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const std::vector<std::pair<char32_t, std::string>> characters = {{0x00, std::string(1, '\0')},
+                                                                  {0x41, "A"},
+                                                                  {0x7F, "\x7F"},
+                                                                  {0x80, "\xC2\x80"},
+                                                                  {0x7FF, "\xDF\xBF"},
+                                                                  {0x800, "\xE0\xA0\x80"},
+                                                                  {0xD7FF, "\xED\x9F\xBF"},
+                                                                  {0xE000, "\xEE\x80\x80"},
+                                                                  {0xFFFF, "\xEF\xBF\xBF"},
+                                                                  {0x10000, "\xF0\x90\x80\x80"},
+                                                                  {0x10FFFF, "\xF4\x8F\xBF\xBF"}};
+
+TEST(Utf8, ReadsTheFirstCharacterOfATextAndNothingBehindIt) {
+    for (const auto& [codePoint, bytes] : characters) {
+        const Utf8Character character = firstCharacter(bytes + "\x80z");
+        EXPECT_EQ(character.codePoint, codePoint);
+        EXPECT_EQ(character.length, bytes.size());
+        EXPECT_TRUE(character.valid);
+    }
+}
+
+TEST(Utf8, WritesCodePoints) {
+    for (const auto& [codePoint, bytes] : characters) {
+        std::string text = "x";
+        appendUtf8(text, codePoint);
+        EXPECT_EQ(text, "x" + bytes);
+    }
+}
+
+TEST(Utf8, TakesAnInvalidByteAlone) {
+    const Utf8Character character = firstCharacter("\xE2\x82");
+    EXPECT_EQ(character.codePoint, 0xE2U);
+    EXPECT_EQ(character.length, 1U);
+    EXPECT_FALSE(character.valid);
+}
+
+} // namespace

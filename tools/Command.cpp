@@ -1,0 +1,21 @@
+#include "tools/Command.h"
+
+#include <cstddef>
+#include <utility>
+
+HelpFormatter::HelpFormatter(std::string examples) : examples_(std::move(examples)) {
+    constexpr std::size_t columnWidth = 16;
+    column_width(columnWidth);
+    label("OPTIONS", "OPTION...");
+    label("SUBCOMMAND", "COMMAND");
+    label("Positionals", "Arguments");
+}
+
+std::string HelpFormatter::make_usage(const CLI::App* app, std::string name) const {
+    return "\n" + CLI::Formatter::make_usage(app, std::move(name));
+}
+
+std::string HelpFormatter::make_help(const CLI::App* app, std::string name,
+                                     CLI::AppFormatMode mode) const {
+    return "Examples:\n" + examples_ + "\n" + CLI::Formatter::make_help(app, std::move(name), mode);
+}

@@ -1,0 +1,87 @@
+#include "tools/CommandLine.h"
+
+#include <array>
+#include <exception>
+#include <memory>
+#include <new>
+#include <string>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include "model/version.h"
+#include "tools/Command.h"
+#include "tools/Escape.h"
+#include "tools/Show.h"
+
+namespace {
+
+constexpr const char* examples = "  qenxml show 00112233-4455-6677-8899-aabbccddeeff.xml\n"
+                                 "  qenxml show --merge season/*.xml\n"
+                                 "  qenxml show --help\n";
+
+/// What is wrong with the arguments. The parser itself tells of what is missing first, although an
+/// argument that it did not understand is mostly the reason.
+std::string describe(const CLI::App& application, const CLI::ParseError& error) {
+    for (const std::string& argument : application.remaining(true)) {
+        if (argument != "--")
+            return fmt::format("\"{}\" is not understood here", escape(argument));
+    }
+    if (application.get_subcommands().empty())
+        return "a command is required";
+    return escape(error.what());
+}
+
+ExitCode refuse(const CLI::App& application, const CLI::ParseError& error, Console& console) {
+    std::string command = application.get_name();
+    for (const CLI::App* subcommand : application.get_subcommands())
+        command += " " + subcommand->get_name();
+    console.complain(fmt::format("{}; try \"{} --help\"", describe(application, error), command));
+    return ExitCode::WrongUsage;
+}
+
+ExitCode parseAndRun(int argc, const char* const* argv, Console& console) {
+    CLI::App application("Reads prescription packages for farm machinery.", "qenxml");
+    application.formatter(std::make_shared<HelpFormatter>(examples));
+    application.footer(exitCodeHelp);
+    application.set_help_flag("-h,--help", "Print this help");
+    application.set_version_flag("--version", "qenxml " QENXML_VERSION, "Print the version");
+    application.require_subcommand(1);
+    const std::array commands = {addShow(application)};
+
+    try {
+        application.parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        console.print(application.help());
+        return ExitCode::Success;
+    } catch (const CLI::CallForVersion& version) {
+        console.print(fmt::format("{}\n", version.what()));
+        return ExitCode::Success;
+    } catch (const CLI::ParseError& error) {
+        return refuse(application, error, console);
+    }
+
+    for (const Command& command : commands) {
+        if (command.parser->parsed())
+            return command.run(console);
+    }
+    return ExitCode::WrongUsage; // not reached: a sub-command is required
+}
+
+} // namespace
+
+ExitCode runCommandLine(int argc, const char* const* argv, Console& console) {
+    try {
+        const ExitCode result = parseAndRun(argc, argv, console);
+        console.flush();
+        return result;
+    } catch (const OutputError& error) {
+        console.complainOnly(
+            fmt::format("the output could not be written: {}", error.code().message()));
+    } catch (const std::bad_alloc&) {
+        console.complainOnly("not enough memory");
+    } catch (const std::exception& error) {
+        console.complainOnly(escape(error.what()));
+    }
+    return ExitCode::Failure;
+}

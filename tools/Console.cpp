@@ -1,0 +1,36 @@
+#include "tools/Console.h"
+
+#include <cerrno>
+
+#include <fmt/format.h>
+
+namespace {
+
+[[noreturn]] void throwOutputError() {
+    throw OutputError(errno, std::generic_category());
+}
+
+} // namespace
+
+void Console::print(std::string_view text) {
+    if (std::fwrite(text.data(), 1, text.size(), output_) != text.size())
+        throwOutputError();
+}
+
+void Console::flush() {
+    if (std::fflush(output_) != 0)
+        throwOutputError();
+}
+
+void Console::complain(std::string_view message) {
+    flush();
+    complainOnly(message);
+}
+
+void Console::complainOnly(std::string_view message) {
+    const std::string line = fmt::format("qenxml: {}\n", message);
+    // In one piece, so that it stays whole beside the output of other programs. Nobody is left to
+    // tell when it fails.
+    std::fwrite(line.data(), 1, line.size(), messages_);
+    std::fflush(messages_);
+}

@@ -1,0 +1,24 @@
+#ifndef QENXML_TOOLS_DIAGNOSIS_H
+#define QENXML_TOOLS_DIAGNOSIS_H
+
+#include <optional>
+#include <string>
+
+#include "tools/SourceText.h"
+
+/// Why a package file could not be read.
+struct ReadFailure {
+    std::string reason;               ///< In words, safe to print.
+    std::optional<Position> position; ///< Where in the file, if it is about a place there.
+};
+
+/// Finds out why the library could not read a package file. The library itself says little, so the
+/// file is read once more.
+///
+/// @throws std::bad_alloc
+ReadFailure diagnose(const std::string& path);
+
+/// In words, an error number of opening or reading a file.
+std::string describeFileError(int error);
+
+#endif

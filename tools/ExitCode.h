@@ -1,0 +1,20 @@
+/// @file
+/// The exit codes of the qenxml command: their only home.
+
+#ifndef QENXML_TOOLS_EXITCODE_H
+#define QENXML_TOOLS_EXITCODE_H
+
+enum class ExitCode : int {
+    Success = 0,   ///< All files were read.
+    Failure = 1,   ///< Some file could not be read, or the output could not be written.
+    WrongUsage = 2 ///< The command line was not understood; nothing was done.
+};
+
+/// The exit codes as the help texts of all commands explain them.
+inline constexpr const char* exitCodeHelp =
+    "Exit codes:\n"
+    "  0  all files were read\n"
+    "  1  some file could not be read, or the output could not be written\n"
+    "  2  wrong usage; nothing was read";
+
+#endif

@@ -1,0 +1,19 @@
+#ifndef QENXML_TOOLS_PACKAGEUUID_H
+#define QENXML_TOOLS_PACKAGEUUID_H
+
+#include <optional>
+#include <string>
+
+#include <boost/uuid/uuid.hpp>
+
+/// The form of a package file's name, for messages.
+inline constexpr const char* packageNameForm = "00112233-4455-6677-8899-aabbccddeeff.xml";
+
+/// The UUID that the library makes of the text of an identifier; nothing when it refuses the text.
+std::optional<boost::uuids::uuid> uuidOf(const std::string& text);
+
+/// The UUID of the package in a file, which is taken from its path; nothing when there is none in
+/// it.
+std::optional<boost::uuids::uuid> packageUuid(const std::string& path);
+
+#endif

@@ -1,0 +1,24 @@
+#ifndef QENXML_TOOLS_UTF8_H
+#define QENXML_TOOLS_UTF8_H
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+/// The first character of a text in UTF-8.
+struct Utf8Character {
+    char32_t codePoint; ///< The byte itself when it is not valid UTF-8.
+    std::size_t length; ///< Bytes that it takes; 1 when it is not valid.
+    bool valid;         ///< False for a byte that belongs to no character.
+};
+
+/// Takes a text apart, character by character. Overlong forms, surrogates and code points beyond
+/// U+10FFFF are invalid: their bytes come one by one.
+///
+/// @param text not empty
+Utf8Character firstCharacter(std::string_view text);
+
+/// Appends a code point in UTF-8; it must not be a surrogate or beyond U+10FFFF.
+void appendUtf8(std::string& text, char32_t codePoint);
+
+#endif

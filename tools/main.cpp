@@ -1,0 +1,17 @@
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+
+#include <unistd.h>
+
+#include "tools/CommandLine.h"
+
+int main(int argc, char** argv) {
+    // When the reader of a pipe is gone, writing shall fail and be reported, not end the process.
+    std::signal(SIGPIPE, SIG_IGN);
+
+    const bool coloured =
+        wantsColour(isatty(STDOUT_FILENO) != 0, std::getenv("NO_COLOR"), std::getenv("TERM"));
+    Console console(stdout, stderr, Style(coloured));
+    return static_cast<int>(runCommandLine(argc, argv, console));
+}
