@@ -12,7 +12,9 @@
 /// A farm of a grower: its identity and its fields.
 ///
 /// A plain value: copying it copies every field, geometry, rec and product data beneath it.
-/// Nothing is validated, and no operation throws anything but std::bad_alloc.
+/// Nothing is validated, and no operation throws anything but std::bad_alloc. When memory runs out
+/// in an assignment, the farm holds old values and new ones, each field whole; adding changes
+/// nothing then.
 ///
 /// Threads: a farm may be read by several threads at once as long as none changes it; id() changes
 /// nothing although it is not a const member.

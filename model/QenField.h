@@ -107,7 +107,8 @@ public:
 
     /// Assigns @p rec to the first rec with the same id, which keeps its place, or else appends a
     /// copy. As this is an assignment of QenRec, the product data of a rec that is replaced is not
-    /// deleted: it belongs to the caller, who takes the pointer beforehand.
+    /// deleted: it belongs to the caller, who takes the pointer beforehand. When memory runs out,
+    /// nothing has changed.
     void addRec(QenRec rec);
 
     /// Adds what @p other, another version of the same field, has beyond this one: its recs with

@@ -12,7 +12,8 @@
 /// A grower: the root of a record tree, with the grower's identity and farms.
 ///
 /// A plain value: copying it copies the whole tree beneath it. Nothing is validated, and no
-/// operation throws anything but std::bad_alloc.
+/// operation throws anything but std::bad_alloc. When memory runs out in an assignment, the grower
+/// holds old values and new ones, each field whole; adding changes nothing then.
 ///
 /// Threads: a grower may be read by several threads at once as long as none changes it.
 class QENXML_EXPORT QenGrower {

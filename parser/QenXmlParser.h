@@ -58,7 +58,7 @@ public:
     ///
     /// @param path path of the file; at least 40 characters
     /// @return true when the file was read, even if it holds no grower; false when it cannot be
-    ///         loaded as XML or has no root element "RecPackage"
+    ///         loaded as XML, for lack of memory included, or has no root element "RecPackage"
     /// @throws std::out_of_range  the path is shorter than 40 characters
     /// @throws std::runtime_error "invalid uuid string": the path carries no UUID, or an identifier
     ///                            in the package is absent, empty or malformed. The growers before

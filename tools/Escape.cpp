@@ -24,15 +24,13 @@ void appendEscaped(std::string& result, std::string_view bytes, const Utf8Charac
     const char32_t c = character.codePoint;
     const auto number = static_cast<unsigned>(c);
     const auto out = std::back_inserter(result);
-    if (!character.valid)
-        fmt::format_to(out, "\\x{:02X}", number);
-    else if (c == '\n')
+    if (c == '\n')
         result += "\\n";
     else if (c == '\t')
         result += "\\t";
     else if (c == '\\')
         result += "\\\\";
-    else if (c < 0x20 || c == 0x7F)
+    else if (!character.valid || c < 0x20 || c == 0x7F)
         fmt::format_to(out, "\\x{:02X}", number);
     else if ((c >= 0x80 && c <= 0x9F) || changesDirection(c) || separatesLines(c))
         fmt::format_to(out, "\\u{{{:04X}}}", number);

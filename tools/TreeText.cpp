@@ -1,5 +1,6 @@
 #include "tools/TreeText.h"
 
+#include <array>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -50,12 +51,19 @@ std::string quantity(double value, const std::string& unit) {
 }
 
 std::string nutrients(CustomFertilizerRec& blend) {
-    const std::pair<const char*, double> percentages[] = {
-        {"N", blend.pct_N()},   {"P", blend.pct_P()},   {"K", blend.pct_K()},
-        {"Ca", blend.pct_Ca()}, {"Mg", blend.pct_Mg()}, {"S", blend.pct_S()},
-        {"Fe", blend.pct_Fe()}, {"Mn", blend.pct_Mn()}, {"Zn", blend.pct_Zn()},
-        {"Cu", blend.pct_Cu()}, {"B", blend.pct_B()},   {"Mo", blend.pct_Mo()},
-        {"Cl", blend.pct_Cl()}};
+    const std::array<std::pair<const char*, double>, 13> percentages = {{{"N", blend.pct_N()},
+                                                                         {"P", blend.pct_P()},
+                                                                         {"K", blend.pct_K()},
+                                                                         {"Ca", blend.pct_Ca()},
+                                                                         {"Mg", blend.pct_Mg()},
+                                                                         {"S", blend.pct_S()},
+                                                                         {"Fe", blend.pct_Fe()},
+                                                                         {"Mn", blend.pct_Mn()},
+                                                                         {"Zn", blend.pct_Zn()},
+                                                                         {"Cu", blend.pct_Cu()},
+                                                                         {"B", blend.pct_B()},
+                                                                         {"Mo", blend.pct_Mo()},
+                                                                         {"Cl", blend.pct_Cl()}}};
     std::vector<std::string> parts;
     for (const auto& [symbol, percentage] : percentages) {
         if (percentage != 0.0)
@@ -122,7 +130,7 @@ private:
     }
 
     void writeStatistics(QenRec& rec) {
-        const double rates[] = {rec.minimumRate(), rec.averageRate(), rec.maximumRate()};
+        const std::array rates = {rec.minimumRate(), rec.averageRate(), rec.maximumRate()};
         const std::string rateUnit = textOrCode(rec.rateUom(), rec.rateUomId());
         if (rates[0] != 0.0 || rates[1] != 0.0 || rates[2] != 0.0 || !rateUnit.empty())
             property("rate",

@@ -10,8 +10,10 @@ int main(int argc, char** argv) {
     // When the reader of a pipe is gone, writing shall fail and be reported, not end the process.
     std::signal(SIGPIPE, SIG_IGN);
 
+    // NOLINTBEGIN(concurrency-mt-unsafe): there is one thread
     const bool coloured =
         wantsColour(isatty(STDOUT_FILENO) != 0, std::getenv("NO_COLOR"), std::getenv("TERM"));
+    // NOLINTEND(concurrency-mt-unsafe)
     Console console(stdout, stderr, Style(coloured));
     return static_cast<int>(runCommandLine(argc, argv, console));
 }
