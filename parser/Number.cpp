@@ -1,10 +1,13 @@
 #include "parser/Number.h"
 
-#include <charconv>
+#include <array>
+#include <cfloat>
 #include <clocale>
+#include <cstddef>
+#include <cstdint>
 #include <cstdlib>
-#include <cstring>
 #include <new>
+#include <optional>
 
 #include <locale.h> // NOLINT(modernize-deprecated-headers): strtod_l() and its locales are POSIX
 
@@ -29,20 +32,48 @@ private:
     locale_t locale_;
 };
 
+constexpr std::size_t maximumDigits = 15;
+
+/// Whole numbers of up to 15 digits, and these powers of ten, are exact in a double.
+constexpr std::array<double, maximumDigits + 1> powersOfTen = {
+    1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+/// Reads a text that is a short plain decimal and nothing else, as nearly all numbers are: in a
+/// third of the time of strtod(), and as exactly, because one division of exact numbers rounds
+/// correctly.
+std::optional<double> shortDecimal(const char* text) {
+    const bool negative = *text == '-';
+    const char* c = negative ? text + 1 : text;
+    std::int64_t digits = 0;
+    std::size_t count = 0;
+    const auto readDigits = [&] {
+        for (; isDigit(*c) && count <= maximumDigits; ++c, ++count)
+            digits = digits * 10 + (*c - '0');
+    };
+    readDigits();
+    const std::size_t beforePoint = count;
+    if (*c == '.') {
+        ++c;
+        readDigits();
+    }
+    if (*c != '\0' || count == 0 || count > maximumDigits)
+        return std::nullopt;
+    const double number = static_cast<double>(digits) / powersOfTen[count - beforePoint];
+    return negative ? -number : number;
+}
+
 } // namespace
 
 double numberFromText(const char* text) {
-#ifdef __cpp_lib_to_chars
-    // Plain decimal numbers, which is nearly all of them, take a quarter of the time this way.
-    const char* const digits = text + (*text == '-' ? 1 : 0);
-    if (*digits >= '0' && *digits <= '9') {
-        const char* const end = text + std::strlen(text);
-        double number = 0.0;
-        const auto [stop, error] = std::from_chars(text, end, number);
-        if (stop == end && error == std::errc())
-            return number;
+    // Not where doubles are calculated with more digits than they hold, and so rounded twice.
+    if (FLT_EVAL_METHOD == 0) {
+        if (const std::optional<double> number = shortDecimal(text))
+            return *number;
     }
-#endif
     return CLocale().toDouble(text);
 }
 
