@@ -6,8 +6,7 @@
 #include <boost/uuid/uuid.hpp>
 
 #include "model/QenExport.h"
-
-class QenRecData;
+#include "model/QenRecData.h"
 
 /// One recommendation (prescription) of a field: what to apply, at which rates, in which zone and
 /// season. It owns the product data that it prescribes.

@@ -7,17 +7,16 @@
 #include <boost/uuid/uuid.hpp>
 #include <pugixml.hpp>
 
+#include "model/CommercialFertilizerRec.h"
+#include "model/CustomFertilizerRec.h"
+#include "model/PesticideRec.h"
+#include "model/PlantingRec.h"
 #include "model/QenExport.h"
 #include "model/QenFarm.h"
 #include "model/QenField.h"
 #include "model/QenGrower.h"
 #include "model/QenRec.h"
-
-class CommercialFertilizerRec;
-class CustomFertilizerRec;
-class PesticideRec;
-class PlantingRec;
-class QenRecData;
+#include "model/QenRecData.h"
 
 /// Reads package files into growers.
 ///
