@@ -76,6 +76,8 @@ ExitCode runCommandLine(int argc, const char* const* argv, Console& console) {
         console.flush();
         return result;
     } catch (const OutputError& error) {
+        if (error.code() == std::errc::broken_pipe) // Its reader has seen enough: "| head".
+            return ExitCode::Failure;
         console.complainOnly(
             fmt::format("the output could not be written: {}", error.code().message()));
     } catch (const std::bad_alloc&) {

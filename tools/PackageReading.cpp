@@ -6,6 +6,7 @@
 #include <new>
 #include <system_error>
 
+#include <boost/uuid/uuid_io.hpp>
 #include <fmt/format.h>
 
 #include "parser/QenXmlParser.h"
@@ -64,4 +65,11 @@ std::string failureMessage(const PackageReading& reading) {
                                         ? "the grower before it is shown"
                                         : fmt::format("the {} growers before it are shown", count);
     return fmt::format("{}: {}; {}", place, failure.reason, consequence);
+}
+
+std::string oddNameMessage(const PackageReading& reading) {
+    return fmt::format(
+        "{}: file name without a proper package UUID: a name such as {} is expected; "
+        "the file is shown, its recs carry the UUID {}",
+        escape(reading.path), packageNameForm, to_string(reading.uuid.value()));
 }

@@ -27,4 +27,7 @@ PackageReading readPackage(const std::string& path);
 /// @param reading one with a failure
 std::string failureMessage(const PackageReading& reading);
 
+/// The message about a file that was read although its name is not that of a package.
+std::string oddNameMessage(const PackageReading& reading);
+
 #endif

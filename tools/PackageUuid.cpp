@@ -1,8 +1,11 @@
 #include "tools/PackageUuid.h"
 
 #include <cstddef>
+#include <locale>
 #include <stdexcept>
 
+#include <boost/algorithm/string/predicate.hpp>
+#include <boost/uuid/uuid_io.hpp>
 #include <pugixml.hpp>
 
 #include "parser/QenXmlParser.h"
@@ -20,10 +23,25 @@ std::optional<boost::uuids::uuid> uuidOf(const std::string& text) {
     }
 }
 
-std::optional<boost::uuids::uuid> packageUuid(const std::string& path) {
+namespace {
+
+/// The part of a path where the UUID stands; empty when the path is too short.
+std::string uuidText(const std::string& path) {
     constexpr std::size_t uuidLength = 36;
     constexpr std::size_t extensionLength = 4;
     if (path.size() < uuidLength + extensionLength)
-        return std::nullopt;
-    return uuidOf(path.substr(path.size() - uuidLength - extensionLength, uuidLength));
+        return {};
+    return path.substr(path.size() - uuidLength - extensionLength, uuidLength);
+}
+
+} // namespace
+
+std::optional<boost::uuids::uuid> packageUuid(const std::string& path) {
+    return uuidOf(uuidText(path));
+}
+
+bool isNamedByUuid(const std::string& path) {
+    const std::optional<boost::uuids::uuid> uuid = packageUuid(path);
+    return uuid &&
+           boost::algorithm::iequals(to_string(*uuid), uuidText(path), std::locale::classic());
 }

@@ -16,4 +16,8 @@ std::optional<boost::uuids::uuid> uuidOf(const std::string& text);
 /// it.
 std::optional<boost::uuids::uuid> packageUuid(const std::string& path);
 
+/// Whether the UUID of the package stands in the path as it should. The library takes other
+/// characters for digits too, so that nearly any long path gives some UUID.
+bool isNamedByUuid(const std::string& path);
+
 #endif

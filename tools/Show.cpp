@@ -1,7 +1,7 @@
 #include "tools/Show.h"
 
-#include <algorithm>
 #include <cstddef>
+#include <map>
 #include <memory>
 #include <string>
 #include <utility>
@@ -12,6 +12,7 @@
 
 #include "tools/Escape.h"
 #include "tools/PackageReading.h"
+#include "tools/PackageUuid.h"
 #include "tools/TreeText.h"
 
 namespace {
@@ -31,6 +32,8 @@ PackageReading readAndComplain(const std::string& path, Console& console) {
     PackageReading reading = readPackage(path);
     if (reading.failure)
         console.complain(failureMessage(reading));
+    else if (!isNamedByUuid(path))
+        console.complain(oddNameMessage(reading));
     return reading;
 }
 
@@ -73,21 +76,31 @@ ExitCode showOneByOne(const std::vector<std::string>& files, Console& console) {
     return result;
 }
 
-void mergeInto(std::vector<QenGrower>& growers, std::vector<QenGrower> others) {
-    for (QenGrower& other : others) {
-        const auto present = std::find(growers.begin(), growers.end(), other);
-        if (present == growers.end())
-            growers.push_back(std::move(other));
-        else
-            present->merge(std::move(other));
+/// Growers of equal id become one, in the place of the first.
+class MergedGrowers {
+public:
+    void add(std::vector<QenGrower> growers) {
+        for (QenGrower& grower : growers) {
+            const auto [place, isNew] = places_.try_emplace(grower.id(), growers_.size());
+            if (isNew)
+                growers_.push_back(std::move(grower));
+            else
+                growers_[place->second].merge(std::move(grower));
+        }
     }
-}
+
+    std::vector<QenGrower>& growers() { return growers_; }
+
+private:
+    std::vector<QenGrower> growers_;
+    std::map<boost::uuids::uuid, std::size_t> places_;
+};
 
 ExitCode showMerged(const std::vector<std::string>& files, Console& console) {
     const TreeLayout layout{console.style(), 0, true};
     ExitCode result = ExitCode::Success;
     bool any = false;
-    std::vector<QenGrower> growers;
+    MergedGrowers merged;
     for (const std::string& file : files) {
         PackageReading reading = readAndComplain(file, console);
         if (reading.failure)
@@ -96,11 +109,11 @@ ExitCode showMerged(const std::vector<std::string>& files, Console& console) {
             continue;
         any = true;
         printHeading(reading, console);
-        mergeInto(growers, std::move(reading.growers));
+        merged.add(std::move(reading.growers));
     }
     if (any) {
         console.print("\n");
-        printGrowers(growers, layout, console);
+        printGrowers(merged.growers(), layout, console);
     }
     return result;
 }

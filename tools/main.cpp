@@ -7,7 +7,7 @@
 #include "tools/CommandLine.h"
 
 int main(int argc, char** argv) {
-    // When the reader of a pipe is gone, writing shall fail and be reported, not end the process.
+    // When the reader of a pipe is gone, writing shall fail, not end the process.
     std::signal(SIGPIPE, SIG_IGN);
 
     // NOLINTBEGIN(concurrency-mt-unsafe): there is one thread

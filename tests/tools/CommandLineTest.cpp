@@ -119,7 +119,7 @@ TEST(CommandLine, AnswersWrongUsageWithAMessageAndAHint) {
     }
 }
 
-TEST(CommandLine, ReportsThatHelpCannotBeWritten) {
+TEST(CommandLine, ReportsThatHelpCannotBeWrittenUnlessItsReaderHasSeenEnough) {
     for (const std::string option : {"--help", "--version"}) {
         RunOptions options;
         options.output = Output::FullDisk;
@@ -129,7 +129,7 @@ TEST(CommandLine, ReportsThatHelpCannotBeWritten) {
         EXPECT_EQ(full.exitCode, 1);
         options.output = Output::ClosedPipe;
         const RunResult closed = runCommand({option}, options);
-        EXPECT_EQ(closed.errors, "qenxml: the output could not be written: Broken pipe\n");
+        EXPECT_EQ(closed.errors, "");
         EXPECT_EQ(closed.exitCode, 1);
     }
 }

@@ -35,4 +35,13 @@ TEST(PackageUuid, FollowsTheLibraryInReadingIdentifiers) {
     EXPECT_EQ(uuidOf("0011"), std::nullopt);
 }
 
+TEST(PackageUuid, StandsInANameInItsProperFormOnly) {
+    EXPECT_TRUE(isNamedByUuid(std::string(name) + ".xml"));
+    EXPECT_TRUE(isNamedByUuid("folder/00112233-4455-6677-8899-AABBCCDDEEFF.XML"));
+    EXPECT_FALSE(isNamedByUuid(std::string(name) + ".xml~"));
+    EXPECT_FALSE(isNamedByUuid("g0112233-4455-6677-8899-aabbccddeeff.xml"));
+    EXPECT_FALSE(isNamedByUuid("examples/packages/broken/path-too-short/a.xml"));
+    EXPECT_FALSE(isNamedByUuid("a.xml"));
+}
+
 } // namespace
