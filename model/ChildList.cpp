@@ -1,5 +1,7 @@
 #include "model/ChildList.h"
 
+#include <cstddef>
+
 #include "model/QenFarm.h"
 #include "model/QenField.h"
 #include "model/QenRec.h"
@@ -24,4 +26,15 @@ void qenxml::dropUnknownProductData(QenField& field) noexcept {
 void qenxml::dropUnknownProductData(QenFarm& farm) noexcept {
     for (QenField& field : farm.fields())
         dropUnknownProductData(field);
+}
+
+QenRec& qenxml::appendEmptyRec(std::vector<QenRec>& recs) {
+    if (recs.size() == recs.capacity()) {
+        std::vector<QenRec> larger;
+        larger.reserve(std::max<std::size_t>(2 * recs.size(), 1));
+        for (QenRec& rec : recs)
+            larger.emplace_back().take(rec);
+        recs.swap(larger);
+    }
+    return recs.emplace_back();
 }

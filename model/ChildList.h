@@ -23,6 +23,10 @@ void dropUnknownProductData(QenRec& rec) noexcept;
 void dropUnknownProductData(QenField& field) noexcept;
 void dropUnknownProductData(QenFarm& farm) noexcept;
 
+/// Appends an empty rec to @p recs, which grows by hand, because a list that grows by itself copies
+/// every rec with its product data. When memory runs out, the list has not changed.
+QenRec& appendEmptyRec(std::vector<QenRec>& recs);
+
 /// Puts @p child in the place of the first child with the same identifier, or else appends it. When
 /// memory runs out, the list has not changed.
 template <class Child>

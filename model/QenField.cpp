@@ -1,12 +1,11 @@
 #include "model/QenField.h"
 
 #include <algorithm>
-#include <cstddef>
 #include <utility>
 
 #include <boost/uuid/uuid_io.hpp>
 
-#include "model/QenRecData.h"
+#include "model/ChildList.h"
 
 QenField::QenField() = default;
 
@@ -109,24 +108,12 @@ void QenField::addFieldGeometry(const QenFieldGeometry& geometry) {
     geometries_.push_back(geometry);
 }
 
-void QenField::appendRec(QenRec& rec) {
-    if (recs_.size() == recs_.capacity()) {
-        // By hand, because the list would copy every rec with its product data to grow.
-        std::vector<QenRec> larger;
-        larger.reserve(std::max<std::size_t>(2 * recs_.size(), 1));
-        for (QenRec& present : recs_)
-            larger.emplace_back().take(present);
-        recs_ = std::move(larger);
-    }
-    recs_.emplace_back().take(rec);
-}
-
 void QenField::addRec(QenRec rec) {
     const auto present = std::find(recs_.begin(), recs_.end(), rec);
     if (present != recs_.end())
         present->take(rec);
     else
-        appendRec(rec);
+        qenxml::appendEmptyRec(recs_).take(rec);
 }
 
 void QenField::merge(QenField other) {
@@ -134,7 +121,7 @@ void QenField::merge(QenField other) {
         return;
     for (QenRec& rec : other.recs_) {
         if (std::find(recs_.begin(), recs_.end(), rec) == recs_.end())
-            appendRec(rec);
+            qenxml::appendEmptyRec(recs_).take(rec);
     }
     for (QenFieldGeometry& geometry : other.geometries_) {
         if (std::find(geometries_.begin(), geometries_.end(), geometry) == geometries_.end())

@@ -117,9 +117,6 @@ public:
     void merge(QenField other);
 
 private:
-    /// Appends a rec that is not looked at any more.
-    QENXML_LOCAL void appendRec(QenRec& rec);
-
     /// The last of the geometries with the identifier, or null.
     QENXML_LOCAL const QenFieldGeometry* lastGeometry(const boost::uuids::uuid& geometryId) const;
 

@@ -2,11 +2,18 @@
 #define QENXML_MODEL_QENREC_H
 
 #include <string>
+#include <vector>
 
 #include <boost/uuid/uuid.hpp>
 
 #include "model/QenExport.h"
 #include "model/QenRecData.h"
+
+class QenRec;
+
+namespace qenxml {
+QenRec& appendEmptyRec(std::vector<QenRec>& recs); // not part of the public interface
+} // namespace qenxml
 
 /// One recommendation (prescription) of a field: what to apply, at which rates, in which zone and
 /// season. It owns the product data that it prescribes.
@@ -133,7 +140,9 @@ public:
     void setXmlFileName(boost::uuids::uuid xmlFileName); ///< Sets xmlFileName().
 
 private:
-    friend class QenField; // Takes recs over and reads const ones without copying them.
+    // They take recs over, and read const ones, without copying them.
+    friend class QenField;
+    friend QenRec& qenxml::appendEmptyRec(std::vector<QenRec>& recs);
 
     /// All that a rec holds beside its product data, as one value that copies and moves by itself.
     struct Values {

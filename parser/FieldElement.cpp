@@ -1,3 +1,4 @@
+#include "model/ChildList.h"
 #include "parser/ChildCursor.h"
 #include "parser/Identifier.h"
 #include "parser/ListWalk.h"
@@ -37,7 +38,7 @@ QenField QenXmlParser::parseFieldNode(boost::uuids::uuid growerId, boost::uuids:
     const pugi::xml_node firstRec = children.child(tag::Recommendations).child(tag::Rec);
     qenxml::readChildren(recs, firstRec, [&](pugi::xml_node rec) {
         // In its place from the start: a rec cannot be moved.
-        qenxml::readRec(id, geometryId, xmlFileName_, rec, recs.emplace_back());
+        qenxml::readRec(id, geometryId, xmlFileName_, rec, qenxml::appendEmptyRec(recs));
     });
     return field;
 }
