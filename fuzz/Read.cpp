@@ -1,0 +1,89 @@
+// Reads any bytes as a package, walks everything that was read, copies it, merges it with itself
+// and with a second reading.
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <unistd.h>
+
+#include "fuzz/Require.h"
+#include "parser/QenXmlParser.h"
+#include "tests/support/Describe.h"
+
+namespace {
+
+/// The file that every input is written to; in memory where the system has such a folder.
+class PackageFile {
+public:
+    PackageFile() {
+        folder_ = access("/dev/shm", W_OK) == 0 ? "/dev/shm" : "/tmp";
+        folder_ += "/qenxml-fuzz-XXXXXX";
+        require(mkdtemp(folder_.data()) != nullptr, "a temporary folder");
+        path_ = folder_ + "/00112233-4455-6677-8899-aabbccddeeff.xml";
+    }
+    PackageFile(const PackageFile&) = delete;
+    PackageFile& operator=(const PackageFile&) = delete;
+    ~PackageFile() {
+        std::remove(path_.c_str());
+        rmdir(folder_.c_str());
+    }
+
+    void write(const std::uint8_t* data, std::size_t size) const {
+        std::FILE* const file = std::fopen(path_.c_str(), "wb");
+        require(file != nullptr, "opening the file");
+        require(size == 0 || std::fwrite(data, 1, size, file) == size, "writing the file");
+        require(std::fclose(file) == 0, "closing the file");
+    }
+
+    const std::string& path() const { return path_; }
+
+private:
+    std::string folder_;
+    std::string path_;
+};
+
+/// What a reading ended with: true, false or the exception.
+std::string read(QenXmlParser& parser, const std::string& path) {
+    try {
+        return parser.parseFile(path) ? "read" : "not read";
+    } catch (const std::runtime_error& error) {
+        require(std::string_view(error.what()) == "invalid uuid string", "the text of the error");
+        return error.what();
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const PackageFile file;
+    file.write(data, size);
+
+    QenXmlParser parser;
+    const std::string outcome = read(parser, file.path());
+    std::vector<QenGrower> growers = parser.getGrowers();
+    const std::string content = test::describe(growers);
+    require(outcome != "not read" || growers.empty(), "nothing comes from a file that is not read");
+
+    require(test::describe(std::vector<QenGrower>(growers)) == content, "a copy is equal");
+    for (const QenGrower& grower : growers) {
+        QenGrower merged = grower;
+        merged.merge(grower);
+        require(test::describe(merged) == test::describe(grower), "merging with itself");
+    }
+
+    require(read(parser, file.path()) == outcome, "a second reading ends as the first");
+    std::vector<QenGrower> both = parser.getGrowers();
+    require(both.size() == 2 * growers.size(), "the second reading adds as many growers");
+    for (std::size_t i = 0; i < growers.size(); ++i) {
+        QenGrower& second = both[growers.size() + i];
+        require(test::describe(second) == test::describe(growers[i]), "it reads the same");
+        growers[i].merge(second);
+    }
+    require(test::describe(growers) == content, "merging with the second reading");
+    return 0;
+}
