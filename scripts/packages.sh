@@ -3,7 +3,7 @@
 # Debian packages per purpose. Each purpose includes those before it.
 packages_run="g++ cmake ninja-build libpugixml-dev libboost-dev libboost-system-dev libcli11-dev libfmt-dev"
 packages_test="$packages_run libgtest-dev librapidcheck-dev binutils"
-packages_check="$packages_test clang clang-tidy clang-format libclang-rt-14-dev git"
+packages_check="$packages_test clang clang-tidy clang-format libclang-rt-14-dev cppcheck valgrind gcovr git"
 
 # install_packages PACKAGE...: installs those that are missing, and says so.
 install_packages() {

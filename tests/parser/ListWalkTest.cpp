@@ -4,6 +4,7 @@
 #include "parser/QenXmlParser.h"
 
 #include <functional>
+#include <ostream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -39,6 +40,10 @@ struct List {
     std::string (*package)(const std::string& list); ///< Everything around the list.
     Numbers (*read)(std::vector<QenGrower>& growers);
 };
+
+void PrintTo(const List& list, std::ostream* out) {
+    *out << list.name;
+}
 
 const List lists[] = {
     {"Growers", "Grower", "GrowerID", test::grower, test::package,

@@ -1,0 +1,260 @@
+// Reading a file takes memory in proportion to its size, whatever it holds: the limit below is the
+// one that hosts may rely on. Bytes are counted as they are asked for, so that the figures are the
+// same in every run; what the allocator adds for its own use is not among them.
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdio>
+#include <functional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "parser/QenXmlParser.h"
+#include "tests/robustness/Outcome.h"
+#include "tests/robustness/counting/CountedMemory.h"
+#include "tests/support/PackageText.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace {
+
+// The limit: so many bytes per byte of the file, and so many for any file. The first is what the
+// XML library takes for the smallest nodes; the second is room reserved for the children that a
+// list seems to have, before any of them is read.
+constexpr std::size_t bytesPerByte = 34;
+constexpr std::size_t bytesForAnyFile = 3'000'000;
+static_assert(sizeof(void*) == 8, "the figures are those of 64-bit machines");
+
+/// 32 digits, the shortest identifier.
+std::string digits(std::size_t number) {
+    char text[33];
+    std::snprintf(text, sizeof text, "%032zx", number);
+    return text;
+}
+
+/// Many items one after the other, each made from its place, 0 being the first.
+std::string listOf(std::size_t count, const std::function<std::string(std::size_t)>& item) {
+    std::string result;
+    for (std::size_t place = 0; place < count; ++place)
+        result += item(place);
+    return result;
+}
+
+std::string repeated(const std::string& text, std::size_t count) {
+    return listOf(count, [&](std::size_t) { return text; });
+}
+
+std::string inFarm(const std::string& content) {
+    return test::package(test::grower(1, test::farm(2, content)));
+}
+
+std::string inField(const std::string& recs) {
+    return inFarm(test::field(3, test::recommendations(recs)));
+}
+
+// The shortest items that can be read. After the first of a list, an item may have any name.
+
+std::string shortestGrower(std::size_t id) {
+    return "<Grower GrowerID=\"" + digits(id) + "\"/>";
+}
+
+std::string shortestFarm(std::size_t id) {
+    return "<Farm FarmID=\"" + digits(id) + "\"/>";
+}
+
+std::string shortestField(std::size_t id) {
+    return "<Field FieldID=\"" + digits(id) + "\">" + test::element("FieldGeometryID", digits(id)) +
+           test::element("FieldGeometry", digits(id)) + "</Field>";
+}
+
+std::string shortestRec(std::size_t id, const std::string& content = "") {
+    return "<Rec RecID=\"" + digits(id) + "\">" + test::element("RecGeometry", digits(id)) +
+           content + "</Rec>";
+}
+
+/// The second item has the identifier of the first: the whole list is put together anew.
+std::size_t oneTwice(std::size_t place) {
+    return std::max<std::size_t>(place, 1);
+}
+
+std::string utf16(const std::string& ascii) {
+    std::string result = "\xFF\xFE";
+    for (const char c : ascii) {
+        result += c;
+        result += '\0';
+    }
+    return result;
+}
+
+const std::string latin1 = "<?xml version=\"1.0\" encoding=\"latin1\"?>";
+const std::string shortestProduct =
+    "<RecData><CommercialFertilizer><ProductID/><ProductName/><UOMID/><UOM/>"
+    "</CommercialFertilizer></RecData>";
+/// Two children of a list that fail for lack of an identifier.
+const std::string twoItems = "x<a/>";
+
+struct Shape {
+    std::string name;
+    std::function<std::string(std::size_t count)> content;
+};
+
+const std::vector<Shape> shapes = {
+    {"nested <a>", [](std::size_t count) { return repeated("<a>", count); }},
+    {"nested <a>x", [](std::size_t count) { return repeated("<a>x", count); }},
+    {"nested <a>x in UTF-16", [](std::size_t count) { return utf16(repeated("<a>x", count)); }},
+    {"<a/>", [](std::size_t count) { return test::package(repeated("<a/>", count)); }},
+    {"<a/>x", [](std::size_t count) { return test::package(repeated("<a/>x", count)); }},
+    {"<a/>x in UTF-16",
+     [](std::size_t count) { return utf16(test::package(repeated("<a/>x", count))); }},
+    {"attributes",
+     [](std::size_t count) { return "<RecPackage" + repeated(" a=\"\"", count) + "/>"; }},
+    {"one text",
+     [](std::size_t count) { return test::package(test::element("a", std::string(count, 'x'))); }},
+    {"one name",
+     [](std::size_t count) {
+         return test::package(
+             test::grower(1, test::element("GrowerName", std::string(count, 'x'))));
+     }},
+    {"one name in Latin-1",
+     [](std::size_t count) {
+         return latin1 + test::package(test::grower(
+                             1, test::element("GrowerName", std::string(count, '\xE4'))));
+     }},
+    {"one name in UTF-16",
+     [](std::size_t count) {
+         return utf16(
+             test::package(test::grower(1, test::element("GrowerName", std::string(count, 'x')))));
+     }},
+    {"growers", [](std::size_t count) { return test::package(listOf(count, shortestGrower)); }},
+    {"farms",
+     [](std::size_t count) { return test::package(test::grower(1, listOf(count, shortestFarm))); }},
+    {"farms, one twice",
+     [](std::size_t count) {
+         return test::package(test::grower(
+             1, listOf(count, [](std::size_t n) { return shortestFarm(oneTwice(n)); })));
+     }},
+    {"fields", [](std::size_t count) { return inFarm(listOf(count, shortestField)); }},
+    {"fields, one twice",
+     [](std::size_t count) {
+         return inFarm(listOf(count, [](std::size_t n) { return shortestField(oneTwice(n)); }));
+     }},
+    {"recs",
+     [](std::size_t count) {
+         return inField(listOf(count, [](std::size_t n) { return shortestRec(n); }));
+     }},
+    {"recs, one twice",
+     [](std::size_t count) {
+         return inField(listOf(count, [](std::size_t n) { return shortestRec(oneTwice(n)); }));
+     }},
+    {"recs, all the same",
+     [](std::size_t count) { return inField(repeated(shortestRec(1), count)); }},
+    {"recs with products",
+     [](std::size_t count) {
+         return inField(
+             listOf(count, [](std::size_t n) { return shortestRec(n, shortestProduct); }));
+     }},
+    {"recs with products in UTF-16",
+     [](std::size_t count) {
+         return utf16(
+             inField(listOf(count, [](std::size_t n) { return shortestRec(n, shortestProduct); })));
+     }},
+    {"recs with names beyond the small-string size",
+     [](std::size_t count) {
+         return inField(listOf(count, [](std::size_t n) {
+             return shortestRec(n, test::element("RecName", "0123456789abcdef"));
+         }));
+     }},
+    {"recs that fail",
+     [](std::size_t count) { return inField("<Rec/>" + repeated(twoItems, count)); }},
+    {"fields that fail",
+     [](std::size_t count) { return inFarm("<Field/>" + repeated(twoItems, count)); }},
+    {"farms that fail",
+     [](std::size_t count) {
+         return test::package(test::grower(1, "<Farm/>" + repeated(twoItems, count)));
+     }},
+    {"lists that fail on all levels",
+     [](std::size_t count) {
+         const std::string items = repeated(twoItems, count);
+         return test::package(test::grower(
+             1, test::farm(2, test::field(3, test::recommendations("<Rec/>" + items)) + items) +
+                    items));
+     }},
+};
+
+void PrintTo(const Shape& shape, std::ostream* out) {
+    *out << shape.name;
+}
+
+struct Peak {
+    std::size_t file;
+    std::size_t peak;
+
+    double multiple() const { return static_cast<double>(peak) / static_cast<double>(file); }
+};
+
+/// Reads a file with a parser of its own and expects that nothing is left of it in memory.
+Peak peakOf(const std::string& content) {
+    const test::TemporaryFolder folder;
+    const std::string path = folder.writePackage(content);
+    const test::CountedXmlMemory xml;
+    const std::size_t before = test::memoryCounts().living;
+    test::restartPeak();
+    std::size_t peak = 0;
+    {
+        QenXmlParser parser;
+        test::outcomeOf(parser, path);
+        peak = test::memoryCounts().peak;
+    }
+    EXPECT_EQ(before, test::memoryCounts().living);
+    return {content.size(), peak - before};
+}
+
+class Memory : public testing::TestWithParam<Shape> {};
+
+} // namespace
+
+TEST_P(Memory, OfReadingStaysBelowTheLimitAtEverySize) {
+    // Among them sizes at which a list has just grown, and at which the room reserved for children
+    // is largest in relation to the file.
+    for (const std::size_t count : {1U, 100U, 1'000U, 2'047U, 4'096U, 4'097U, 8'193U, 131'073U}) {
+        const Peak peak = peakOf(GetParam().content(count));
+        std::printf("%-45s x %7zu: file %9zu, peak %10zu, multiple %8.2f\n",
+                    GetParam().name.c_str(), count, peak.file, peak.peak, peak.multiple());
+        EXPECT_GE(bytesForAnyFile + bytesPerByte * peak.file, peak.peak) << count;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Shape, Memory, testing::ValuesIn(shapes));
+
+TEST(MemoryLimit, IsReachedByTheWorstShape) {
+    const Peak peak = peakOf(repeated("<a>x", 1'000'000));
+    EXPECT_GE(bytesPerByte * peak.file, peak.peak);
+    EXPECT_LT((bytesPerByte - 1) * peak.file, peak.peak);
+}
+
+TEST(MemoryLimit, HoldsForEachOfManyFilesThatOneParserReads) {
+    const test::TemporaryFolder folder;
+    const std::string content = repeated("<a>x", 100'000);
+    const std::string path = folder.writePackage(content);
+    const test::CountedXmlMemory xml;
+    const std::size_t before = test::memoryCounts().living;
+    test::restartPeak();
+    QenXmlParser parser;
+    for (int i = 0; i < 10; ++i)
+        EXPECT_EQ(test::outcome::refused, test::outcomeOf(parser, path));
+    EXPECT_GE(bytesPerByte * content.size(), test::memoryCounts().peak - before);
+}
+
+TEST(MemoryLimit, DoesNotGrowWithWhatAListSeemsToHold) {
+    // Reserved room has a limit of its own: ten times as many items reserve no more.
+    const auto reserved = [](std::size_t count) {
+        const std::string items = repeated(twoItems, count);
+        return peakOf(inField("<Rec/>" + items)).peak - peakOf(inField("<No/>" + items)).peak;
+    };
+    EXPECT_LT(1'000'000U, reserved(10'000));
+    EXPECT_GE(bytesForAnyFile, reserved(10'000));
+    EXPECT_NEAR(static_cast<double>(reserved(10'000)), static_cast<double>(reserved(100'000)),
+                1'000.0);
+}
