@@ -5,7 +5,10 @@
 #define QENXML_PARSER_LISTWALK_H
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <iterator>
 #include <utility>
 #include <vector>
@@ -35,26 +38,49 @@ void reserveForItems(std::vector<Child>& children, pugi::xml_node firstItem) {
     children.reserve(count);
 }
 
+/// An identifier and where its child stands, in the form that sorts fastest: two numbers instead of
+/// 16 bytes. Their order has no meaning, only equality has.
+struct IdentifierPlace {
+    IdentifierPlace(const boost::uuids::uuid& id, std::size_t childPlace) : place(childPlace) {
+        std::memcpy(halves.data(), id.begin(), sizeof halves);
+    }
+
+    bool sameIdentifier(const IdentifierPlace& other) const { return halves == other.halves; }
+
+    bool operator<(const IdentifierPlace& other) const {
+        if (halves[0] != other.halves[0])
+            return halves[0] < other.halves[0];
+        if (halves[1] != other.halves[1])
+            return halves[1] < other.halves[1];
+        return place < other.place;
+    }
+
+    std::array<std::uint64_t, 2> halves{};
+    std::size_t place;
+};
+
 /// Leaves one child per identifier: in the place of the first, with the content of the last, as
 /// adding them one by one would. Sorts identifiers instead of searching the list for each child, so
 /// that a list of any length is read in reasonable time; what is replaced is destroyed.
 template <class Child>
 void keepLastOfEachIdentifier(std::vector<Child>& children) {
-    using Entry = std::pair<boost::uuids::uuid, std::size_t>;
-    std::vector<Entry> order;
+    std::vector<IdentifierPlace> order;
     order.reserve(children.size());
     for (Child& child : children)
         order.emplace_back(child.id(), order.size());
     std::sort(order.begin(), order.end());
-    const auto sameIdentifier = [](const Entry& a, const Entry& b) { return a.first == b.first; };
+    const auto sameIdentifier = [](const IdentifierPlace& a, const IdentifierPlace& b) {
+        return a.sameIdentifier(b);
+    };
     if (std::adjacent_find(order.begin(), order.end(), sameIdentifier) == order.end())
         return;
 
     std::vector<std::pair<std::size_t, std::size_t>> firstAndLast;
     for (auto group = order.begin(); group != order.end();) {
-        const auto next = std::find_if(
-            group, order.end(), [&](const Entry& entry) { return !sameIdentifier(entry, *group); });
-        firstAndLast.emplace_back(group->second, std::prev(next)->second);
+        const auto next = std::find_if(group, order.end(), [&](const IdentifierPlace& entry) {
+            return !entry.sameIdentifier(*group);
+        });
+        firstAndLast.emplace_back(group->place, std::prev(next)->place);
         group = next;
     }
     std::sort(firstAndLast.begin(), firstAndLast.end());

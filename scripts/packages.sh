@@ -1,8 +1,9 @@
 # Sourced by the other scripts: installs what they need from Debian.
 
-# Debian packages per purpose. Each purpose includes those before it.
+# Debian packages per purpose.
 packages_run="g++ cmake ninja-build libpugixml-dev libboost-dev libboost-system-dev libcli11-dev libfmt-dev"
 packages_test="$packages_run libgtest-dev librapidcheck-dev binutils"
+packages_bench="$packages_run libbenchmark-dev"
 packages_check="$packages_test clang clang-tidy clang-format libclang-rt-14-dev cppcheck valgrind gcovr git"
 
 # install_packages PACKAGE...: installs those that are missing, and says so.
