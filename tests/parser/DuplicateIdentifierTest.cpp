@@ -85,6 +85,24 @@ QenGrower readGrower(const std::string& content) {
     return QenXmlParser().parseGrowerNode(xml.root());
 }
 
+TEST(DuplicateIdentifier, IsOneThatIsEqualInEveryByte) {
+    // Each differs from the first in one byte; only the last is the same.
+    const std::vector<std::string> ids = {
+        "00000000-0000-0000-0000-000000000000", "01000000-0000-0000-0000-000000000000",
+        "00000000-0000-0001-0000-000000000000", "00000000-0000-0000-0100-000000000000",
+        "00000000-0000-0000-0000-000000000001", "00000000-0000-0000-0000-000000000000"};
+    std::string farms;
+    for (std::size_t i = 0; i < ids.size(); ++i)
+        farms +=
+            "<Farm FarmID='" + ids[i] + "'>" + element("FarmName", std::to_string(i)) + "</Farm>";
+    const Xml xml(test::grower(1, farms));
+    QenGrower grower = QenXmlParser().parseGrowerNode(xml.root());
+    std::vector<std::string> names;
+    for (QenFarm& farm : grower.farms())
+        names.push_back(farm.name());
+    EXPECT_EQ(names, (std::vector<std::string>{"5", "1", "2", "3", "4"}));
+}
+
 } // namespace
 
 TEST(DuplicateIdentifier, OfFarmsLeavesTheLastInThePlaceOfTheFirst) {
