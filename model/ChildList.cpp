@@ -28,6 +28,8 @@ void qenxml::dropUnknownProductData(QenFarm& farm) noexcept {
         dropUnknownProductData(field);
 }
 
+/// Appends an empty rec to @p recs, which grows by hand, because a list that grows by itself copies
+/// every rec with its product data. When memory runs out, the list has not changed.
 QenRec& qenxml::appendEmptyRec(std::vector<QenRec>& recs) {
     if (recs.size() == recs.capacity()) {
         std::vector<QenRec> larger;

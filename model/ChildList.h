@@ -12,9 +12,10 @@
 #include <utility>
 #include <vector>
 
+#include "model/QenRec.h"
+
 class QenFarm;
 class QenField;
-class QenRec;
 
 namespace qenxml {
 
@@ -23,9 +24,7 @@ void dropUnknownProductData(QenRec& rec) noexcept;
 void dropUnknownProductData(QenField& field) noexcept;
 void dropUnknownProductData(QenFarm& farm) noexcept;
 
-/// Appends an empty rec to @p recs, which grows by hand, because a list that grows by itself copies
-/// every rec with its product data. When memory runs out, the list has not changed.
-QenRec& appendEmptyRec(std::vector<QenRec>& recs);
+// appendEmptyRec() is declared with QenRec, whose friend it is.
 
 /// Puts @p child in the place of the first child with the same identifier, or else appends it. When
 /// memory runs out, the list has not changed.
