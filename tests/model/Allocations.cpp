@@ -22,13 +22,6 @@ void* allocate(std::size_t size) noexcept {
     return block;
 }
 
-void* allocateOrThrow(std::size_t size) {
-    void* block = allocate(size);
-    if (block == nullptr)
-        throw std::bad_alloc();
-    return block;
-}
-
 void release(void* block) noexcept {
     if (block != nullptr)
         --living;
@@ -37,48 +30,7 @@ void release(void* block) noexcept {
 
 } // namespace
 
-// All forms but the aligned ones, so that none of them meets a counterpart from elsewhere (the
-// sanitizers bring their own).
-
-void* operator new(std::size_t size) {
-    return allocateOrThrow(size);
-}
-
-void* operator new[](std::size_t size) {
-    return allocateOrThrow(size);
-}
-
-void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
-    return allocate(size);
-}
-
-void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
-    return allocate(size);
-}
-
-void operator delete(void* block) noexcept {
-    release(block);
-}
-
-void operator delete[](void* block) noexcept {
-    release(block);
-}
-
-void operator delete(void* block, std::size_t) noexcept {
-    release(block);
-}
-
-void operator delete[](void* block, std::size_t) noexcept {
-    release(block);
-}
-
-void operator delete(void* block, const std::nothrow_t&) noexcept {
-    release(block);
-}
-
-void operator delete[](void* block, const std::nothrow_t&) noexcept {
-    release(block);
-}
+#include "tests/support/ReplacedOperators.h"
 
 namespace test {
 
