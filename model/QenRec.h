@@ -46,9 +46,8 @@ public:
     /// A rec with all values but editDate(), which is left empty. Note that the rate's unit comes
     /// as text before code, those of total and area as code before text.
     ///
-    /// @param recData product data or null; the rec owns it once it is constructed. Should memory
-    /// run
-    ///                out while the arguments are copied, it is still the caller's.
+    /// @param recData product data or null; the rec owns it once it is constructed. When memory
+    ///                runs out while the arguments are copied, it is still the caller's.
     QenRec(boost::uuids::uuid fieldId, boost::uuids::uuid fieldGeometryId, std::string name,
            boost::uuids::uuid id, boost::uuids::uuid recGeometry, std::string creationDate,
            std::string recDbfCol, std::string operationName, boost::uuids::uuid operationId,
