@@ -78,9 +78,9 @@ QenRec makeRec(unsigned id, const string& name, unsigned recId = 0) {
 }
 
 /// A rec whose product data is of a kind that copies drop.
-QenRec recOfUnknownKind(unsigned id) {
+QenRec recOfUnknownKind(unsigned id, int kind = 5) {
     return QenRec({}, {}, "unknown", test::uuid(id), {}, "", "", "", {}, "", 0, {},
-                  new QenRecData(test::uuid(99), static_cast<RecType>(5)), 0.0, 0.0, 0.0, "", 0,
+                  new QenRecData(test::uuid(99), static_cast<RecType>(kind)), 0.0, 0.0, 0.0, "", 0,
                   0.0, 0, "", 0.0, 0, "", false, {});
 }
 
@@ -347,6 +347,15 @@ TEST(QenField, AddedRecsLoseProductDataOfAnUnknownKind) {
     field.addRec(recOfUnknownKind(1));
     EXPECT_EQ(recNames(field), Texts{"unknown"});
     EXPECT_EQ(field.recs()[0].recData(), nullptr) << "a rec replaced";
+}
+
+TEST(QenField, AddedRecsLoseProductDataOfEveryKindButTheFour) {
+    for (const int kind : {-1, 0, 5}) {
+        SCOPED_TRACE(kind);
+        QenField field;
+        field.addRec(recOfUnknownKind(1, kind));
+        EXPECT_EQ(field.recs()[0].recData(), nullptr);
+    }
 }
 
 TEST(QenField, FindsARecByTheRecIdOfItsProductData) {
