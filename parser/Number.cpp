@@ -42,9 +42,8 @@ bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-/// Reads a text that is a short plain decimal and nothing else, as nearly all numbers are: in a
-/// third of the time of strtod(), and as exactly, because one division of exact numbers rounds
-/// correctly.
+/// Reads a text that is a short plain decimal and nothing else, as nearly all numbers are: faster
+/// than strtod(), and as exactly, because one division of exact numbers rounds correctly.
 std::optional<double> shortDecimal(const char* text) {
     const bool negative = *text == '-';
     const char* c = negative ? text + 1 : text;
