@@ -20,15 +20,22 @@ public:
     /// The first child named @p name, or an empty node.
     pugi::xml_node child(const char* name) {
         // All children before next_ were asked for by other names, so none of them has this one.
-        if (std::strcmp(next_.name(), name) != 0)
-            return next_.next_sibling(name);
+        if (std::strcmp(next_.name(), name) != 0) {
+            const pugi::xml_node later = next_.next_sibling(name);
+            foundAll_ = foundAll_ && !later.empty();
+            return later;
+        }
         const pugi::xml_node found = next_;
         next_ = next_.next_sibling();
         return found;
     }
 
+    /// True as long as every child that was asked for was there.
+    bool foundAll() const { return foundAll_; }
+
 private:
     pugi::xml_node next_;
+    bool foundAll_ = true;
 };
 
 } // namespace qenxml

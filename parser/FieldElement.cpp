@@ -2,20 +2,20 @@
 #include "parser/ChildCursor.h"
 #include "parser/Identifier.h"
 #include "parser/ListWalk.h"
-#include "parser/Number.h"
 #include "parser/QenXmlParser.h"
 #include "parser/RecElement.h"
 #include "parser/TagNames.h"
+#include "parser/ValueChildren.h"
 
 namespace tag = qenxml::tag;
 
 namespace {
 
-LLA readCentroid(pugi::xml_node node) {
-    qenxml::ChildCursor children(node);
+LLA readCentroid(pugi::xml_node node, qenxml::Origin origin) {
+    qenxml::ValueChildren child(node, origin);
     LLA centroid{};
-    centroid.latitude = qenxml::numberFromText(children.child(tag::Latitude).text().as_string());
-    centroid.longitude = qenxml::numberFromText(children.child(tag::Longitude).text().as_string());
+    centroid.latitude = child.number(tag::Latitude);
+    centroid.longitude = child.number(tag::Longitude);
     return centroid;
 }
 
@@ -23,6 +23,8 @@ LLA readCentroid(pugi::xml_node node) {
 
 QenField QenXmlParser::parseFieldNode(boost::uuids::uuid growerId, boost::uuids::uuid farmId,
                                       pugi::xml_node node) {
+    const qenxml::Origin origin =
+        node.root() == document_ ? qenxml::Origin::File : qenxml::Origin::Unknown;
     qenxml::ChildCursor children(node);
     const auto text = [&](const char* name) { return children.child(name).child_value(); };
 
@@ -31,14 +33,14 @@ QenField QenXmlParser::parseFieldNode(boost::uuids::uuid growerId, boost::uuids:
     const boost::uuids::uuid geometryId = qenxml::uuidFromText(text(tag::FieldGeometryID));
     const char* const geometryDate = text(tag::FieldGeometryDate);
     const boost::uuids::uuid geometry = qenxml::uuidFromText(text(tag::FieldGeometry));
-    LLA centroid = readCentroid(children.child(tag::FieldCentroid));
+    LLA centroid = readCentroid(children.child(tag::FieldCentroid), origin);
 
     QenField field(name, id, growerId, farmId, geometryDate, geometryId, geometry, centroid);
     std::vector<QenRec>& recs = field.recs();
     const pugi::xml_node firstRec = children.child(tag::Recommendations).child(tag::Rec);
     qenxml::readChildren(recs, firstRec, [&](pugi::xml_node rec) {
         // In its place from the start: a rec cannot be moved.
-        qenxml::readRec(id, geometryId, xmlFileName_, rec, qenxml::appendEmptyRec(recs));
+        qenxml::readRec(id, geometryId, xmlFileName_, rec, origin, qenxml::appendEmptyRec(recs));
     });
     return field;
 }

@@ -67,6 +67,19 @@ std::optional<double> shortDecimal(const char* text) {
 
 } // namespace
 
+std::optional<int> shortInteger(const char* text) {
+    constexpr std::ptrdiff_t longest = 9; // Any number of so many digits is an int.
+    const bool negative = *text == '-';
+    const char* const begin = negative ? text + 1 : text;
+    const char* c = begin;
+    int number = 0;
+    for (; isDigit(*c) && c - begin < longest; ++c)
+        number = number * 10 + (*c - '0');
+    if (*c != '\0' || c == begin)
+        return std::nullopt;
+    return negative ? -number : number;
+}
+
 double numberFromText(const char* text) {
     // Not where doubles are calculated with more digits than they hold, and so rounded twice.
     if (FLT_EVAL_METHOD == 0) {

@@ -1,8 +1,10 @@
 /// @file
-/// Conversion of text to doubles. Not part of the public interface.
+/// Conversion of text to numbers. Not part of the public interface.
 
 #ifndef QENXML_PARSER_NUMBER_H
 #define QENXML_PARSER_NUMBER_H
+
+#include <optional>
 
 namespace qenxml {
 
@@ -13,6 +15,10 @@ namespace qenxml {
 /// The decimal point is a point, whatever locale the host has set: the conversion of the XML
 /// library follows that locale and would read "12.75" as 12 where the comma is in use.
 double numberFromText(const char* text);
+
+/// The whole number that @p text is, when it is one of up to nine digits and nothing else; the
+/// XML library reads it as the same.
+std::optional<int> shortInteger(const char* text);
 
 } // namespace qenxml
 

@@ -9,16 +9,17 @@
 #include "model/PlantingRec.h"
 #include "parser/Identifier.h"
 #include "parser/QenXmlParser.h"
-#include "parser/RequiredChildren.h"
 #include "parser/TagNames.h"
+#include "parser/ValueChildren.h"
 
 namespace tag = qenxml::tag;
+using qenxml::Origin;
 
 namespace {
 
-std::unique_ptr<CommercialFertilizerRec> readCommercialFertilizer(const boost::uuids::uuid& recId,
-                                                                  pugi::xml_node node) {
-    qenxml::RequiredChildren child(node);
+std::unique_ptr<CommercialFertilizerRec>
+readCommercialFertilizer(const boost::uuids::uuid& recId, pugi::xml_node node, Origin origin) {
+    qenxml::ValueChildren child(node, origin);
     const int productId = child.integer(tag::ProductID);
     const char* productName = child.text(tag::ProductName);
     const int uomId = child.integer(tag::UOMID);
@@ -29,8 +30,8 @@ std::unique_ptr<CommercialFertilizerRec> readCommercialFertilizer(const boost::u
 }
 
 std::unique_ptr<CustomFertilizerRec> readCustomFertilizer(const boost::uuids::uuid& recId,
-                                                          pugi::xml_node node) {
-    qenxml::RequiredChildren child(node);
+                                                          pugi::xml_node node, Origin origin) {
+    qenxml::ValueChildren child(node, origin);
     const char* productId = child.text(tag::ProductID);
     const char* productName = child.text(tag::ProductName);
     const int uomId = child.integer(tag::UOMID);
@@ -59,8 +60,9 @@ std::unique_ptr<CustomFertilizerRec> readCustomFertilizer(const boost::uuids::uu
         pct_Ca, pct_Mg, pct_S, pct_Fe, pct_Mn, pct_Zn, pct_Cu, pct_B, pct_Mo, pct_Cl);
 }
 
-std::unique_ptr<PlantingRec> readPlanting(const boost::uuids::uuid& recId, pugi::xml_node node) {
-    qenxml::RequiredChildren child(node);
+std::unique_ptr<PlantingRec> readPlanting(const boost::uuids::uuid& recId, pugi::xml_node node,
+                                          Origin origin) {
+    qenxml::ValueChildren child(node, origin);
     const int cropId = child.integer(tag::CropID);
     const char* cropName = child.text(tag::CropName);
     const int companyId = child.integer(tag::CompanyID);
@@ -75,8 +77,9 @@ std::unique_ptr<PlantingRec> readPlanting(const boost::uuids::uuid& recId, pugi:
                                          varietyName, uomId, uom);
 }
 
-std::unique_ptr<PesticideRec> readPesticide(const boost::uuids::uuid& recId, pugi::xml_node node) {
-    qenxml::RequiredChildren child(node);
+std::unique_ptr<PesticideRec> readPesticide(const boost::uuids::uuid& recId, pugi::xml_node node,
+                                            Origin origin) {
+    qenxml::ValueChildren child(node, origin);
     const char* pesticideMixName = child.text(tag::PesticideMixName);
     const int uomId = child.integer(tag::UOMID);
     const char* uom = child.text(tag::UOM);
@@ -90,38 +93,38 @@ std::unique_ptr<PesticideRec> readPesticide(const boost::uuids::uuid& recId, pug
 } // namespace
 
 std::unique_ptr<QenRecData> qenxml::readRecData(const boost::uuids::uuid& recId,
-                                                pugi::xml_node node) {
+                                                pugi::xml_node node, Origin origin) {
     // Only the first node counts, and it may be a text, whose name is empty.
     const pugi::xml_node product = node.first_child();
     const std::string_view kind = product.name();
     if (kind == tag::CommercialFertilizer)
-        return readCommercialFertilizer(recId, product);
+        return readCommercialFertilizer(recId, product, origin);
     if (kind == tag::CustomFertilizer)
-        return readCustomFertilizer(recId, product);
+        return readCustomFertilizer(recId, product, origin);
     if (kind == tag::Planting)
-        return readPlanting(recId, product);
+        return readPlanting(recId, product, origin);
     return nullptr; // A pesticide mix is not read from packages, on purpose.
 }
 
 QenRecData* QenXmlParser::parseRecDataNode(boost::uuids::uuid recId, pugi::xml_node node) {
-    return qenxml::readRecData(recId, node).release();
+    return qenxml::readRecData(recId, node, Origin::Unknown).release();
 }
 
 CommercialFertilizerRec*
 QenXmlParser::parseCommercialFertilizerRecDataNode(boost::uuids::uuid recId, pugi::xml_node node) {
-    return readCommercialFertilizer(recId, node).release();
+    return readCommercialFertilizer(recId, node, Origin::Unknown).release();
 }
 
 CustomFertilizerRec* QenXmlParser::parseCustomFertilizerRecDataNode(boost::uuids::uuid recId,
                                                                     pugi::xml_node node) {
-    return readCustomFertilizer(recId, node).release();
+    return readCustomFertilizer(recId, node, Origin::Unknown).release();
 }
 
 PlantingRec* QenXmlParser::parsePlantingRecDataNode(boost::uuids::uuid recId, pugi::xml_node node) {
-    return readPlanting(recId, node).release();
+    return readPlanting(recId, node, Origin::Unknown).release();
 }
 
 PesticideRec* QenXmlParser::parsePesticideRecDataNode(boost::uuids::uuid recId,
                                                       pugi::xml_node node) {
-    return readPesticide(recId, node).release();
+    return readPesticide(recId, node, Origin::Unknown).release();
 }

@@ -10,12 +10,14 @@
 #include <pugixml.hpp>
 
 #include "model/QenRecData.h"
+#include "parser/ValueChildren.h"
 
 namespace qenxml {
 
 /// The product data of a RecData element, or null.
 /// @throws std::runtime_error "invalid uuid string"
-std::unique_ptr<QenRecData> readRecData(const boost::uuids::uuid& recId, pugi::xml_node node);
+std::unique_ptr<QenRecData> readRecData(const boost::uuids::uuid& recId, pugi::xml_node node,
+                                        Origin origin);
 
 } // namespace qenxml
 

@@ -8,13 +8,14 @@
 #include <pugixml.hpp>
 
 #include "model/QenRec.h"
+#include "parser/ValueChildren.h"
 
 namespace qenxml {
 
 /// Fills @p rec, which is freshly constructed.
 /// @throws std::runtime_error "invalid uuid string"
 void readRec(const boost::uuids::uuid& fieldId, const boost::uuids::uuid& fieldGeometryId,
-             const boost::uuids::uuid& package, pugi::xml_node node, QenRec& rec);
+             const boost::uuids::uuid& package, pugi::xml_node node, Origin origin, QenRec& rec);
 
 } // namespace qenxml
 
