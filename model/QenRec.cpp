@@ -12,44 +12,21 @@
 
 namespace {
 
-std::unique_ptr<QenRecData> copyOf(CommercialFertilizerRec& data) {
-    return std::make_unique<CommercialFertilizerRec>(data.recId(), data.productId(),
-                                                     data.productName(), data.uomId(), data.uom());
-}
-
-std::unique_ptr<QenRecData> copyOf(CustomFertilizerRec& data) {
-    return std::make_unique<CustomFertilizerRec>(
-        data.recId(), data.productId(), data.productName(), data.uomId(), data.uom(),
-        data.sFertT_ID(), data.spGravity(), data.pct_N(), data.pct_P(), data.pct_K(), data.pct_Ca(),
-        data.pct_Mg(), data.pct_S(), data.pct_Fe(), data.pct_Mn(), data.pct_Zn(), data.pct_Cu(),
-        data.pct_B(), data.pct_Mo(), data.pct_Cl());
-}
-
-std::unique_ptr<QenRecData> copyOf(PlantingRec& data) {
-    return std::make_unique<PlantingRec>(data.recId(), data.cropId(), data.cropName(),
-                                         data.companyId(), data.companyName(), data.varietyId(),
-                                         data.varietyName(), data.uomId(), data.uom());
-}
-
-std::unique_ptr<QenRecData> copyOf(PesticideRec& data) {
-    return std::make_unique<PesticideRec>(data.recId(), data.pesticidesByPercent(),
-                                          data.pesticidesByAmount(), data.pesticideMixName(),
-                                          data.uomId(), data.uom());
-}
-
-/// A copy of product data, rebuilt as the variant that its kind names; null for any other kind.
+/// A copy of product data as the variant that its kind names; null for any other kind.
 std::unique_ptr<QenRecData> copyOf(QenRecData* data) {
     if (data == nullptr)
         return nullptr;
     switch (data->recType()) {
     case RecTypeCommercialFertilizer:
-        return copyOf(static_cast<CommercialFertilizerRec&>(*data));
+        return std::make_unique<CommercialFertilizerRec>(
+            static_cast<const CommercialFertilizerRec&>(*data));
     case RecTypeCustomFertilizer:
-        return copyOf(static_cast<CustomFertilizerRec&>(*data));
+        return std::make_unique<CustomFertilizerRec>(
+            static_cast<const CustomFertilizerRec&>(*data));
     case RecTypePlanting:
-        return copyOf(static_cast<PlantingRec&>(*data));
+        return std::make_unique<PlantingRec>(static_cast<const PlantingRec&>(*data));
     case RecTypePesticide:
-        return copyOf(static_cast<PesticideRec&>(*data));
+        return std::make_unique<PesticideRec>(static_cast<const PesticideRec&>(*data));
     case RecTypeNone:
         break;
     }

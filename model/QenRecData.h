@@ -24,7 +24,7 @@ enum RecType : std::int32_t {
 /// kind names.
 ///
 /// An object is owned by exactly one QenRec, which deletes it through the virtual destructor.
-/// There is no cloning operation: QenRec rebuilds a variant from its getters when it is copied.
+/// There is no cloning operation: a QenRec that is copied copies it as the variant of its kind.
 ///
 /// Every value is kept as given: nothing is validated, converted or scaled. No operation throws
 /// anything but std::bad_alloc, from copies of texts and lists.
