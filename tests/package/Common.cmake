@@ -20,6 +20,23 @@ function(expect_same what actual expected)
     endif()
 endfunction()
 
+# code_block(VARIABLE TEXT LINE...): the content of a code block in a document: from behind the last
+# LINE, each one looked for behind the one before, to the end of the block.
+function(code_block variable text)
+    foreach(line IN LISTS ARGN)
+        string(FIND "${text}" "${line}\n" begin)
+        if(begin EQUAL -1)
+            message(FATAL_ERROR "There is no line ${line}")
+        endif()
+        string(LENGTH "${line}\n" length)
+        math(EXPR begin "${begin} + ${length}")
+        string(SUBSTRING "${text}" ${begin} -1 text)
+    endforeach()
+    string(FIND "${text}" "```" end)
+    string(SUBSTRING "${text}" 0 ${end} text)
+    set(${variable} "${text}" PARENT_SCOPE)
+endfunction()
+
 # expect_host_output(PROGRAM): runs the example host with good, overlapping, broken and missing
 # packages. It runs in the folder of the packages, so that its messages do not depend on where the
 # sources are.

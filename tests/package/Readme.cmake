@@ -3,24 +3,8 @@
 include(${CMAKE_CURRENT_LIST_DIR}/Common.cmake)
 
 file(READ ${SOURCE_DIR}/README.md readme)
-string(REPLACE ";" "<semicolon>" readme "${readme}")
 
-# code_block(VARIABLE OPENING): the text of the code block that begins with a line.
-function(code_block variable opening)
-    string(FIND "${readme}" "${opening}\n" begin)
-    if(begin EQUAL -1)
-        message(FATAL_ERROR "README.md has no block ${opening}")
-    endif()
-    string(SUBSTRING "${readme}" ${begin} -1 text)
-    string(LENGTH "${opening}\n" length)
-    string(SUBSTRING "${text}" ${length} -1 text)
-    string(FIND "${text}" "```" end)
-    string(SUBSTRING "${text}" 0 ${end} text)
-    string(REPLACE "<semicolon>" ";" text "${text}")
-    set(${variable} "${text}" PARENT_SCOPE)
-endfunction()
-
-code_block(program "```cpp")
+code_block(program "${readme}" "```cpp")
 file(GLOB sources ${SOURCE_DIR}/model/*.cpp ${SOURCE_DIR}/parser/*.cpp)
 file(MAKE_DIRECTORY ${WORK_DIR})
 file(WRITE ${WORK_DIR}/readme.cpp "${program}")
@@ -29,11 +13,11 @@ run(${CXX} -std=c++17 -Wall -Werror -I ${SOURCE_DIR} -o ${WORK_DIR}/readme
 execute_process(COMMAND ${WORK_DIR}/readme 32833106-536e-45df-80b2-d002cc92d33d.xml
     WORKING_DIRECTORY ${SOURCE_DIR}/examples/packages
     OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
-code_block(expected "```text")
+code_block(expected "${readme}" "```text")
 expect_same("The output of the program in the README" "${output}" "${expected}")
 
 if(EXISTS "${COMMAND}")
-    code_block(expected "$ scripts/run")
+    code_block(expected "${readme}" "$ scripts/run")
     file(GLOB packages RELATIVE ${SOURCE_DIR} ${SOURCE_DIR}/examples/packages/*.xml)
     list(SORT packages)
     execute_process(COMMAND ${COMMAND} show ${packages} WORKING_DIRECTORY ${SOURCE_DIR}

@@ -1,0 +1,122 @@
+# docs/recpackage.xsd accepts every good package and catches every broken sample that a schema can
+# catch. Where docs/package-format.md says that it is as free as the reader, or stricter, it is.
+
+include(${CMAKE_CURRENT_LIST_DIR}/Common.cmake)
+
+find_program(xmllint xmllint REQUIRED)
+file(MAKE_DIRECTORY ${WORK_DIR})
+
+# validate(VARIABLE FILE): "valid", or "caught" by the schema or because it is no XML at all.
+# Anything else, a schema that is broken itself for one, ends the test.
+function(validate variable file)
+    execute_process(
+        COMMAND ${xmllint} --noout --nonet --schema ${SOURCE_DIR}/docs/recpackage.xsd ${file}
+        RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    if(result EQUAL 0)
+        set(${variable} valid PARENT_SCOPE)
+    elseif(result EQUAL 3 OR (result EQUAL 1 AND output MATCHES "parser error"))
+        set(${variable} caught PARENT_SCOPE)
+    else()
+        message(FATAL_ERROR "xmllint ended with ${result}:\n${output}")
+    endif()
+endfunction()
+
+# Samples
+
+file(GLOB packages ${SOURCE_DIR}/examples/packages/*.xml)
+foreach(package IN LISTS packages)
+    validate(verdict ${package})
+    expect_same("The verdict on ${package}" ${verdict} valid)
+endforeach()
+
+file(STRINGS ${CMAKE_CURRENT_LIST_DIR}/schema_cannot_catch.txt uncaught REGEX "^[^#]")
+foreach(line IN LISTS uncaught)
+    if(NOT line MATCHES "^[-a-z0-9]+: ." OR line MATCHES ";")
+        message(FATAL_ERROR "schema_cannot_catch.txt: no folder with a reason: ${line}")
+    endif()
+endforeach()
+list(TRANSFORM uncaught REPLACE ":.*" "")
+
+set(broken ${SOURCE_DIR}/examples/packages/broken)
+file(GLOB folders RELATIVE ${broken} ${broken}/*)
+list(REMOVE_ITEM folders README.md)
+foreach(folder IN LISTS folders)
+    set(expected caught)
+    if(folder IN_LIST uncaught)
+        set(expected valid)
+        list(REMOVE_ITEM uncaught ${folder})
+    endif()
+    file(GLOB packages ${broken}/${folder}/*)
+    if(NOT packages)
+        message(FATAL_ERROR "No package in ${folder}")
+    endif()
+    foreach(package IN LISTS packages)
+        validate(verdict ${package})
+        expect_same("The verdict on ${package} (see schema_cannot_catch.txt)" ${verdict} ${expected})
+    endforeach()
+endforeach()
+expect_same("The list of folders in schema_cannot_catch.txt that do not exist" "${uncaught}" "")
+
+# Packages of docs/package-format.md, as they are and changed
+
+file(READ ${SOURCE_DIR}/docs/package-format.md format)
+code_block(minimal "${format}" "## A minimal package" "```xml")
+code_block(full "${format}" "## A full package" "```xml")
+
+# expect_verdict(VERDICT PACKAGE [OLD NEW]): on a package with the first OLD text replaced by NEW.
+function(expect_verdict expected package)
+    if(ARGC GREATER 2)
+        string(FIND "${package}" "${ARGV2}" at)
+        if(at EQUAL -1)
+            message(FATAL_ERROR "The package does not hold ${ARGV2}")
+        endif()
+        string(LENGTH "${ARGV2}" length)
+        math(EXPR rest "${at} + ${length}")
+        string(SUBSTRING "${package}" 0 ${at} before)
+        string(SUBSTRING "${package}" ${rest} -1 after)
+        set(package "${before}${ARGV3}${after}")
+    endif()
+    file(WRITE ${WORK_DIR}/package.xml "${package}")
+    validate(verdict ${WORK_DIR}/package.xml)
+    expect_same("The verdict on an example with \"${ARGV2}\" changed to \"${ARGV3}\""
+        ${verdict} ${expected})
+endfunction()
+
+expect_verdict(valid "${minimal}")
+expect_verdict(valid "${full}")
+
+# As free as the reader.
+expect_verdict(valid "${full}" "8b1e5d70-4c29-4a6f-93e8-d05f7a2c1b64" "8B1E5D704C294A6F93E8D05F7A2C1B64")
+expect_verdict(valid "${full}" "5f83b0a7-1d6c-4e92-b4c8-60f9e2d7a315" "{5f83b0a7-1d6c-4e92-b4c8-60f9e2d7a315}")
+expect_verdict(valid "${full}" "5f83b0a7-1d6c-4e92-b4c8-60f9e2d7a315" "{5f83b0a71d6c4e92b4c860f9e2d7a315}")
+expect_verdict(valid "${full}" "6a3d1f9e-84c7-4250-8eb3-c5f70a2d9b48" "")
+expect_verdict(valid "${minimal}" "</Recommendations>" "</Recommendations><FieldName>Breite</FieldName>")
+expect_verdict(valid "${full}" "<UOM>kg</UOM>" "<UOM/>")
+expect_verdict(valid "${full}" "<UOMID>21</UOMID>" "<UOMID/>")
+expect_verdict(valid "${full}" "<MinimumRate>150</MinimumRate>" "<MinimumRate/>")
+expect_verdict(valid "${full}" "<AverageRate>170" "<AverageRate> +1.7e2 ")
+expect_verdict(valid "${full}" "SeasonID=\"2026\"" "SeasonID=\"-1\"")
+expect_verdict(valid "${full}" "<RecPackage>"
+    "<RecPackage xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\"
+                 xsi:noNamespaceSchemaLocation=\"recpackage.xsd\">")
+
+# Mistakes that the reader passes over in silence.
+expect_verdict(caught "${full}" "<UOM>kg</UOM>" "")
+expect_verdict(caught "${full}" "<AverageRate>170" "<AverageRate>54,5")
+expect_verdict(caught "${full}" "<AverageRate>170" "<AverageRate>nan")
+expect_verdict(caught "${full}" "<UOMID>21" "<UOMID>99999999999")
+expect_verdict(caught "${full}" "<UOMID>21" "<UOMID>1.9")
+expect_verdict(caught "${full}" "<UOMID>21" "<UOMID>0x1F")
+expect_verdict(caught "${full}" "GrowerID=\"8b" "GrowerID=\"gb")
+expect_verdict(caught "${full}" "GrowerID=\"8b" "GrowerID=\" 8b")
+expect_verdict(caught "${full}" "d05f7a2c1b64" "d05f7a2c1b64, Brandl")
+expect_verdict(caught "${full}" "<AverageRate>170</AverageRate>" "<AverageRate>170</AverageRate><Remark/>")
+expect_verdict(caught "${full}" "<RecName>" "<recname/><RecName>")
+expect_verdict(caught "${full}" "<RecName>" "<RecName>Weizen</RecName><RecName>")
+expect_verdict(caught "${full}" "<RecData>" "<RecData>none")
+expect_verdict(caught "${full}" "</Planting>" "</Planting><Pesticide/>")
+expect_verdict(caught "${full}" "<FarmName>Brandlhof</FarmName>" "<FarmName>Brandl<b>hof</b></FarmName>")
+expect_verdict(caught "${full}" "<Farm FarmID=\"47" "<Farm FarmID=\"47f0a3d9-e612-4b8c-8d75-3c9b60e1f2a8\"/><Farm FarmID=\"47")
+expect_verdict(caught "${full}" "RecID=\"c4f82a6b-51d0-4e39-b7a4-2b0e9d6f8c17\"" "RecID=\"0e7d4c93-b8a1-4f56-8c2e-f19a6d3b5072\"")
+expect_verdict(caught "${full}" "<RecPackage>" "<RecPackage xmlns=\"urn:packages\">")
+expect_verdict(caught "<RecPackage/>")
