@@ -12,6 +12,8 @@
 /// copies. Its product identifier is a number, unlike that of a CustomFertilizerRec.
 class QENXML_EXPORT CommercialFertilizerRec : public QenRecData {
 public:
+    /// Product data of the kind RecTypeCommercialFertilizer; there is no empty one.
+    ///
     /// @param recId       identifier of the rec that the data belongs to
     /// @param productId   code of the product
     /// @param productName name of the product

@@ -12,12 +12,15 @@
 /// default constructor is of the kind RecTypeNone and stays so, whatever the setters fill in, so
 /// that a rec that holds it loses it when the rec is copied. All getters return copies.
 ///
-/// Its product identifier is a UUID, unlike that of a CommercialFertilizerRec.
+/// Its product identifier is a UUID, unlike that of a CommercialFertilizerRec. Percentages and the
+/// specific gravity are kept as given, beyond 100 or 0 as well.
 class QENXML_EXPORT CustomFertilizerRec : public QenRecData {
 public:
     /// An empty blend of the kind RecTypeNone: nil identifiers, empty texts, codes -1, numbers 0.0.
     CustomFertilizerRec();
 
+    /// A blend of the kind RecTypeCustomFertilizer.
+    ///
     /// @param recId       identifier of the rec that the data belongs to
     /// @param productId   identifier of the blend
     /// @param productName name of the blend
@@ -51,7 +54,7 @@ public:
     int uomId();                    ///< Code of the unit of measure; -1 when none was given.
     std::string uom();              ///< Text of the unit of measure.
     int sFertT_ID();                ///< Code of the package's "SFertT_ID"; -1 when none was given.
-    double spGravity();             ///< Specific gravity.
+    double spGravity();             ///< Specific gravity: density relative to that of water.
     double pct_N();                 ///< Nitrogen, percent.
     double pct_P();                 ///< Phosphorus, percent.
     double pct_K();                 ///< Potassium, percent.
@@ -76,7 +79,7 @@ public:
     /// PesticideRec::setUom(); a whole text is given to the full constructor.
     void setUom(const int& uom);
 
-    void setSFert_ID(const int& sFertT_ID);     ///< Replaces sFertT_ID(); note the shorter name.
+    void setSFert_ID(const int& sFertT_ID);     ///< Replaces sFertT_ID(); note the spelling.
     void setSpGravity(const double& spGravity); ///< Replaces the specific gravity.
     void setPct_N(const double& pct_N);         ///< Replaces the percentage of nitrogen.
     void setPct_P(const double& pct_P);         ///< Replaces the percentage of phosphorus.

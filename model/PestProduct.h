@@ -22,6 +22,8 @@ enum PesticideType : std::int32_t {
 /// virtual destructor: a line is held by value, never deleted through this class.
 class QENXML_EXPORT PestProduct {
 public:
+    /// A product line with these values; there is no empty one.
+    ///
     /// @param productId     code of the product
     /// @param productName   name of the product
     /// @param regCodeId     code of the registration
@@ -37,7 +39,7 @@ public:
     int regCodeId();               ///< Code of the registration.
     std::string regCode();         ///< Text of the registration.
     PesticideType pesticideType(); ///< Kind of the product.
-    double amount();               ///< How much of the product.
+    double amount();               ///< How much of the product; the derived class says in what.
 
 private:
     int productId_;

@@ -9,6 +9,8 @@
 /// A product line of a pesticide mix whose amount() is in a unit of its own.
 class QENXML_EXPORT PesticideByAmount : public PestProduct {
 public:
+    /// A product line with these values; there is no empty one.
+    ///
     /// @param productId     code of the product
     /// @param productName   name of the product
     /// @param regCodeId     code of the registration

@@ -6,9 +6,11 @@
 #include "model/PestProduct.h"
 #include "model/QenExport.h"
 
-/// A product line of a pesticide mix whose amount() is its percentage of the mix.
+/// A product line of a pesticide mix whose amount() is its percentage of the mix, kept as given.
 class QENXML_EXPORT PesticideByPercent : public PestProduct {
 public:
+    /// A product line with these values; there is no empty one.
+    ///
     /// @param productId     code of the product
     /// @param productName   name of the product
     /// @param regCodeId     code of the registration

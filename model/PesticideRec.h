@@ -22,6 +22,8 @@ public:
     /// An empty mix of the kind RecTypeNone: nil recId, no lines, empty texts, unit code -1.
     PesticideRec();
 
+    /// A mix of the kind RecTypePesticide.
+    ///
     /// @param recId               identifier of the rec that the data belongs to
     /// @param pesticidesByPercent lines given as a percentage of the mix
     /// @param pesticidesByAmount  lines given as an amount

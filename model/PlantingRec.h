@@ -11,6 +11,8 @@
 /// Its kind is RecTypePlanting. It does not change once constructed; all getters return copies.
 class QENXML_EXPORT PlantingRec : public QenRecData {
 public:
+    /// Product data of the kind RecTypePlanting; there is no empty one.
+    ///
     /// @param recId       identifier of the rec that the data belongs to
     /// @param cropId      code of the crop
     /// @param cropName    name of the crop

@@ -1,9 +1,14 @@
 /// @file
-/// QENXML_EXPORT marks what the shared library exports; everything else stays hidden. QENXML_LOCAL
-/// hides a private member of an exported class.
+/// What the shared library exports.
 
 #ifndef QENXML_MODEL_QENEXPORT_H
 #define QENXML_MODEL_QENEXPORT_H
+
+/// @def QENXML_EXPORT
+/// Marks a class that the shared library exports; everything else stays hidden.
+
+/// @def QENXML_LOCAL
+/// Hides a private member of an exported class.
 
 #if defined(__GNUC__)
 #define QENXML_EXPORT __attribute__((visibility("default")))

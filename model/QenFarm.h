@@ -16,8 +16,8 @@
 /// in an assignment, the farm holds old values and new ones, each field whole; adding changes
 /// nothing then.
 ///
-/// Threads: a farm may be read by several threads at once as long as none changes it; id() changes
-/// nothing although it is not a const member.
+/// Threads: a farm may be read by several threads at once as long as none changes it; id() and
+/// fields() change nothing by themselves although they are not const members.
 class QENXML_EXPORT QenFarm {
 public:
     /// A farm with nil identifiers, an empty name and no fields.
@@ -31,15 +31,19 @@ public:
     QenFarm(const std::string& name, const boost::uuids::uuid& id,
             const boost::uuids::uuid& growerId);
 
-    std::string name() const; ///< Display name.
+    std::string name() const; ///< Display name, as the package holds it (UTF-8); may be empty.
 
     void setName(std::string name); ///< Replaces the display name.
 
-    boost::uuids::uuid id();             ///< Identity of the farm; all that equality looks at.
-    boost::uuids::uuid growerId() const; ///< Grower that the farm belongs to.
+    /// Identity of the farm; all that equality looks at. Unlike that of a grower or field it is not
+    /// given by a const farm: ask a copy of it.
+    boost::uuids::uuid id();
+
+    boost::uuids::uuid growerId() const; ///< Grower that the farm belongs to; kept, never compared.
 
     /// The fields themselves, in the order in which they were added; the caller may change the list
-    /// and its elements. Changing the list may invalidate references to its elements.
+    /// and its elements. Changing the list may invalidate references to its elements. A const farm
+    /// does not give them: walk a copy of it.
     std::vector<QenField>& fields();
 
     /// True when the two id() are equal; nothing else is compared.
@@ -48,14 +52,21 @@ public:
     /// True when the two id() differ.
     bool operator!=(const QenFarm& other) const;
 
-    /// Puts a copy of @p field in the place of the first field with the same id, whose geometries
-    /// and recs are discarded (merge() combines them instead), or else appends it.
+    /// Puts a copy of @p field in the place of the first field with the same id, whose name, ids,
+    /// geometries and recs are discarded (merge() combines them instead), or else appends it. The
+    /// field's growerId() and farmId() are not looked at.
     void addField(QenField field);
 
     /// Adds what @p other, another version of the same farm, holds. This farm keeps its name,
     /// identifiers and order of fields. A field that both hold becomes that of @p other, merged
     /// with this farm's (so with the name, recs and geometries of @p other first); the fields that
-    /// only @p other holds are appended in its order. Does nothing when the two ids differ.
+    /// only @p other holds are appended in its order. Does nothing when the two ids differ. The
+    /// argument is a copy: the caller's farm stays as it is.
+    ///
+    /// A rec or geometry that both hold keeps the content that it has in @p other. (When growers
+    /// are merged it is the other way round: QenGrower::merge() calls this operation with swapped
+    /// roles.) Of two fields in @p other with an id that this farm lacks, the second one absorbs
+    /// the first one and takes its place.
     ///
     /// When memory runs out, the fields added so far stay.
     void merge(QenFarm other);

@@ -19,8 +19,8 @@
 /// Look-ups never fail; they return the empty value that each of them names. Nothing is validated,
 /// and no operation throws anything but std::bad_alloc.
 ///
-/// Threads: const members may be called by several threads at once as long as none changes the
-/// field.
+/// Threads: a field may be read by several threads at once as long as none changes it; recs()
+/// changes nothing by itself although it is not a const member.
 class QENXML_EXPORT QenField {
 public:
     /// A field with nil identifiers, an empty name, no geometries and no recs.
@@ -51,24 +51,36 @@ public:
              const std::string& geometryDate, const boost::uuids::uuid& geometryId,
              const boost::uuids::uuid& geometry, LLA& centroid);
 
+    /// A copy with geometries, recs and product data of its own. Product data whose kind is none of
+    /// the four variants is dropped (see QenRec).
     QenField(const QenField& other);
+
+    /// Takes over the content of a field that nobody will look at again, product data of any kind
+    /// included.
     QenField(QenField&& other) noexcept;
-    QenField& operator=(const QenField& other); ///< When memory runs out, nothing has changed.
+
+    /// Makes this field a copy of @p other and destroys the recs that it held before. When memory
+    /// runs out, nothing has changed.
+    QenField& operator=(const QenField& other);
+
+    /// Takes over the content of a field that nobody will look at again, and destroys the recs that
+    /// this field held before.
     QenField& operator=(QenField&& other) noexcept;
+
+    /// Destroys the recs with their product data.
     ~QenField();
 
-    std::string name() const; ///< Display name.
+    std::string name() const; ///< Display name, as the package holds it (UTF-8); may be empty.
 
     void setName(std::string name); ///< Replaces the display name.
 
     boost::uuids::uuid id() const;       ///< Identity of the field; all that equality looks at.
-    boost::uuids::uuid growerId() const; ///< Grower that the field belongs to.
-    boost::uuids::uuid farmId() const;   ///< Farm that the field belongs to.
+    boost::uuids::uuid growerId() const; ///< Grower that the field belongs to; never compared.
+    boost::uuids::uuid farmId() const;   ///< Farm that the field belongs to; never compared.
 
-    // Look-ups by a geometry's identifier. Of several geometries with that identifier the last one
-    // answers.
-
-    /// The date of the geometry @p geometryId; empty when the field has no such geometry.
+    /// The date of the geometry @p geometryId, as text that is never parsed; empty when the field
+    /// has no such geometry. Of several geometries with that identifier the last one answers, here
+    /// and in the three look-ups below.
     std::string geometryDate(const boost::uuids::uuid& geometryId) const;
 
     /// The name of the file that holds the shape of the geometry @p geometryId: the text of
@@ -80,20 +92,24 @@ public:
     /// field has no such geometry.
     boost::uuids::uuid geometryFileId(const boost::uuids::uuid& geometryId) const;
 
-    /// The centre point of the geometry @p geometryId; (0, 0, 0) when the field has no such
-    /// geometry.
+    /// The centre point of the geometry @p geometryId, in degrees; (0, 0, 0) when the field has no
+    /// such geometry.
     LLA centroid(const boost::uuids::uuid& geometryId) const;
 
-    /// A copy of the geometries, in the order in which they were added.
+    /// A copy of the geometries, in the order in which they were added. Changing it changes nothing
+    /// in the field, unlike changing recs().
     std::vector<QenFieldGeometry> geometries() const;
 
     /// The recs themselves, in the order in which they were added; the caller may change the list
-    /// and its elements. Changing the list may invalidate references to its elements.
+    /// and its elements. Changing the list may invalidate references to its elements, and assigning
+    /// an element loses its product data (see QenRec). A const field does not give them: walk a
+    /// copy of it.
     std::vector<QenRec>& recs();
 
     /// A copy of the first rec whose product data carries the identifier @p recId
     /// (QenRecData::recId(); the rec's own id is not consulted). Recs without product data are
-    /// skipped. A default-constructed rec when there is none.
+    /// skipped. A default-constructed rec when there is none. In what was read from a package, the
+    /// product data of a rec carries that rec's id.
     QenRec rec(boost::uuids::uuid recId) const;
 
     /// True when the two id() are equal; nothing else is compared.
@@ -112,8 +128,12 @@ public:
     void addRec(QenRec rec);
 
     /// Adds what @p other, another version of the same field, has beyond this one: its recs with
-    /// new ids, then its geometries with new identifiers, each appended in order. What this field
-    /// has already stays as it is, its name included. Does nothing when the two ids differ.
+    /// new ids, then its geometries with new identifiers, each appended in order; of several with
+    /// the same new identifier only the first one. What this field has already stays as it is, its
+    /// name and several geometries with one identifier included. Does nothing when the two ids
+    /// differ. The argument is a copy: the caller's field stays as it is.
+    ///
+    /// When memory runs out, the recs and geometries added so far stay.
     void merge(QenField other);
 
 private:

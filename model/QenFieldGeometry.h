@@ -24,19 +24,22 @@ struct LLA {
 /// Threads: the accessors change nothing; a geometry that no thread changes may be read by several.
 class QENXML_EXPORT QenFieldGeometry {
 public:
+    /// A geometry with these values; there is no empty one.
+    ///
     /// @param geometryId   identity of this geometry
     /// @param geometryDate its date, kept as text and never parsed
     /// @param geometry     identity of the geometry file
-    /// @param centroid     centre point
+    /// @param centroid     centre point, in degrees
     QenFieldGeometry(const boost::uuids::uuid& geometryId, const std::string& geometryDate,
                      const boost::uuids::uuid& geometry, const LLA& centroid);
 
     boost::uuids::uuid geometryId(); ///< Identity of this geometry.
     std::string geometryDate();      ///< The date as text; empty when the package gives none.
-    boost::uuids::uuid geometry();   ///< Identity of the geometry file.
+    boost::uuids::uuid geometry();   ///< Identity of the geometry file, whose name is its text.
     LLA centroid();                  ///< Centre point; (0, 0, 0) when the package gives none.
 
-    /// True when the two geometryId() are equal; date, file and centroid are not compared.
+    /// True when the two geometryId() are equal; date, file and centroid are not compared. There is
+    /// no `operator!=`.
     bool operator==(const QenFieldGeometry& other) const;
 
 private:

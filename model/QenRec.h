@@ -46,8 +46,34 @@ public:
     /// A rec with all values but editDate(), which is left empty. Note that the rate's unit comes
     /// as text before code, those of total and area as code before text.
     ///
-    /// @param recData product data or null; the rec owns it once it is constructed. When memory
-    ///                runs out while the arguments are copied, it is still the caller's.
+    /// @param fieldId         field that the rec belongs to
+    /// @param fieldGeometryId boundary of that field
+    /// @param name            display name
+    /// @param id              identity of the rec
+    /// @param recGeometry     the rec's own geometry
+    /// @param creationDate    creation date, as text
+    /// @param recDbfCol       name of the DBF column
+    /// @param operationName   name of the field operation
+    /// @param operationId     identity of the field operation; nil for none
+    /// @param seasonName      name of the season
+    /// @param seasonId        number of the season; -1 for none
+    /// @param mgmtZoneId      management zone; nil for none
+    /// @param recData         product data or null; the rec owns it once it is constructed. When
+    ///                        memory runs out while the arguments are copied, it is still the
+    ///                        caller's.
+    /// @param minimumRate     smallest rate, in the unit @p rateUom
+    /// @param maximumRate     largest rate, in the unit @p rateUom
+    /// @param averageRate     average rate, in the unit @p rateUom
+    /// @param rateUom         text of the rates' unit
+    /// @param rateUomId       code of the rates' unit
+    /// @param total           total amount, in the unit @p totalUom
+    /// @param totalUomId      code of the total's unit
+    /// @param totalUom        text of the total's unit
+    /// @param area            area, in the unit @p areaUom
+    /// @param areaUomId       code of the area's unit
+    /// @param areaUom         text of the area's unit
+    /// @param isUsed          mark of the host application
+    /// @param xmlFileName     UUID of the package file
     QenRec(boost::uuids::uuid fieldId, boost::uuids::uuid fieldGeometryId, std::string name,
            boost::uuids::uuid id, boost::uuids::uuid recGeometry, std::string creationDate,
            std::string recDbfCol, std::string operationName, boost::uuids::uuid operationId,
@@ -56,7 +82,7 @@ public:
            int rateUomId, double total, int totalUomId, std::string totalUom, double area,
            int areaUomId, std::string areaUom, bool isUsed, boost::uuids::uuid xmlFileName);
 
-    /// A deep copy of @p other.
+    /// A deep copy of @p other, with product data of its own.
     QenRec(const QenRec& other);
 
     /// Makes this rec a deep copy of @p other; assignment to itself changes nothing.
@@ -69,11 +95,11 @@ public:
     /// Deletes the product data.
     ~QenRec();
 
-    /// True when the two id() are equal; nothing else is compared.
+    /// True when the two id() are equal; nothing else is compared. There is no `operator!=`.
     bool operator==(const QenRec& other) const;
 
     boost::uuids::uuid fieldId();         ///< The field that the rec belongs to.
-    boost::uuids::uuid fieldGeometryId(); ///< The field's boundary that it belongs to.
+    boost::uuids::uuid fieldGeometryId(); ///< The field's boundary that the rec belongs to.
     std::string name();                   ///< Display name.
     boost::uuids::uuid id();              ///< Identity of the rec; all that equality looks at.
     boost::uuids::uuid recGeometry();     ///< The rec's own geometry.
@@ -90,19 +116,22 @@ public:
     /// valid until the rec is destroyed, and nobody else deletes it.
     QenRecData* recData();
 
-    double minimumRate();             ///< Smallest rate, in rateUom().
-    double maximumRate();             ///< Largest rate, in rateUom().
-    double averageRate();             ///< Average rate, in rateUom().
-    int rateUomId();                  ///< Code of the rates' unit.
-    std::string rateUom();            ///< Text of the rates' unit.
-    double total();                   ///< Total amount, in totalUom().
-    int totalUomId();                 ///< Code of the total's unit.
-    std::string totalUom();           ///< Text of the total's unit.
-    double area();                    ///< Area, in areaUom().
-    int areaUomId();                  ///< Code of the area's unit.
-    std::string areaUom();            ///< Text of the area's unit.
-    bool isUsed();                    ///< A mark for the host application; reading leaves it false.
-    boost::uuids::uuid xmlFileName(); ///< UUID of the package file that the rec was read from.
+    double minimumRate();   ///< Smallest rate, in rateUom().
+    double maximumRate();   ///< Largest rate, in rateUom().
+    double averageRate();   ///< Average rate, in rateUom().
+    int rateUomId();        ///< Code of the rates' unit.
+    std::string rateUom();  ///< Text of the rates' unit.
+    double total();         ///< Total amount, in totalUom().
+    int totalUomId();       ///< Code of the total's unit.
+    std::string totalUom(); ///< Text of the total's unit.
+    double area();          ///< Area, in areaUom().
+    int areaUomId();        ///< Code of the area's unit.
+    std::string areaUom();  ///< Text of the area's unit.
+    /// A mark for the host application. Reading leaves it false; the library only copies it.
+    bool isUsed();
+
+    /// UUID of the package file that the rec was read from. No text, despite the name.
+    boost::uuids::uuid xmlFileName();
 
     // Each setter replaces the value that the getter of the same name returns.
 
@@ -120,8 +149,8 @@ public:
     void setSeasonId(int seasonId);                              ///< Sets seasonId().
     void setMgMtZoneId(boost::uuids::uuid mgmtZoneId); ///< Sets mgmtZoneId(); note the spelling.
 
-    /// Takes ownership of @p recData, null included. The object held before is not deleted: it
-    /// belongs to the caller.
+    /// Takes ownership of @p recData, which was made with `new`; null for none. The object held
+    /// before is not deleted: it belongs to the caller.
     void setRecData(QenRecData* recData);
 
     void setMinimumRate(double minimumRate);             ///< Sets minimumRate().

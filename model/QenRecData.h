@@ -26,8 +26,11 @@ enum RecType : std::int32_t {
 /// An object is owned by exactly one QenRec, which deletes it through the virtual destructor.
 /// There is no cloning operation: a QenRec that is copied copies it as the variant of its kind.
 ///
-/// Every value is kept as given: nothing is validated, converted or scaled. No operation throws
-/// anything but std::bad_alloc, from copies of texts and lists.
+/// Every value is kept as given: nothing is validated, converted or scaled. A unit of measure is a
+/// code and a text, neither of which means anything to the library. No operation throws anything
+/// but std::bad_alloc, from copies of texts and lists.
+///
+/// The getters of this class and of its variants are non-const members and return copies.
 ///
 /// Threads: the getters change nothing; an object that no thread changes may be read by several.
 class QENXML_EXPORT QenRecData {
@@ -38,13 +41,19 @@ public:
     /// Product data of the rec with the identifier @p recId, of the kind @p recType.
     QenRecData(boost::uuids::uuid recId, RecType recType);
 
+    /// A copy of the two values of this class only: what a variant adds is not copied by way of the
+    /// base.
     QenRecData(const QenRecData&) = default;
+
+    /// Takes over the two values of this class only, the kind included. So it must not be used on
+    /// a variant by way of the base.
     QenRecData& operator=(const QenRecData&) = default;
 
+    /// Virtual, so that a variant may be deleted through a pointer to this class.
     virtual ~QenRecData();
 
     /// True when both belong to the rec of the same identifier. Kind and content are not compared,
-    /// so two different variants of one rec are equal.
+    /// so two different variants of one rec are equal. There is no `operator!=`.
     bool operator==(const QenRecData& other) const;
 
     /// The identifier of the rec that the data belongs to; nil when none was given.
@@ -55,7 +64,7 @@ public:
 
 protected:
     boost::uuids::uuid recId_; ///< CustomFertilizerRec::setRecId() writes it.
-    RecType recType_;
+    RecType recType_;          ///< Nothing changes it but assignment.
 };
 
 #endif

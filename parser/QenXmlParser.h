@@ -24,7 +24,9 @@
 ///
 /// States: after construction there are no growers. Each parseFile() appends the growers of its
 /// file, also when it fails: those that it read completely before. Growers never go away and are
-/// never merged; QenGrower::merge() combines them.
+/// never merged, not even those of a file that is read twice: QenGrower::merge() combines them, and
+/// a new parser starts afresh. The document of the last file stays in memory until the next one is
+/// read.
 ///
 /// Errors: what is broken in a package is an exception, raised where it occurs and never caught by
 /// the library. An identifier that is absent, empty or malformed is std::runtime_error with the
@@ -34,7 +36,17 @@
 ///
 /// The element readers read one element each, whatever its name, and may be called by a host that
 /// has a document of its own. They take the identifiers of the enclosing records, and use nothing
-/// of the parser but the UUID of the package file, which parseRecNode() puts into every rec.
+/// of the parser but the UUID of the package file, which parseRecNode() puts into every rec: that
+/// of the last path from which parseFile() took one, whether or not the file could be loaded, and
+/// nil before. An empty node reads like an element without attributes and children.
+///
+/// Lists are read from their first item to the last node of the parent: every node behind the first
+/// item counts as one more, whatever its name, and mostly fails for lack of an identifier. Of
+/// several farms of a grower, fields of a farm or recs of a field with one identifier, the last one
+/// takes the place of the first.
+///
+/// Texts are taken verbatim. Numbers are converted by the rules of pugixml, without an error and
+/// alike in every locale: a text that is no number is 0.
 ///
 /// Threads: one parser is used by one thread at a time; separate parsers share nothing.
 ///
@@ -64,17 +76,21 @@ public:
     ///                            the failing one stay; it and the rest of the file are not read.
     bool parseFile(std::string path);
 
-    /// A copy of all growers read so far, with everything beneath them: call it once after the
-    /// files are read, not per access.
+    /// A copy of all growers read so far, in the order in which they were read, with everything
+    /// beneath them. It belongs to the caller and outlives the parser. Call it once after the files
+    /// are read, not per access. The parser keeps its own list unchanged.
     std::vector<QenGrower> getGrowers();
 
-    /// Reads a Grower element with its farms.
+    /// Reads a Grower element with its farms. The parser does not keep the result.
+    /// @param node the element
+    /// @return the grower; its name is empty when the element has none
     /// @throws std::runtime_error "invalid uuid string"
     QenGrower parseGrowerNode(pugi::xml_node node);
 
     /// Reads a Farm element with its fields.
     /// @param growerId identifier of the enclosing grower
     /// @param node     the element
+    /// @return the farm; its name is empty when the element has none
     /// @throws std::runtime_error "invalid uuid string"
     QenFarm parseFarmNode(boost::uuids::uuid growerId, pugi::xml_node node);
 
@@ -82,6 +98,8 @@ public:
     /// @param growerId identifier of the enclosing grower
     /// @param farmId   identifier of the enclosing farm
     /// @param node     the element
+    /// @return the field with exactly one geometry; name and date are empty and the centroid is
+    ///         (0, 0, 0) where the element has none
     /// @throws std::runtime_error "invalid uuid string"
     QenField parseFieldNode(boost::uuids::uuid growerId, boost::uuids::uuid farmId,
                             pugi::xml_node node);
@@ -90,6 +108,10 @@ public:
     /// @param fieldId         identifier of the enclosing field
     /// @param fieldGeometryId identifier of that field's geometry
     /// @param node            the element
+    /// @return the rec, which owns its product data. Without an operation, or with one that has the
+    ///         nil UUID, operation and its name are not set; without a season, or with a negative
+    ///         number, seasonId() is -1 and its name empty. Absent rates, total, area and their
+    ///         codes are 0. isUsed() is false.
     /// @throws std::runtime_error "invalid uuid string"
     QenRec parseRecNode(boost::uuids::uuid fieldId, boost::uuids::uuid fieldGeometryId,
                         pugi::xml_node node);
@@ -98,21 +120,23 @@ public:
     /// "CommercialFertilizer", "CustomFertilizer" and "Planting" yields null, "Pesticide" included.
     /// @param recId identifier of the rec
     /// @param node  the element; may be empty
-    /// @return product data that the caller owns, or null
+    /// @return product data that the caller owns and deletes or gives to a rec, or null
     /// @throws std::runtime_error "invalid uuid string"
     QenRecData* parseRecDataNode(boost::uuids::uuid recId, pugi::xml_node node);
 
     /// Reads a CommercialFertilizer element.
     /// @param recId identifier of the rec
     /// @param node  the element; may be empty
-    /// @return product data that the caller owns, or null when one of the children is missing
+    /// @return product data that the caller owns and deletes or gives to a rec, or null when one of
+    ///         the children is missing. Empty children are there: they read as 0 or an empty text.
     CommercialFertilizerRec* parseCommercialFertilizerRecDataNode(boost::uuids::uuid recId,
                                                                   pugi::xml_node node);
 
     /// Reads a CustomFertilizer element.
     /// @param recId identifier of the rec
     /// @param node  the element; may be empty
-    /// @return product data that the caller owns, or null when one of the children is missing
+    /// @return product data that the caller owns and deletes or gives to a rec, or null when one of
+    ///         the children is missing. Empty children are there: they read as 0 or an empty text.
     /// @throws std::runtime_error "invalid uuid string": all children are there, but "ProductID" is
     ///                            no UUID
     CustomFertilizerRec* parseCustomFertilizerRecDataNode(boost::uuids::uuid recId,
@@ -121,14 +145,16 @@ public:
     /// Reads a Planting element.
     /// @param recId identifier of the rec
     /// @param node  the element; may be empty
-    /// @return product data that the caller owns, or null when one of the children is missing
+    /// @return product data that the caller owns and deletes or gives to a rec, or null when one of
+    ///         the children is missing. Empty children are there: they read as 0 or an empty text.
     PlantingRec* parsePlantingRecDataNode(boost::uuids::uuid recId, pugi::xml_node node);
 
     /// Reads the name and unit of a Pesticide element; its product lines are not read. Reading a
     /// package never comes here: only a direct call does.
     /// @param recId identifier of the rec
     /// @param node  the element; may be empty
-    /// @return product data that the caller owns, or null when one of the children is missing
+    /// @return product data that the caller owns and deletes or gives to a rec, or null when one of
+    ///         the children is missing. Empty children are there: they read as 0 or an empty text.
     PesticideRec* parsePesticideRecDataNode(boost::uuids::uuid recId, pugi::xml_node node);
 
 private:

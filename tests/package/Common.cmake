@@ -37,6 +37,24 @@ function(code_block variable text)
     set(${variable} "${text}" PARENT_SCOPE)
 endfunction()
 
+# dead_links(VARIABLE DOCUMENT...): the links of Markdown documents to files that do not exist.
+function(dead_links variable)
+    set(dead "")
+    foreach(document IN LISTS ARGN)
+        file(READ ${document} text)
+        get_filename_component(folder ${document} DIRECTORY)
+        string(REGEX REPLACE "[][;]+\\(" "<link>" text "${text}") # brackets would keep lists together
+        string(REGEX MATCHALL "<link>[^)#]+" links "${text}")
+        foreach(link IN LISTS links)
+            string(REPLACE "<link>" "" link "${link}")
+            if(NOT link MATCHES "^https?:" AND NOT EXISTS ${folder}/${link})
+                list(APPEND dead "${document}: ${link}")
+            endif()
+        endforeach()
+    endforeach()
+    set(${variable} "${dead}" PARENT_SCOPE)
+endfunction()
+
 # expect_host_output(PROGRAM): runs the example host with good, overlapping, broken and missing
 # packages. It runs in the folder of the packages, so that its messages do not depend on where the
 # sources are.

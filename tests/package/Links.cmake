@@ -4,19 +4,7 @@ include(${CMAKE_CURRENT_LIST_DIR}/Common.cmake)
 
 file(GLOB documents ${SOURCE_DIR}/*.md ${SOURCE_DIR}/docs/*.md ${SOURCE_DIR}/examples/packages/*.md
     ${SOURCE_DIR}/examples/packages/broken/*.md)
-set(dead "")
-foreach(document IN LISTS documents)
-    file(READ ${document} text)
-    get_filename_component(folder ${document} DIRECTORY)
-    string(REGEX REPLACE "[][;]+\\(" "<link>" text "${text}") # brackets would keep lists together
-    string(REGEX MATCHALL "<link>[^)#]+" links "${text}")
-    foreach(link IN LISTS links)
-        string(REPLACE "<link>" "" link "${link}")
-        if(NOT link MATCHES "^https?:" AND NOT EXISTS ${folder}/${link})
-            list(APPEND dead "${document}: ${link}")
-        endif()
-    endforeach()
-endforeach()
+dead_links(dead ${documents})
 expect_same("The list of dead links" "${dead}" "")
 
 file(GLOB_RECURSE sources ${SOURCE_DIR}/tests/*.cpp)

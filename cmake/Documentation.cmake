@@ -1,0 +1,25 @@
+# The documents, and the reference of the public interface. They are installed as they lie in the
+# tree, so that their links hold.
+
+include(GNUInstallDirs)
+
+option(QENXML_REFERENCE "Make the reference of the public interface, with doxygen" OFF)
+
+if(QENXML_REFERENCE)
+    find_package(Doxygen REQUIRED)
+    set(inputs ${PROJECT_SOURCE_DIR}/docs/reference.md ${qenxml_model_headers} ${qenxml_parser_headers})
+    list(JOIN inputs "\" \"" QENXML_REFERENCE_INPUT)
+    string(PREPEND QENXML_REFERENCE_INPUT "\"")
+    string(APPEND QENXML_REFERENCE_INPUT "\"")
+    configure_file(docs/Doxyfile.in ${PROJECT_BINARY_DIR}/Doxyfile @ONLY)
+    add_custom_target(qenxml_reference
+        COMMAND ${CMAKE_COMMAND} -E rm -rf ${PROJECT_BINARY_DIR}/html # of items that have gone
+        COMMAND Doxygen::doxygen ${PROJECT_BINARY_DIR}/Doxyfile
+        COMMENT "Making the reference of the public interface" VERBATIM)
+endif()
+
+install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Documentation
+    FILES_MATCHING PATTERN *.md PATTERN *.xsd PATTERN *.svg)
+install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Documentation)
+install(DIRECTORY ${PROJECT_BINARY_DIR}/html DESTINATION ${CMAKE_INSTALL_DOCDIR}
+    COMPONENT Documentation OPTIONAL)
