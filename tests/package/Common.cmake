@@ -44,15 +44,31 @@ function(dead_links variable)
         file(READ ${document} text)
         get_filename_component(folder ${document} DIRECTORY)
         string(REGEX REPLACE "[][;]+\\(" "<link>" text "${text}") # brackets would keep lists together
-        string(REGEX MATCHALL "<link>[^)#]+" links "${text}")
+        string(REGEX MATCHALL "<link>[^)# ]+[)#]" links "${text}") # code may look alike, but has blanks
         foreach(link IN LISTS links)
-            string(REPLACE "<link>" "" link "${link}")
+            string(REGEX REPLACE "<link>(.*)." "\\1" link "${link}")
             if(NOT link MATCHES "^https?:" AND NOT EXISTS ${folder}/${link})
                 list(APPEND dead "${document}: ${link}")
             endif()
         endforeach()
     endforeach()
     set(${variable} "${dead}" PARENT_SCOPE)
+endfunction()
+
+# build_example(NAME): builds a folder of examples as its readers will: against the installed library.
+function(build_example name)
+    file(REMOVE_RECURSE ${WORK_DIR})
+    run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/examples/${name} -B ${WORK_DIR} -G ${GENERATOR}
+        -D CMAKE_CXX_COMPILER=${CXX}
+        -D CMAKE_BUILD_TYPE=${CONFIG}
+        -D CMAKE_PREFIX_PATH=${PREFIX}
+        -D CMAKE_FIND_USE_PACKAGE_REGISTRY=OFF
+        "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror${INSTRUMENTATION}")
+    file(STRINGS ${WORK_DIR}/CMakeCache.txt found REGEX "^qenxml_DIR:")
+    if(NOT found MATCHES "=${PREFIX}/")
+        message(FATAL_ERROR "The example has found another library: ${found}")
+    endif()
+    run(${CMAKE_COMMAND} --build ${WORK_DIR} --config "${CONFIG}")
 endfunction()
 
 # expect_host_output(PROGRAM): runs the example host with good, overlapping, broken and missing
