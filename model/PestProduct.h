@@ -1,3 +1,6 @@
+/// @file
+/// PestProduct, one line of a pesticide mix, and its kinds.
+
 #ifndef QENXML_MODEL_PESTPRODUCT_H
 #define QENXML_MODEL_PESTPRODUCT_H
 

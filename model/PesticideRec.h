@@ -49,10 +49,11 @@ public:
     void setUomId(const int& uomId);                               ///< Replaces the unit's code.
     void setUom(const std::string& uom);                           ///< Replaces the unit's text.
 
-    /// Appends a copy of @p pesticide, also when an equal line is there already.
+    /// Appends a copy of @p pesticide, without looking for a line like it. When memory runs out,
+    /// nothing has changed; likewise below.
     void addPesticideByPercent(const PesticideByPercent& pesticide);
 
-    /// Appends a copy of @p pesticide, also when an equal line is there already.
+    /// Appends a copy of @p pesticide, without looking for a line like it.
     void addPesticideByAmount(const PesticideByAmount& pesticide);
 
 private:

@@ -1,3 +1,6 @@
+/// @file
+/// QenRecData, the base of the product data, and its kinds.
+
 #ifndef QENXML_MODEL_QENRECDATA_H
 #define QENXML_MODEL_QENRECDATA_H
 

@@ -59,6 +59,8 @@ public:
     QenXmlParser(const QenXmlParser&) = delete;
     QenXmlParser& operator=(const QenXmlParser&) = delete;
 
+    /// Releases the growers of the parser and the document of the last file; growers that
+    /// getGrowers() gave out live on.
     ~QenXmlParser();
 
     /// Reads a package file and appends its growers, in document order.
