@@ -9,7 +9,7 @@ run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_DIR} --component Doc
 set(root ${WORK_DIR}/share/doc/qenxml)
 file(GLOB documents RELATIVE ${SOURCE_DIR} ${SOURCE_DIR}/docs/*.md ${SOURCE_DIR}/docs/*.svg
     ${SOURCE_DIR}/docs/*.xsd)
-file(GLOB installed RELATIVE ${root} ${root}/docs/*)
+file(GLOB installed RELATIVE ${root} ${root}/docs/*.md ${root}/docs/*.svg ${root}/docs/*.xsd)
 list(SORT documents)
 list(SORT installed)
 expect_same("The list of installed documents" "${installed}" "${documents}")

@@ -86,19 +86,34 @@ expect_verdict(valid "${minimal}")
 expect_verdict(valid "${full}")
 
 # As free as the reader.
-expect_verdict(valid "${full}" "8b1e5d70-4c29-4a6f-93e8-d05f7a2c1b64" "8B1E5D704C294A6F93E8D05F7A2C1B64")
-expect_verdict(valid "${full}" "5f83b0a7-1d6c-4e92-b4c8-60f9e2d7a315" "{5f83b0a7-1d6c-4e92-b4c8-60f9e2d7a315}")
-expect_verdict(valid "${full}" "5f83b0a7-1d6c-4e92-b4c8-60f9e2d7a315" "{5f83b0a71d6c4e92b4c860f9e2d7a315}")
-expect_verdict(valid "${full}" "6a3d1f9e-84c7-4250-8eb3-c5f70a2d9b48" "")
 expect_verdict(valid "${minimal}" "</Recommendations>" "</Recommendations><FieldName>Breite</FieldName>")
 expect_verdict(valid "${full}" "<UOM>kg</UOM>" "<UOM/>")
-expect_verdict(valid "${full}" "<UOMID>21</UOMID>" "<UOMID/>")
-expect_verdict(valid "${full}" "<MinimumRate>150</MinimumRate>" "<MinimumRate/>")
+expect_verdict(valid "${full}" "<EditDate>2025-09-22T17:45:00</EditDate>" "")
+expect_verdict(valid "${full}" " MgmtZoneID=\"6a3d1f9e-84c7-4250-8eb3-c5f70a2d9b48\"" "")
 expect_verdict(valid "${full}" "<AverageRate>170" "<AverageRate> +1.7e2 ")
-expect_verdict(valid "${full}" "SeasonID=\"2026\"" "SeasonID=\"-1\"")
+expect_verdict(valid "${full}" "SeasonID=\"2026\"" "SeasonID=\"0\"")
 expect_verdict(valid "${full}" "<RecPackage>"
     "<RecPackage xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\"
                  xsi:noNamespaceSchemaLocation=\"recpackage.xsd\">")
+
+# Identifiers that the reader takes, in another spelling or for none.
+expect_verdict(caught "${full}" "8b1e5d70-4c29-4a6f-93e8-d05f7a2c1b64" "8B1E5D70-4C29-4A6F-93E8-D05F7A2C1B64")
+expect_verdict(caught "${full}" "8b1e5d70-4c29-4a6f-93e8-d05f7a2c1b64" "8b1e5d704c294a6f93e8d05f7a2c1b64")
+expect_verdict(caught "${full}" "5f83b0a7-1d6c-4e92-b4c8-60f9e2d7a315" "{5f83b0a7-1d6c-4e92-b4c8-60f9e2d7a315}")
+expect_verdict(caught "${full}" "5f83b0a7-1d6c-4e92-b4c8-60f9e2d7a315" "00000000-0000-0000-0000-000000000000")
+expect_verdict(caught "${full}" "6a3d1f9e-84c7-4250-8eb3-c5f70a2d9b48" "")
+
+# What is empty or incomplete.
+expect_verdict(caught "${full}" "<UOMID>21</UOMID>" "<UOMID/>")
+expect_verdict(caught "${full}" "<MinimumRate>150</MinimumRate>" "<MinimumRate/>")
+expect_verdict(caught "${full}" "<MinimumRate>150</MinimumRate>" "")
+expect_verdict(caught "${full}" "<FarmName>Brandlhof</FarmName>" "<FarmName/>")
+expect_verdict(caught "${full}" "<Latitude>48.80317</Latitude>" "")
+expect_verdict(caught "${full}" "<Latitude>48" "<Latitude>98")
+expect_verdict(caught "${full}" "<Longitude>12" "<Longitude>-212")
+expect_verdict(caught "${full}" "SeasonID=\"2026\"" "SeasonID=\"-1\"")
+expect_verdict(caught "${full}" "<Season SeasonID=\"2026\">" "<Season>")
+expect_verdict(caught "${minimal}" "</RecGeometry>" "</RecGeometry><RecData/>")
 
 # Mistakes that the reader passes over in silence.
 expect_verdict(caught "${full}" "<UOM>kg</UOM>" "")
@@ -117,6 +132,8 @@ expect_verdict(caught "${full}" "<RecData>" "<RecData>none")
 expect_verdict(caught "${full}" "</Planting>" "</Planting><Pesticide/>")
 expect_verdict(caught "${full}" "<FarmName>Brandlhof</FarmName>" "<FarmName>Brandl<b>hof</b></FarmName>")
 expect_verdict(caught "${full}" "<Farm FarmID=\"47" "<Farm FarmID=\"47f0a3d9-e612-4b8c-8d75-3c9b60e1f2a8\"/><Farm FarmID=\"47")
+expect_verdict(caught "${minimal}" "</RecPackage>"
+    "<Grower GrowerID=\"3e6c1f0a-52b7-4d3e-9a61-0c8f1d2b7e45\"/></RecPackage>")
 expect_verdict(caught "${full}" "RecID=\"c4f82a6b-51d0-4e39-b7a4-2b0e9d6f8c17\"" "RecID=\"0e7d4c93-b8a1-4f56-8c2e-f19a6d3b5072\"")
 expect_verdict(caught "${full}" "<RecPackage>" "<RecPackage xmlns=\"urn:packages\">")
 expect_verdict(caught "<RecPackage/>")
