@@ -1,6 +1,5 @@
-# The library: qenxml::qenxml, its installation and its package configuration.
+# The library: qenxml::qenxml.
 
-include(CMakePackageConfigHelpers)
 include(GNUInstallDirs)
 
 find_package(pugixml REQUIRED)
@@ -22,8 +21,9 @@ target_link_libraries(qenxml
     PUBLIC pugixml::pugixml Boost::headers
     PRIVATE $<BUILD_INTERFACE:qenxml_developer_flags>)
 if(TARGET Boost::system)
-    # Its error categories; a library of its own only in some installations of Boost.
-    target_link_libraries(qenxml PRIVATE Boost::system)
+    # Its error categories; a library of its own only in some installations of Boost, so that who
+    # links an installed libqenxml must not be made to look for it.
+    target_link_libraries(qenxml PRIVATE $<BUILD_INTERFACE:Boost::system>)
 endif()
 
 set_target_properties(qenxml PROPERTIES
@@ -39,21 +39,3 @@ if(BUILD_SHARED_LIBS)
     target_link_options(qenxml PRIVATE LINKER:--version-script=${export_map} LINKER:--no-undefined)
     set_property(TARGET qenxml APPEND PROPERTY LINK_DEPENDS ${export_map})
 endif()
-
-set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/qenxml)
-install(TARGETS qenxml EXPORT qenxmlTargets
-    RUNTIME COMPONENT Runtime
-    LIBRARY COMPONENT Runtime NAMELINK_COMPONENT Development
-    ARCHIVE COMPONENT Development)
-install(FILES ${qenxml_model_headers}
-    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/qenxml/model COMPONENT Development)
-install(FILES ${qenxml_parser_headers}
-    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/qenxml/parser COMPONENT Development)
-install(EXPORT qenxmlTargets NAMESPACE qenxml::
-    DESTINATION ${package_dir} COMPONENT Development)
-configure_package_config_file(cmake/qenxmlConfig.cmake.in qenxmlConfig.cmake
-    INSTALL_DESTINATION ${package_dir})
-write_basic_package_version_file(qenxmlConfigVersion.cmake COMPATIBILITY SameMajorVersion)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/qenxmlConfig.cmake
-              ${CMAKE_CURRENT_BINARY_DIR}/qenxmlConfigVersion.cmake
-    DESTINATION ${package_dir} COMPONENT Development)

@@ -1,0 +1,37 @@
+# What is installed, by component:
+#   Runtime        the shared library
+#   Development    headers, link library, the configuration for CMake and pkg-config
+#   Tools          the qenxml command
+#   Documentation  the documents, the sample packages and the example host (Documentation.cmake)
+# Everything finds its parts relative to itself, so that an installed prefix can be moved.
+
+include(CMakePackageConfigHelpers)
+
+install(TARGETS qenxml EXPORT qenxmlTargets
+    RUNTIME COMPONENT Runtime
+    LIBRARY COMPONENT Runtime NAMELINK_COMPONENT Development
+    ARCHIVE COMPONENT Development)
+install(FILES ${qenxml_model_headers}
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/qenxml/model COMPONENT Development)
+install(FILES ${qenxml_parser_headers}
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/qenxml/parser COMPONENT Development)
+
+# For CMake: find_package(qenxml 1 CONFIG).
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/qenxml)
+install(EXPORT qenxmlTargets NAMESPACE qenxml::
+    DESTINATION ${package_dir} COMPONENT Development)
+configure_package_config_file(cmake/qenxmlConfig.cmake.in qenxmlConfig.cmake
+    INSTALL_DESTINATION ${package_dir})
+write_basic_package_version_file(qenxmlConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/qenxmlConfig.cmake
+              ${CMAKE_CURRENT_BINARY_DIR}/qenxmlConfigVersion.cmake
+    DESTINATION ${package_dir} COMPONENT Development)
+
+# For pkg-config.
+set(full_pkgconfig_dir ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig)
+file(RELATIVE_PATH pkgconfig_to_prefix ${full_pkgconfig_dir} ${CMAKE_INSTALL_PREFIX})
+file(RELATIVE_PATH pkgconfig_to_include ${full_pkgconfig_dir}
+    ${CMAKE_INSTALL_FULL_INCLUDEDIR}/qenxml)
+configure_file(cmake/qenxml.pc.in qenxml.pc @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/qenxml.pc
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
