@@ -6,6 +6,8 @@ packages_test="$packages_run libgtest-dev librapidcheck-dev binutils libxml2-uti
 packages_bench="$packages_run libbenchmark-dev"
 packages_reference="$packages_run doxygen"
 packages_check="$packages_test $packages_reference clang clang-tidy clang-format libclang-rt-14-dev cppcheck valgrind gcovr git"
+packages_debian="build-essential dpkg-dev debhelper lintian"
+packages_debian_test="$packages_debian debootstrap"
 
 # install_packages PACKAGE...: installs those that are missing, and says so.
 install_packages() {
@@ -16,17 +18,24 @@ install_packages() {
     done
     [ ${#missing[@]} -gt 0 ] || return 0
 
-    local as_root=()
-    if [ "$(id -u)" != 0 ]; then
-        if ! command -v sudo >/dev/null; then
-            echo "These Debian packages are missing: ${missing[*]}" >&2
-            echo "Install them, or run this script as root or where sudo is available." >&2
-            return 1
-        fi
-        as_root=(sudo)
+    if [ "$(id -u)" != 0 ] && ! command -v sudo >/dev/null; then
+        echo "These Debian packages are missing: ${missing[*]}" >&2
+        echo "Install them, or run this script as root or where sudo is available." >&2
+        return 1
     fi
     echo "Installing from Debian: ${missing[*]}" >&2
-    "${as_root[@]}" apt-get update -qq >&2 &&
-        "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-            apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
+    apt_get update && apt_get install -y --no-install-recommends "${missing[@]}"
+}
+
+# install_build_dependencies FOLDER: installs what the Debian package in a folder is built with.
+install_build_dependencies() {
+    echo "Installing from Debian what $1 is built with" >&2
+    apt_get update && apt_get build-dep -y --no-install-recommends "$1"
+}
+
+# apt_get ARGUMENT...: as root.
+apt_get() {
+    local as_root=()
+    [ "$(id -u)" = 0 ] || as_root=(sudo)
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq "$@" >&2
 }
