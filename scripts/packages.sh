@@ -6,6 +6,7 @@ packages_test="$packages_run libgtest-dev librapidcheck-dev binutils libxml2-uti
 packages_bench="$packages_run libbenchmark-dev"
 packages_reference="$packages_run doxygen"
 packages_check="$packages_test $packages_reference clang clang-tidy clang-format libclang-rt-14-dev cppcheck valgrind gcovr git"
+packages_abi="$packages_run abigail-tools"
 packages_debian="build-essential dpkg-dev debhelper lintian"
 packages_debian_test="$packages_debian debootstrap"
 
