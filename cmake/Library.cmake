@@ -32,6 +32,7 @@ set_target_properties(qenxml PROPERTIES
     POSITION_INDEPENDENT_CODE ON
     VERSION ${PROJECT_VERSION}
     SOVERSION ${PROJECT_VERSION_MAJOR})
+qenxml_harden(qenxml)
 if(BUILD_SHARED_LIBS)
     # Calls of pugixml directly instead of by way of a stub: 6 % less time for a small package.
     target_compile_options(qenxml PRIVATE -fno-plt)

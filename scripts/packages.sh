@@ -8,6 +8,8 @@ packages_reference="$packages_run doxygen"
 packages_check="$packages_test $packages_reference clang clang-tidy clang-format libclang-rt-14-dev cppcheck valgrind gcovr git"
 packages_abi="$packages_run abigail-tools"
 packages_debian="build-essential dpkg-dev debhelper lintian"
+packages_release="$packages_run git xz-utils"
+packages_reproducible="$packages_debian diffoscope-minimal faketime locales"
 packages_debian_test="$packages_debian debootstrap"
 
 # install_packages PACKAGE...: installs those that are missing, and says so.

@@ -3,7 +3,7 @@
 /// that a change makes them read one thing for another. Each class is compared with a structure
 /// that has the same members in the same order.
 
-#include <cstdint>
+#include <cstddef>
 #include <string>
 #include <vector>
 
