@@ -3,7 +3,7 @@
 include(${CMAKE_CURRENT_LIST_DIR}/Common.cmake)
 
 file(READ ${SOURCE_DIR}/debian/control control)
-string(REGEX MATCH "Build-Depends: ([^:]*)\nStandards-Version" _ "${control}")
+string(REGEX MATCH "Build-Depends: ([^:]*)\nBuild-Depends-Indep" _ "${control}")
 string(REGEX REPLACE " \\([^)]*\\)" "" build_depends "${CMAKE_MATCH_1}")
 string(REGEX MATCHALL "[a-z0-9.+-]+" build_depends "${build_depends}")
 list(REMOVE_ITEM build_depends debhelper-compat)
