@@ -1,7 +1,7 @@
 # Sourced by the other scripts: installs what they need from Debian.
 
 # Debian packages per purpose.
-packages_run="g++ cmake ninja-build libpugixml-dev libboost-dev libboost-system-dev libcli11-dev libfmt-dev"
+packages_run="g++ cmake ninja-build libpugixml-dev libboost-dev libboost-system-dev libcli11-dev libfmt-dev nlohmann-json3-dev"
 packages_test="$packages_run libgtest-dev librapidcheck-dev binutils libxml2-utils pkgconf"
 packages_bench="$packages_run libbenchmark-dev"
 packages_reference="$packages_run doxygen"

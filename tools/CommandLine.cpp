@@ -10,6 +10,7 @@
 #include <fmt/format.h>
 
 #include "model/version.h"
+#include "tools/Check.h"
 #include "tools/Command.h"
 #include "tools/Escape.h"
 #include "tools/Show.h"
@@ -18,6 +19,7 @@ namespace {
 
 constexpr const char* examples = "  qenxml show 00112233-4455-6677-8899-aabbccddeeff.xml\n"
                                  "  qenxml show --merge season/*.xml\n"
+                                 "  qenxml check outgoing/\n"
                                  "  qenxml show --help\n";
 
 /// What is wrong with the arguments. The parser itself tells of what is missing first, although an
@@ -47,7 +49,7 @@ ExitCode parseAndRun(int argc, const char* const* argv, Console& console) {
     application.set_help_flag("-h,--help", "Print this help");
     application.set_version_flag("--version", "qenxml " QENXML_VERSION, "Print the version");
     application.require_subcommand(1);
-    const std::array commands = {addShow(application)};
+    const std::array commands = {addShow(application), addCheck(application)};
 
     try {
         application.parse(argc, argv);

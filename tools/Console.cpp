@@ -1,6 +1,7 @@
 #include "tools/Console.h"
 
 #include <cerrno>
+#include <utility>
 
 #include <fmt/format.h>
 
@@ -13,6 +14,7 @@ namespace {
 } // namespace
 
 void Console::print(std::string_view text) {
+    clearProgress();
     if (std::fwrite(text.data(), 1, text.size(), output_) != text.size())
         throwOutputError();
 }
@@ -28,9 +30,26 @@ void Console::complain(std::string_view message) {
 }
 
 void Console::complainOnly(std::string_view message) {
+    clearProgress();
     const std::string line = fmt::format("qenxml: {}\n", message);
     // In one piece, so that it stays whole beside the output of other programs. Nobody is left to
     // tell when it fails.
     std::fwrite(line.data(), 1, line.size(), messages_);
+    std::fflush(messages_);
+}
+
+void Console::showProgress(std::string_view line) {
+    if (!showsProgress_)
+        return;
+    const std::string shown = fmt::format("\r{}\x1b[K", line); // and nothing behind it
+    std::fwrite(shown.data(), 1, shown.size(), messages_);
+    std::fflush(messages_);
+    progressShown_ = true;
+}
+
+void Console::clearProgress() {
+    if (!std::exchange(progressShown_, false))
+        return;
+    std::fputs("\r\x1b[K", messages_);
     std::fflush(messages_);
 }

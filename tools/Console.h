@@ -17,8 +17,10 @@ public:
 class Console {
 public:
     /// The streams stay the caller's.
-    Console(std::FILE* output, std::FILE* messages, Style style)
-        : output_(output), messages_(messages), style_(style) {}
+    ///
+    /// @param showsProgress whether messages go to a terminal on which a line can be replaced
+    Console(std::FILE* output, std::FILE* messages, Style style, bool showsProgress = false)
+        : output_(output), messages_(messages), style_(style), showsProgress_(showsProgress) {}
 
     /// How results look.
     const Style& style() const { return style_; }
@@ -41,10 +43,21 @@ public:
     /// As complain(), but without writing the results so far.
     void complainOnly(std::string_view message);
 
+    /// Shows how far the work is in a line that anything else replaces; nothing where that cannot
+    /// be done.
+    ///
+    /// @param line safe to print
+    void showProgress(std::string_view line);
+
+    /// Takes that line away.
+    void clearProgress();
+
 private:
     std::FILE* output_;
     std::FILE* messages_;
     Style style_;
+    bool showsProgress_;
+    bool progressShown_ = false;
 };
 
 #endif

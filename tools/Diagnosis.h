@@ -18,7 +18,4 @@ struct ReadFailure {
 /// @throws std::bad_alloc
 ReadFailure diagnose(const std::string& path);
 
-/// In words, an error number of opening or reading a file.
-std::string describeFileError(int error);
-
 #endif

@@ -6,10 +6,13 @@
 
 #include "tools/Finding.h"
 
-/// What is wrong with a package file, in the order of the file. An error is among it if and only if
-/// the library fails to read the file.
+/// Finds what is wrong with a package file and hands it to @p sink in the order of the file. An
+/// error is among it if and only if the library fails to read the file.
 ///
 /// @throws std::bad_alloc
+void checkPackage(const std::string& path, FindingSink& sink);
+
+/// As above, but all at once.
 std::vector<Finding> checkPackage(const std::string& path);
 
 #endif

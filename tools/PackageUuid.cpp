@@ -28,10 +28,9 @@ namespace {
 /// The part of a path where the UUID stands; empty when the path is too short.
 std::string uuidText(const std::string& path) {
     constexpr std::size_t uuidLength = 36;
-    constexpr std::size_t extensionLength = 4;
-    if (path.size() < uuidLength + extensionLength)
+    if (path.size() < shortestPackagePath)
         return {};
-    return path.substr(path.size() - uuidLength - extensionLength, uuidLength);
+    return path.substr(path.size() - shortestPackagePath, uuidLength);
 }
 
 } // namespace

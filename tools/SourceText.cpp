@@ -1,9 +1,11 @@
 #include "tools/SourceText.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 #include <utility>
 
+#include "tools/Escape.h"
 #include "tools/Utf8.h"
 
 namespace {
@@ -13,7 +15,12 @@ constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 /// The encoding that pugixml takes the content of a file for. It does not say so before it has
 /// loaded it.
 pugi::xml_encoding encodingOf(const std::string& bytes) {
-    return pugi::xml_document().load_buffer(bytes.data(), bytes.size()).encoding;
+    // The first bytes and the declaration say it, so a large file need not be loaded twice.
+    constexpr std::size_t firstBytes = 64;
+    std::size_t size = firstBytes;
+    if (bytes.compare(0, 5, "<?xml") == 0)
+        size = std::max(size, bytes.find("?>", 5)) + 2;
+    return pugi::xml_document().load_buffer(bytes.data(), std::min(size, bytes.size())).encoding;
 }
 
 /// One number of @p size bytes.
@@ -80,9 +87,56 @@ std::string toUtf8(std::string bytes) {
     }
 }
 
+/// Where the text begins: behind the byte-order mark.
+std::size_t startOf(std::string_view text) {
+    return text.substr(0, byteOrderMark.size()) == byteOrderMark ? byteOrderMark.size() : 0;
+}
+
+/// Goes on by one character.
+void advance(std::string_view text, std::size_t& offset, Position& position) {
+    const char c = text[offset];
+    const bool ascii = static_cast<unsigned char>(c) < 0x80;
+    offset += ascii ? 1 : firstCharacter(text.substr(offset)).length;
+    const bool firstOfTwo = c == '\r' && offset < text.size() && text[offset] == '\n';
+    if (firstOfTwo)
+        return; // The line feed after it ends the line.
+    if (c == '\n' || c == '\r')
+        position = {position.line + 1, 1};
+    else
+        ++position.column;
+}
+
+bool endsLine(char c) {
+    return c == '\n' || c == '\r';
+}
+
+bool continuesCharacter(char c) {
+    return (static_cast<unsigned char>(c) & 0xC0U) == 0x80;
+}
+
+/// A part of a line, safe to print, with every tab as one space.
+std::string shown(std::string_view text) {
+    std::string spaced(text);
+    std::replace(spaced.begin(), spaced.end(), '\t', ' ');
+    return escape(spaced);
+}
+
 } // namespace
 
-SourceText::SourceText(std::string bytes) : utf8_(toUtf8(std::move(bytes))) {}
+SourceText::SourceText(std::string bytes) : utf8_(toUtf8(std::move(bytes))) {
+    constexpr std::size_t distance = 1024;
+    const std::string_view text = utf8_;
+    std::size_t next = 0;
+    Mark mark{startOf(text), {1, 1}};
+    while (mark.offset < text.size()) {
+        // A line feed is not told from the rest of a line end without what is before it.
+        if (mark.offset >= next && text[mark.offset] != '\n') {
+            marks_.push_back(mark);
+            next = mark.offset + distance;
+        }
+        advance(text, mark.offset, mark.position);
+    }
+}
 
 pugi::xml_parse_result SourceText::load(pugi::xml_document& document) const {
     return document.load_buffer(utf8_.data(), utf8_.size(), pugi::parse_default,
@@ -90,29 +144,57 @@ pugi::xml_parse_result SourceText::load(pugi::xml_document& document) const {
 }
 
 Position SourceText::position(std::size_t offset) const {
-    std::string_view before = std::string_view(utf8_).substr(0, offset);
-    if (before.substr(0, byteOrderMark.size()) == byteOrderMark)
-        before.remove_prefix(byteOrderMark.size());
-
-    Position position{1, 1};
-    while (!before.empty()) {
-        const Utf8Character character = firstCharacter(before);
-        before.remove_prefix(character.length);
-        const bool firstOfTwo =
-            character.codePoint == '\r' && !before.empty() && before.front() == '\n';
-        if (firstOfTwo)
-            continue; // The line feed after it ends the line.
-        if (character.codePoint == '\n' || character.codePoint == '\r')
-            position = {position.line + 1, 1};
-        else
-            ++position.column;
-    }
-    return position;
+    const std::string_view before = std::string_view(utf8_).substr(0, offset);
+    const auto after =
+        std::upper_bound(marks_.begin(), marks_.end(), before.size(),
+                         [](std::size_t wanted, const Mark& mark) { return wanted < mark.offset; });
+    Mark mark = after == marks_.begin() ? Mark{startOf(utf8_), {1, 1}} : *std::prev(after);
+    while (mark.offset < before.size())
+        advance(before, mark.offset, mark.position);
+    return mark.position;
 }
 
-Position SourceText::position(pugi::xml_node node) const {
+std::size_t SourceText::offset(pugi::xml_node node) const {
     const auto offset = static_cast<std::size_t>(std::max<std::ptrdiff_t>(node.offset_debug(), 0));
     if (node.type() == pugi::node_element)
-        return position(offset - 1); // pugixml points at the name
-    return position(utf8_.find_first_not_of(" \t\r\n", offset));
+        return offset - 1; // pugixml points at the name
+    return std::min(utf8_.find_first_not_of(" \t\r\n", offset), utf8_.size());
+}
+
+Excerpt SourceText::excerpt(std::size_t offset) const {
+    constexpr std::size_t width = 100; // bytes shown at most
+    constexpr std::size_t before = 60; // of them before the place
+    constexpr std::string_view more = "...";
+    const std::string_view text = utf8_;
+    offset = std::min(offset, text.size());
+    std::size_t begin = offset;
+    while (begin > startOf(text) && offset - begin < before && !endsLine(text[begin - 1]))
+        --begin;
+    std::size_t end = offset;
+    while (end < text.size() && end - begin < width && !endsLine(text[end]))
+        ++end;
+    while (begin < offset && continuesCharacter(text[begin]))
+        ++begin;
+    while (end > offset && end < text.size() && continuesCharacter(text[end]))
+        --end;
+
+    const bool cutBefore = begin > startOf(text) && !endsLine(text[begin - 1]);
+    const bool cutAfter = end < text.size() && !endsLine(text[end]);
+    Excerpt excerpt;
+    excerpt.line = (cutBefore ? more : "");
+    excerpt.line += shown(text.substr(begin, offset - begin));
+    for (std::string_view rest = excerpt.line; !rest.empty(); ++excerpt.caret)
+        rest.remove_prefix(firstCharacter(rest).length);
+    excerpt.line += shown(text.substr(offset, end - offset));
+    excerpt.line += (cutAfter ? more : "");
+    return excerpt;
+}
+
+std::size_t nameOffset(pugi::xml_node element, pugi::xml_attribute attribute) {
+    // Names and values stay where they are in the text.
+    return static_cast<std::size_t>(element.offset_debug() + (attribute.name() - element.name()));
+}
+
+std::size_t valueOffset(pugi::xml_node element, pugi::xml_attribute attribute) {
+    return static_cast<std::size_t>(element.offset_debug() + (attribute.value() - element.name()));
 }

@@ -27,6 +27,10 @@ std::string Style::identifier(std::string_view text) const {
     return dressed("2", text); // dim
 }
 
+std::string Style::error(std::string_view text) const {
+    return dressed("1;31", text); // bold red
+}
+
 std::string Style::remark(std::string_view text) const {
     return dressed("33", text); // yellow
 }

@@ -20,6 +20,7 @@ public:
     std::string name(std::string_view text) const;       ///< What something is called.
     std::string label(std::string_view text) const;      ///< What a value means: "area".
     std::string identifier(std::string_view text) const; ///< A UUID.
+    std::string error(std::string_view text) const;      ///< What makes a package unreadable.
     std::string remark(std::string_view text) const;     ///< What the reader should not miss.
 
 private:

@@ -25,6 +25,7 @@ const std::string exitCodes =
 const std::string help = "Examples:\n"
                          "  qenxml show 00112233-4455-6677-8899-aabbccddeeff.xml\n"
                          "  qenxml show --merge season/*.xml\n"
+                         "  qenxml check outgoing/\n"
                          "  qenxml show --help\n"
                          "\n"
                          "Reads prescription packages for farm machinery.\n"
@@ -37,6 +38,7 @@ const std::string help = "Examples:\n"
                          "\n"
                          "Commands:\n"
                          "  show          Print what packages hold\n"
+                         "  check         Find what is wrong with packages\n"
                          "\n" +
                          exitCodes;
 

@@ -11,6 +11,7 @@
 
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/Uuids.h"
+#include "tools/FileContent.h"
 #include "tools/PackageReading.h"
 
 namespace {
@@ -90,44 +91,49 @@ TEST_F(Diagnosis, SaysOfOtherFailuresWhatTheSystemSays) {
 }
 
 TEST_F(Diagnosis, FindsThatAFileNameHasNoUuid) {
-    const std::string reason = "file name without a package UUID: a name such as "
-                               "00112233-4455-6677-8899-aabbccddeeff.xml is expected";
+    const std::string expected =
+        "; a name such as 00112233-4455-6677-8899-aabbccddeeff.xml is expected";
     EXPECT_EQ(diagnosisOf(folder_.write("00112233-44556677-8899-aabbccddeeff_.xml", "<a>")),
-              reason);
+              "the file name holds no package UUID" + expected);
     const std::string shortPath = "/proc/version"; // there on every machine
-    EXPECT_EQ(diagnosisOf(shortPath), reason);
+    EXPECT_EQ(diagnosisOf(shortPath), "the path has 13 of at least 40 characters" + expected);
 }
 
 TEST_F(Diagnosis, FindsWhereAFileIsNotWellFormed) {
     EXPECT_EQ(of(""), "1:1 not well-formed: the file is empty");
     EXPECT_EQ(of("\n"), "2:1 not well-formed: No document element found");
     EXPECT_EQ(of("<RecPackage>\n  <Grower></Farm>\n</RecPackage>"),
-              "2:13 not well-formed: Start-end tags mismatch");
+              "2:13 not well-formed: Start-end tags mismatch; Grower of line 2 has not ended here");
     EXPECT_EQ(of("<RecPackage>\n<Grower GrowerID=1/>"),
               "2:18 not well-formed: Error parsing element attribute");
 }
 
 TEST_F(Diagnosis, FindsThatTheRootIsAnother) {
     EXPECT_EQ(of("<?xml version='1.0'?>\n<!-- x -->\n <Package/>"),
-              "3:2 no \"RecPackage\": the root element is \"Package\"");
-    EXPECT_EQ(of("<p:RecPackage/>"), "1:1 no \"RecPackage\": the root element is \"p:RecPackage\"");
+              "3:2 the root element is \"Package\" instead of RecPackage");
+    EXPECT_EQ(of("<p:RecPackage/>"),
+              "1:1 the root element is \"p:RecPackage\" instead of RecPackage");
     EXPECT_EQ(of("<recpackage\u2028/>"),
-              "1:1 no \"RecPackage\": the root element is \"recpackage\\u{2028}\"");
+              "1:1 the root element is \"recpackage\\u{2028}\" instead of RecPackage");
 }
 
 TEST_F(Diagnosis, FindsIdentifiersOfGrowers) {
     EXPECT_EQ(of("<RecPackage>\n <Grower GrowerID='" + uuidText + "'/>\n <Grower/></RecPackage>"),
-              "3:2 invalid uuid string: /RecPackage/Grower[2] has no GrowerID");
+              "3:2 invalid uuid string: /RecPackage/Grower[2]: Grower has no attribute GrowerID");
     EXPECT_EQ(of("<RecPackage><Grower GrowerID=''/></RecPackage>"),
-              "1:13 invalid uuid string: /RecPackage/Grower[1] has an empty GrowerID");
-    EXPECT_EQ(of("<RecPackage><Grower GrowerID='0011\\'/></RecPackage>"),
-              "1:13 invalid uuid string: /RecPackage/Grower[1] has the GrowerID \"0011\\\\\"");
+              "1:31 invalid uuid string: /RecPackage/Grower[1]/@GrowerID: GrowerID is empty");
+    EXPECT_EQ(
+        of("<RecPackage><Grower GrowerID='0011\\'/></RecPackage>"),
+        "1:36 invalid uuid string: /RecPackage/Grower[1]/@GrowerID: GrowerID \"0011\\\\\" is too "
+        "short: it ends after 5 of 32 digits");
 }
 
 TEST_F(Diagnosis, FindsIdentifiersOfFarms) {
-    EXPECT_EQ(of("<RecPackage><Grower GrowerID='" + uuidText + "'><Farm FarmID='" + uuidText +
-                 "'/>\n<Farm FarmID='" + uuidText + "'/><Farm FarmID='x'/></Grower></RecPackage>"),
-              "2:54 invalid uuid string: /RecPackage/Grower[1]/Farm[3] has the FarmID \"x\"");
+    EXPECT_EQ(
+        of("<RecPackage><Grower GrowerID='" + uuidText + "'><Farm FarmID='" + uuidText +
+           "'/>\n<Farm FarmID='" + uuidText + "'/><Farm FarmID='x'/></Grower></RecPackage>"),
+        "2:69 invalid uuid string: /RecPackage/Grower[1]/Farm[3]/@FarmID: FarmID \"x\" is too "
+        "short: it ends after 1 of 32 digits");
 }
 
 TEST_F(Diagnosis, FindsIdentifiersOfFields) {
@@ -136,25 +142,31 @@ TEST_F(Diagnosis, FindsIdentifiersOfFields) {
                   "'>\n" + field + "</Farm></Grower></RecPackage>");
     };
     const std::string path = "invalid uuid string: /RecPackage/Grower[1]/Farm[1]/Field[1]";
-    EXPECT_EQ(ofField("<Field/>"), "2:1 " + path + " has no FieldID");
+    EXPECT_EQ(ofField("<Field/>"), "2:1 " + path + ": Field has no attribute FieldID");
     const std::string start = "<Field FieldID='" + uuidText + "'>\n";
-    EXPECT_EQ(ofField(start + "</Field>"), "2:1 " + path + " has no FieldGeometryID");
-    EXPECT_EQ(ofField(start + " <FieldGeometryID/></Field>"),
-              "3:2 " + path + " has an empty FieldGeometryID");
-    EXPECT_EQ(ofField(start + "<FieldGeometryID>" + uuidText +
-                      "</FieldGeometryID>\n<FieldGeometry>17</FieldGeometry></Field>"),
-              "4:1 " + path + " has the FieldGeometry \"17\"");
+    EXPECT_EQ(ofField(start + "</Field>"),
+              "2:1 " + path + ": Field has no element FieldGeometryID");
+    EXPECT_EQ(ofField(start + " <FieldGeometryID/><FieldGeometry>" + uuidText +
+                      "</FieldGeometry></Field>"),
+              "3:2 " + path + "/FieldGeometryID: FieldGeometryID is empty");
+    EXPECT_EQ(
+        ofField(start + "<FieldGeometryID>" + uuidText +
+                "</FieldGeometryID>\n<FieldGeometry>17</FieldGeometry></Field>"),
+        "4:18 " + path +
+            "/FieldGeometry: FieldGeometry \"17\" is too short: it ends after 2 of 32 digits");
 }
 
 TEST_F(Diagnosis, FindsIdentifiersOfRecs) {
-    EXPECT_EQ(ofRec("", ""), "2:1 " + recPath + " has no RecID");
-    EXPECT_EQ(ofRec(recId, ""), "2:1 " + recPath + " has no RecGeometry");
-    EXPECT_EQ(ofRec(recId + " MgmtZoneID='abc'", ""),
-              "2:1 " + recPath + " has the MgmtZoneID \"abc\"");
+    EXPECT_EQ(ofRec("", ""), "2:1 " + recPath + ": Rec has no attribute RecID");
+    EXPECT_EQ(ofRec(recId, ""), "2:1 " + recPath + ": Rec has no element RecGeometry");
+    EXPECT_EQ(ofRec(recId + " MgmtZoneID='abc'", recGeometry),
+              "2:66 " + recPath +
+                  "/@MgmtZoneID: MgmtZoneID \"abc\" is too short: it ends after 3 of 32 digits");
     EXPECT_EQ(ofRec(recId + " MgmtZoneID=''", "\n<RecGeometry>x</RecGeometry>"),
-              "3:1 " + recPath + " has the RecGeometry \"x\"");
+              "3:15 " + recPath +
+                  "/RecGeometry: RecGeometry \"x\" is too short: it ends after 1 of 32 digits");
     EXPECT_EQ(ofRec(recId, recGeometry + "\n<Operation/>"),
-              "3:1 " + recPath + "/Operation has no OpID");
+              "3:1 " + recPath + "/Operation: Operation has no attribute OpID");
 }
 
 TEST_F(Diagnosis, FindsTheIdentifierOfABlend) {
@@ -165,32 +177,33 @@ TEST_F(Diagnosis, FindsTheIdentifierOfABlend) {
         blend += "<Pct_" + nutrient + "/>";
     blend += "</CustomFertilizer></RecData>";
     EXPECT_EQ(ofRec(recId, recGeometry + blend),
-              "3:1 " + recPath + "/RecData/CustomFertilizer has an empty ProductID");
+              "3:1 " + recPath + "/RecData/CustomFertilizer/ProductID: ProductID is empty");
 }
 
 TEST_F(Diagnosis, ReportsTheIdentifierThatStopsTheLibraryFirst) {
     // The farm has no identifier either, but the library never comes to it.
     EXPECT_EQ(of("<RecPackage><Grower>\n<Farm/></Grower></RecPackage>"),
-              "1:13 invalid uuid string: /RecPackage/Grower[1] has no GrowerID");
+              "1:13 invalid uuid string: /RecPackage/Grower[1]: Grower has no attribute GrowerID");
 }
 
 TEST_F(Diagnosis, ExplainsThatAForeignNodeAfterAListIsReadAsAnItem) {
-    EXPECT_EQ(of("<RecPackage><Grower GrowerID='" + uuidText + "'><Farm FarmID='" + uuidText +
-                 "'/>\n<GrowerName>Hansen</GrowerName></Grower></RecPackage>"),
-              "2:1 invalid uuid string: /RecPackage/Grower[1]/GrowerName[1] has no FarmID (what "
-              "follows the first Farm is read as a Farm too)");
+    EXPECT_EQ(
+        of("<RecPackage><Grower GrowerID='" + uuidText + "'><Farm FarmID='" + uuidText +
+           "'/>\n<GrowerName>Hansen</GrowerName></Grower></RecPackage>"),
+        "2:1 invalid uuid string: /RecPackage/Grower[1]/GrowerName[1]: \"GrowerName\" follows "
+        "the first Farm and is read as one too, but has no readable FarmID");
     EXPECT_EQ(of("<RecPackage><Grower GrowerID='" + uuidText + "'/>\n stray</RecPackage>"),
-              "2:2 invalid uuid string: /RecPackage/text()[1] has no GrowerID (what follows the "
-              "first Grower is read as a Grower too)");
+              "2:2 invalid uuid string: /RecPackage/text()[1]: the text \"\\n stray\" follows the "
+              "first Grower and is read as one too, but has no readable GrowerID");
 }
 
 TEST_F(Diagnosis, CutsLongTexts) {
     EXPECT_EQ(of("<" + std::string(100000, 'a') + "/>"),
-              "1:1 no \"RecPackage\": the root element is \"" + std::string(60, 'a') + "...\"");
+              "1:1 the root element is \"" + std::string(60, 'a') + "...\" instead of RecPackage");
     const std::string text(100, '-');
     EXPECT_EQ(of("<RecPackage><Grower GrowerID='{" + text + "'/></RecPackage>"),
-              "1:13 invalid uuid string: /RecPackage/Grower[1] has the GrowerID \"{" +
-                  std::string(59, '-') + "...\"");
+              "1:68 invalid uuid string: /RecPackage/Grower[1]/@GrowerID: GrowerID \"{" +
+                  std::string(59, '-') + "...\" lacks the closing brace after its last digit");
 }
 
 TEST_F(Diagnosis, AdmitsThatItFindsNothingWrong) {
@@ -207,7 +220,7 @@ TEST(PackageReading, KeepsTheGrowersBeforeAFailure) {
     EXPECT_EQ(reading.growers[0].id(), test::uuid(uuidText));
     ASSERT_TRUE(reading.failure);
     EXPECT_EQ(reading.failure->reason,
-              "invalid uuid string: /RecPackage/Grower[2] has no GrowerID");
+              "invalid uuid string: /RecPackage/Grower[2]: Grower has no attribute GrowerID");
 }
 
 TEST(PackageReading, FailsInNothingForAGoodPackage) {

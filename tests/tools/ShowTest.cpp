@@ -222,24 +222,28 @@ TEST_F(Show, ReportsEveryKindOfFailureAndGoesOn) {
         show({"missing.xml", nameB, nameC, "short.xml", "00000000-00000000-0000-000000000000_.xml",
               nameA, "folder", nameD});
     EXPECT_EQ(result.output, shownA);
-    const std::string noUuid = ": file name without a package UUID: a name such as "
-                               "00112233-4455-6677-8899-aabbccddeeff.xml is expected; "
-                               "the file is skipped\n";
-    EXPECT_EQ(result.errors,
-              "qenxml: missing.xml: not found; the file is skipped\n"
-              "qenxml: " +
-                  nameB +
-                  ":2:14: not well-formed: Start-end tags mismatch; the file is skipped\n"
-                  "qenxml: " +
-                  nameC +
-                  ":1:1: no \"RecPackage\": the root element is \"Package\"; the file is skipped\n"
-                  "qenxml: short.xml" +
-                  noUuid + "qenxml: 00000000-00000000-0000-000000000000_.xml" + noUuid +
-                  "qenxml: folder: is a directory; the file is skipped\n"
-                  "qenxml: " +
-                  nameD +
-                  ":1:13: invalid uuid string: /RecPackage/Grower[1] has no GrowerID; "
-                  "the file is skipped\n");
+    const std::string expected = "; a name such as 00112233-4455-6677-8899-aabbccddeeff.xml is "
+                                 "expected; the file is skipped\n";
+    EXPECT_EQ(
+        result.errors,
+        "qenxml: missing.xml: not found; the file is skipped\n"
+        "qenxml: " +
+            nameB +
+            ":2:14: not well-formed: Start-end tags mismatch; Grower of line 2 has not ended here; "
+            "the file is skipped\n"
+            "qenxml: " +
+            nameC +
+            ":1:1: the root element is \"Package\" instead of RecPackage; the file is skipped\n"
+            "qenxml: short.xml: the path has 9 of at least 40 characters" +
+            expected +
+            "qenxml: 00000000-00000000-0000-000000000000_.xml: the file name holds no "
+            "package UUID" +
+            expected +
+            "qenxml: folder: is a directory; the file is skipped\n"
+            "qenxml: " +
+            nameD +
+            ":1:13: invalid uuid string: /RecPackage/Grower[1]: Grower has no attribute GrowerID; "
+            "the file is skipped\n");
     EXPECT_EQ(result.exitCode, 1);
 }
 
@@ -249,10 +253,11 @@ TEST_F(Show, ShowsTheGrowersThatWereReadBeforeAFailure) {
     EXPECT_EQ(result.output, "Package cccccccc-0000-4000-8000-000000000003  " + nameC +
                                  "  (incomplete)\n"
                                  "  Grower  10000000-0000-4000-8000-000000000003\n");
-    EXPECT_EQ(result.errors,
-              "qenxml: " + nameC +
-                  ":3:3: invalid uuid string: /RecPackage/Grower[2] has no GrowerID; "
-                  "the grower before it is shown\n");
+    EXPECT_EQ(
+        result.errors,
+        "qenxml: " + nameC +
+            ":3:3: invalid uuid string: /RecPackage/Grower[2]: Grower has no attribute GrowerID; "
+            "the grower before it is shown\n");
     EXPECT_EQ(result.exitCode, 1);
 }
 
@@ -265,12 +270,13 @@ TEST_F(Show, MergesTheGrowersThatWereReadBeforeAFailure) {
                                  "  (incomplete)\n" + headingA +
                                  "\n"
                                  "Grower  10000000-0000-4000-8000-000000000003\n");
-    EXPECT_EQ(result.errors,
-              "qenxml: " + nameC +
-                  ":3:3: invalid uuid string: /RecPackage/Grower[2] has no GrowerID; "
-                  "the grower before it is shown\n"
-                  "qenxml: " +
-                  nameB + ": not found; the file is skipped\n");
+    EXPECT_EQ(
+        result.errors,
+        "qenxml: " + nameC +
+            ":3:3: invalid uuid string: /RecPackage/Grower[2]: Grower has no attribute GrowerID; "
+            "the grower before it is shown\n"
+            "qenxml: " +
+            nameB + ": not found; the file is skipped\n");
     EXPECT_EQ(result.exitCode, 1);
 }
 

@@ -1,0 +1,193 @@
+#include "tools/Check.h"
+
+#include <array>
+#include <chrono>
+#include <cstddef>
+#include <memory>
+#include <new>
+#include <string>
+#include <vector>
+
+#include <fmt/format.h>
+
+#include "tools/Escape.h"
+#include "tools/FindingJson.h"
+#include "tools/FindingSummary.h"
+#include "tools/PackageCheck.h"
+#include "tools/PackageFiles.h"
+#include "tools/ProgressLine.h"
+
+namespace {
+
+constexpr const char* examples =
+    "  qenxml check 00112233-4455-6677-8899-aabbccddeeff.xml\n"
+    "  qenxml check --strict outgoing/            all packages in a folder; warnings fail, too\n"
+    "  qenxml check --ignore empty-name *.xml     leave a kind of findings out\n"
+    "  qenxml check --json *.xml                  for other programs\n";
+
+struct CheckOptions {
+    bool json = false;
+    bool strict = false;
+    std::vector<std::string> ignored;
+    std::vector<std::string> files;
+};
+
+std::vector<std::string> allCodes() {
+    std::vector<std::string> codes;
+    for (const FindingKind& kind : findingKinds)
+        codes.emplace_back(kind.code);
+    return codes;
+}
+
+/// Which findings are wanted, by code.
+using Wanted = std::array<bool, findingKinds.size()>;
+
+Wanted wantedCodes(const CheckOptions& options) {
+    Wanted wanted{};
+    wanted.fill(true);
+    for (std::size_t i = 0; i < wanted.size(); ++i) {
+        for (const std::string& code : options.ignored)
+            wanted[i] = wanted[i] && code != findingKinds[i].code;
+    }
+    return wanted;
+}
+
+/// Collects the findings of one file for people.
+class SummarySink : public FindingSink {
+public:
+    SummarySink(const Wanted& wanted, ProgressLine& progress)
+        : wanted_(wanted), progress_(progress) {}
+
+    const FindingSummary& summary() const { return summary_; }
+
+    bool wants(FindingCode code) override {
+        if (!wanted_[static_cast<std::size_t>(code)])
+            return false;
+        summary_.count(code);
+        return summary_.hasRoom(code);
+    }
+    void add(const Finding& finding) override { summary_.keep(finding); }
+    void progress(double part) override { progress_.reach(part); }
+
+private:
+    const Wanted& wanted_;
+    ProgressLine& progress_;
+    FindingSummary summary_;
+};
+
+/// Writes the findings of one file as JSON, as they come.
+class JsonSink : public FindingSink {
+public:
+    JsonSink(const Wanted& wanted, ProgressLine& progress, Console& console)
+        : wanted_(wanted), progress_(progress), console_(console) {}
+
+    const FindingCounts& counts() const { return counts_; }
+
+    bool wants(FindingCode code) override { return wanted_[static_cast<std::size_t>(code)]; }
+    void add(const Finding& finding) override {
+        console_.print(fmt::format("{}\n    {}", first_ ? "" : ",", toJson(finding)));
+        first_ = false;
+        counts_.add(finding.severity);
+    }
+    void progress(double part) override { progress_.reach(part); }
+
+private:
+    const Wanted& wanted_;
+    ProgressLine& progress_;
+    Console& console_;
+    bool first_ = true;
+    FindingCounts counts_;
+};
+
+/// Checks a file; a lack of memory is one more finding about it.
+void checkInto(const std::string& path, FindingSink& sink) {
+    try {
+        checkPackage(path, sink);
+    } catch (const std::bad_alloc&) {
+        if (!sink.wants(FindingCode::Unreadable))
+            return;
+        Finding finding;
+        finding.code = kindOf(FindingCode::Unreadable).code;
+        finding.found = "there is not enough memory to check the file";
+        finding.consequence = "the check ends here";
+        sink.add(finding);
+    }
+}
+
+FindingCounts writeText(const std::vector<std::string>& files, const Wanted& wanted,
+                        ProgressLine& progress, Console& console) {
+    FindingCounts sum;
+    for (const std::string& path : files) {
+        progress.beginFile(path);
+        SummarySink sink(wanted, progress);
+        checkInto(path, sink);
+        const FindingCounts& counts = sink.summary().counts();
+        console.print(sink.summary().text(escape(path), console.style()));
+        console.print(fmt::format("{}: {}\n", escape(path), describe(counts)));
+        sum += counts;
+        if (counts.errors + counts.warnings + counts.notes > 0 && &path != &files.back())
+            console.print("\n");
+    }
+    if (files.size() > 1)
+        console.print(fmt::format("{} files: {}\n", files.size(), describe(sum)));
+    return sum;
+}
+
+std::string countsJson(const FindingCounts& counts) {
+    return fmt::format(R"("errors": {}, "warnings": {}, "notes": {})", counts.errors,
+                       counts.warnings, counts.notes);
+}
+
+FindingCounts writeJson(const std::vector<std::string>& files, const Wanted& wanted,
+                        ProgressLine& progress, Console& console) {
+    FindingCounts sum;
+    console.print("{\"files\": [");
+    for (const std::string& path : files) {
+        progress.beginFile(path);
+        console.print(fmt::format("{}\n  {{\"file\": {}, \"findings\": [",
+                                  &path == &files.front() ? "" : ",", toJson(escape(path))));
+        JsonSink sink(wanted, progress, console);
+        checkInto(path, sink);
+        console.print(fmt::format("],\n   {}}}", countsJson(sink.counts())));
+        sum += sink.counts();
+    }
+    console.print(fmt::format("],\n {}}}\n", countsJson(sum)));
+    return sum;
+}
+
+ExitCode check(const CheckOptions& options, Console& console) {
+    constexpr std::chrono::seconds untilProgress(2);
+    const PackageFiles files = packageFiles(options.files);
+    for (const std::string& complaint : files.complaints)
+        console.complain(complaint);
+    const Wanted wanted = wantedCodes(options);
+    ProgressLine progress(console, files.paths.size(), untilProgress);
+    const FindingCounts counts =
+        (options.json ? writeJson : writeText)(files.paths, wanted, progress, console);
+    console.clearProgress();
+    const bool failed = counts.errors > 0 || (options.strict && counts.warnings > 0);
+    return failed || !files.complaints.empty() ? ExitCode::Failure : ExitCode::Success;
+}
+
+} // namespace
+
+Command addCheck(CLI::App& application) {
+    CLI::App* parser =
+        application.add_subcommand("check", "Find what is wrong with packages")->group("Commands");
+    const auto options = std::make_shared<CheckOptions>();
+    parser->formatter(std::make_shared<HelpFormatter>(examples));
+    parser->footer(checkExitCodeHelp);
+    parser->add_flag("--json", options->json, "Write all findings as one JSON document");
+    parser->add_flag("--strict", options->strict, "Fail on warnings, too");
+    parser
+        ->add_option("--ignore", options->ignored,
+                     "Leave out the findings of a code, such as \"empty-name\"; may be repeated")
+        ->option_text("CODE")
+        ->allow_extra_args(false)
+        ->check(CLI::IsMember(allCodes()).description(""));
+    parser
+        ->add_option("FILE", options->files, "Package files, named UUID.xml, and folders with such")
+        ->required()
+        ->option_text(" ");
+    return {parser, [options](Console& console) { return check(*options, console); }};
+}

@@ -1,0 +1,18 @@
+#ifndef QENXML_TOOLS_FILECONTENT_H
+#define QENXML_TOOLS_FILECONTENT_H
+
+#include <string>
+
+/// The content of a file, or why it cannot be had.
+struct FileContent {
+    std::string bytes;
+    std::string failure; ///< In words; empty when there is none.
+};
+
+/// Reads a regular file. Waits for nothing and nobody.
+FileContent readFileContent(const std::string& path);
+
+/// In words, an error number of opening or reading a file.
+std::string describeFileError(int error);
+
+#endif
