@@ -42,6 +42,12 @@ std::string quoted(std::string_view text) {
 
 } // namespace
 
+std::string_view trimmed(std::string_view text) {
+    constexpr std::string_view whiteSpace = " \t\r\n";
+    const std::size_t begin = std::min(text.find_first_not_of(whiteSpace), text.size());
+    return text.substr(begin, text.find_last_not_of(whiteSpace) + 1 - begin);
+}
+
 bool isText(pugi::xml_node node) {
     return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata;
 }
@@ -168,7 +174,7 @@ void ElementCheck::repeatedElement(pugi::xml_node node, std::size_t number) {
 void ElementCheck::strayText(const ElementFormat& format, pugi::xml_node text) {
     report_.add(FindingCode::StrayText, report_.source().offset(text), "text()", [&] {
         return Texts{fmt::format("the text {} stands in {}, which holds elements only",
-                                 quoted(text.value()), format.name),
+                                 quoted(trimmed(text.value())), format.name),
                      "the text is ignored"};
     });
 }
@@ -198,9 +204,9 @@ void ElementCheck::text(pugi::xml_node node) {
     if (!rest)
         return;
     report_.add(FindingCode::TextCutOff, report_.source().offset(rest), "", [&] {
-        const std::string what = isText(rest)
-                                     ? fmt::format("its text goes on with {}", quoted(rest.value()))
-                                     : fmt::format("it holds the element {}", quoted(rest.name()));
+        const std::string what =
+            isText(rest) ? fmt::format("its text goes on with {}", quoted(trimmed(rest.value())))
+                         : fmt::format("it holds the element {}", quoted(rest.name()));
         return Texts{fmt::format("{} is more than one piece of text: {}", node.name(), what),
                      fmt::format("it is read as {}", quoted(node.text().as_string()))};
     });

@@ -38,12 +38,12 @@ public:
                   OnItem onItem) {
         const pugi::xml_node firstItem =
             format.item == nullptr ? pugi::xml_node() : node.child(format.item->name);
-        Numbering numbering;
+        Numbering numbering(format);
         bool inList = false;
         for (const pugi::xml_node child : node.children()) {
             inList = inList || child == firstItem;
-            const std::size_t number = numbering.next(child);
-            const DatumFormat* const datum = inList ? nullptr : find(format.children, child.name());
+            const DatumFormat* const datum = find(format.children, child.name());
+            const std::size_t number = numbering.next(child, datum);
             if (inList)
                 onItem(child, number);
             else if (child.type() != pugi::node_element)
@@ -69,23 +69,26 @@ public:
     static std::string step(const char* name, std::size_t number);
 
 private:
-    /// Numbers nodes among those of the same name.
+    /// Numbers the children of an element among those of the same name.
     class Numbering {
     public:
-        std::size_t next(pugi::xml_node node) {
-            // Mostly the same name comes again.
-            const std::string_view name = node.name();
-            if (last_ == nullptr || name != lastName_) {
-                lastName_ = name;
-                last_ = &counts_[name];
-            }
-            return ++*last_;
+        explicit Numbering(const ElementFormat& format)
+            : format_(format), data_(format.children.size()) {}
+
+        /// @param datum what the node is, null when it is no child that is there once
+        std::size_t next(pugi::xml_node node, const DatumFormat* datum) {
+            if (datum != nullptr)
+                return ++data_[static_cast<std::size_t>(datum - format_.children.data())];
+            const bool item =
+                format_.item != nullptr && std::string_view(format_.item->name) == node.name();
+            return item ? ++items_ : ++others_[node.name()];
         }
 
     private:
-        std::unordered_map<std::string_view, std::size_t> counts_;
-        std::string_view lastName_;
-        std::size_t* last_ = nullptr;
+        const ElementFormat& format_;
+        std::vector<std::size_t> data_;
+        std::size_t items_ = 0;
+        std::unordered_map<std::string_view, std::size_t> others_;
     };
 
     static const DatumFormat* find(const std::vector<DatumFormat>& formats, const char* name);
@@ -103,6 +106,9 @@ private:
     CheckReport& report_;
     std::string condition_;
 };
+
+/// A text without the white space around it.
+std::string_view trimmed(std::string_view text);
 
 /// Whether a node holds text of its own: text or a CDATA section.
 bool isText(pugi::xml_node node);

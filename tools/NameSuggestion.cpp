@@ -42,6 +42,16 @@ bool isSuffix(std::string_view text, std::string_view name) {
            editDistance(text, name.substr(name.size() - text.size())) == 0;
 }
 
+/// Whether two names begin alike, for most of the length of the one that is right.
+bool beginAlike(std::string_view text, std::string_view name) {
+    constexpr std::size_t shortest = 5;
+    std::size_t same = 0;
+    while (same < text.size() && same < name.size() &&
+           lowerCase(text[same]) == lowerCase(name[same]))
+        ++same;
+    return same >= shortest && same * 4 >= name.size() * 3;
+}
+
 } // namespace
 
 std::string_view nearestName(std::string_view misspelt, const std::vector<const char*>& names) {
@@ -65,6 +75,10 @@ std::string_view nearestName(std::string_view misspelt, const std::vector<const 
         return nearest;
     for (const std::string_view name : names) {
         if (isSuffix(misspelt, name) && (nearest.empty() || name.size() < nearest.size()))
+            nearest = name;
+    }
+    for (const std::string_view name : names) {
+        if (nearest.empty() && beginAlike(misspelt, name))
             nearest = name;
     }
     return nearest;

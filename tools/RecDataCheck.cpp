@@ -95,7 +95,7 @@ void checkFirst(ElementCheck& check, pugi::xml_node first) {
     if (isText(first)) {
         report.add(FindingCode::TextBeforeProduct, report.source().offset(first), "text()", [&] {
             return Texts{fmt::format("the text \"{}\" stands where the product has to be",
-                                     escapeExcerpt(first.value())),
+                                     escapeExcerpt(trimmed(first.value()))),
                          withoutProduct};
         });
         return;

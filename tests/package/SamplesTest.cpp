@@ -20,6 +20,7 @@
 #include "model/PlantingRec.h"
 #include "parser/QenXmlParser.h"
 #include "parser/TagNames.h"
+#include "tests/support/BrokenPackages.h"
 #include "tests/support/Describe.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/Uuids.h"
@@ -293,64 +294,6 @@ std::string outcomeOf(QenXmlParser& parser, const std::string& path) {
 
 const std::string invalid = "invalid uuid string";
 const std::vector<std::string> first = {"Emil Åkesson"};
-const std::vector<std::string> all = {"Emil Åkesson", "Ana Horvat", "Noor de Wit"};
-
-struct BrokenPackage {
-    std::string folder;
-    std::string outcome;
-    std::vector<std::string> survivors;
-    std::string wrong; ///< what has to be replaced in the file to mend it
-    std::string right; ///< the replacement
-    std::vector<std::string> mendedGrowers;
-};
-
-void PrintTo(const BrokenPackage& package, std::ostream* out) {
-    *out << package.folder;
-}
-
-const std::vector<BrokenPackage> brokenPackages = {
-    {"not-well-formed",
-     "false",
-     {},
-     "Lage Weide\n",
-     "Lage Weide</FarmName>\n",
-     {"Emil Åkesson", "Noor de Wit"}},
-    {"no-recpackage", "false", {}, "RecommendationPackage>\n", "RecPackage>\n", first},
-    {"no-grower", "true", {}, "grower", "Grower", first},
-    {"path-too-short", "out of range", {}, "", "", first},
-    {"name-without-uuid", invalid, {}, "", "", first},
-    {"grower-id", invalid, first, "<Grower>",
-     "<Grower GrowerID='950d3d06-82d2-4b41-a9fb-2f7370190bac'>", all},
-    {"farm-id", invalid, first, "FarmID=\"\"", "FarmID='0e853b3d-0878-42f1-ba82-d5e02fc65f07'",
-     all},
-    {"field-id", invalid, first, "2078a050a8\"", "2078a050a8c6\"", all},
-    {"field-geometry-id", invalid, first, "dd687ed5-ea314e4f", "dd687ed5-ea31-4e4f", all},
-    {"geometry-file-id", invalid, first, "<FieldGeometry/>",
-     "<FieldGeometry>4009ccc8-66ac-4e83-8d7d-2dd0cd598303</FieldGeometry>", all},
-    {"rec-id", invalid, first, "<Rec ID=", "<Rec RecID=", all},
-    {"rec-geometry-id", invalid, first, "</RecGeometry>", "}</RecGeometry>", all},
-    {"operation-id", invalid, first, "<Operation>",
-     "<Operation OpID='0d44b1cb-4228-4324-9bbb-45b98a789100'>", all},
-    {"management-zone-id", invalid, first, " MgmtZoneID=\"12\"", "", all},
-    {"custom-fertilizer-product-id", invalid, first, "4711", "e07cb579-3e7f-497b-bcc1-c0c8b0cdf20a",
-     all},
-    {"element-after-list", invalid, first, "<Remark>Please call before spreading.</Remark>", "",
-     all},
-};
-
-fs::path onlyPackageIn(const fs::path& folder) {
-    const std::set<std::string> names = entries(folder, false);
-    if (names.size() != 1)
-        throw std::runtime_error("not one package in " + folder.string());
-    return folder / *names.begin();
-}
-
-std::string replaced(std::string text, const std::string& wrong, const std::string& right) {
-    std::size_t at = wrong.empty() ? std::string::npos : text.find(wrong);
-    for (; at != std::string::npos; at = text.find(wrong, at + right.size()))
-        text.replace(at, wrong.size(), right);
-    return text;
-}
 
 std::vector<std::string> namesOf(const std::vector<QenGrower>& growers) {
     std::vector<std::string> names;
@@ -377,7 +320,7 @@ private:
 TEST(BrokenSamples, EveryFolderHasATestAndALineInTheReadme) {
     std::set<std::string> tested;
     const std::string readme = textOf(broken / "README.md");
-    for (const BrokenPackage& package : brokenPackages) {
+    for (const test::BrokenPackage& package : test::brokenPackages()) {
         tested.insert(package.folder);
         EXPECT_NE(readme.find("\n| `" + package.folder + "` |"), std::string::npos)
             << package.folder;
@@ -386,10 +329,10 @@ TEST(BrokenSamples, EveryFolderHasATestAndALineInTheReadme) {
     EXPECT_EQ(entries(broken, false), std::set<std::string>{"README.md"});
 }
 
-class BrokenSample : public testing::TestWithParam<BrokenPackage> {};
+class BrokenSample : public testing::TestWithParam<test::BrokenPackage> {};
 
 TEST_P(BrokenSample, FailsAsDescribedAndLeavesTheGrowersBeforeTheFailure) {
-    const fs::path file = onlyPackageIn(broken / GetParam().folder);
+    const fs::path file = test::brokenSample(GetParam());
     const WorkingFolder folder(file.parent_path()); // for the path that is too short
     QenXmlParser parser;
     EXPECT_EQ(outcomeOf(parser, file.filename().string()), GetParam().outcome);
@@ -397,9 +340,9 @@ TEST_P(BrokenSample, FailsAsDescribedAndLeavesTheGrowersBeforeTheFailure) {
 }
 
 TEST_P(BrokenSample, ReadsCompletelyOnceMended) {
-    const BrokenPackage& package = GetParam();
-    const std::string text = textOf(onlyPackageIn(broken / package.folder));
-    const std::string mended = replaced(text, package.wrong, package.right);
+    const test::BrokenPackage& package = GetParam();
+    const std::string text = textOf(test::brokenSample(package));
+    const std::string mended = test::mended(package, text);
     EXPECT_EQ(mended == text, package.wrong.empty()); // the name was wrong, not the content
     const test::TemporaryFolder folder;
     QenXmlParser parser;
@@ -407,9 +350,11 @@ TEST_P(BrokenSample, ReadsCompletelyOnceMended) {
     EXPECT_EQ(namesOf(parser.getGrowers()), package.mendedGrowers);
 }
 
-INSTANTIATE_TEST_SUITE_P(Samples, BrokenSample, testing::ValuesIn(brokenPackages),
-                         [](const testing::TestParamInfo<BrokenPackage>& tested) {
-                             return replaced(tested.param.folder, "-", "_");
+INSTANTIATE_TEST_SUITE_P(Samples, BrokenSample, testing::ValuesIn(test::brokenPackages()),
+                         [](const testing::TestParamInfo<test::BrokenPackage>& tested) {
+                             std::string name = tested.param.folder;
+                             std::replace(name.begin(), name.end(), '-', '_');
+                             return name;
                          });
 
 TEST(BrokenSamples, AShortNameInALongPathIsReadWithAPackageUuidMadeOfFolderNames) {

@@ -193,7 +193,7 @@ TEST_F(Diagnosis, ExplainsThatAForeignNodeAfterAListIsReadAsAnItem) {
         "2:1 invalid uuid string: /RecPackage/Grower[1]/GrowerName[1]: \"GrowerName\" follows "
         "the first Farm and is read as one too, but has no readable FarmID");
     EXPECT_EQ(of("<RecPackage><Grower GrowerID='" + uuidText + "'/>\n stray</RecPackage>"),
-              "2:2 invalid uuid string: /RecPackage/text()[1]: the text \"\\n stray\" follows the "
+              "2:2 invalid uuid string: /RecPackage/text()[1]: the text \"stray\" follows the "
               "first Grower and is read as one too, but has no readable GrowerID");
 }
 
