@@ -6,6 +6,7 @@
 #include <memory>
 #include <new>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <fmt/format.h>
@@ -13,6 +14,7 @@
 #include "tools/Escape.h"
 #include "tools/FindingJson.h"
 #include "tools/FindingSummary.h"
+#include "tools/NameSuggestion.h"
 #include "tools/PackageCheck.h"
 #include "tools/PackageFiles.h"
 #include "tools/ProgressLine.h"
@@ -32,11 +34,17 @@ struct CheckOptions {
     std::vector<std::string> files;
 };
 
-std::vector<std::string> allCodes() {
-    std::vector<std::string> codes;
-    for (const FindingKind& kind : findingKinds)
-        codes.emplace_back(kind.code);
-    return codes;
+/// What is wrong with an argument that shall be a code; empty when nothing is.
+std::string describeWrongCode(const std::string& argument) {
+    std::vector<const char*> codes;
+    for (const FindingKind& kind : findingKinds) {
+        if (argument == kind.code)
+            return "";
+        codes.push_back(kind.code);
+    }
+    const std::string_view nearest = nearestName(argument, codes);
+    return fmt::format("\"{}\" is no code of a finding{}", argument,
+                       nearest.empty() ? "" : fmt::format("; is {} meant?", nearest));
 }
 
 /// Which findings are wanted, by code.
@@ -184,7 +192,7 @@ Command addCheck(CLI::App& application) {
                      "Leave out the findings of a code, such as \"empty-name\"; may be repeated")
         ->option_text("CODE")
         ->allow_extra_args(false)
-        ->check(CLI::IsMember(allCodes()).description(""));
+        ->check(CLI::Validator(describeWrongCode, ""));
     parser
         ->add_option("FILE", options->files, "Package files, named UUID.xml, and folders with such")
         ->required()

@@ -6,7 +6,7 @@
 #include <fmt/format.h>
 
 #include "tools/Escape.h"
-#include "tools/IdentifierText.h"
+#include "tools/IdentifierReading.h"
 #include "tools/NameSuggestion.h"
 #include "tools/Utf8.h"
 
@@ -214,11 +214,11 @@ void ElementCheck::text(pugi::xml_node node) {
 
 void ElementCheck::identifier(const DatumFormat& datum, std::string_view text, std::size_t offset,
                               std::string_view step) {
-    const IdentifierText identifier = readIdentifier(text);
+    const IdentifierReading identifier = readIdentifier(text);
     const auto at = [&](std::size_t place) {
         return placeIn(report_.source(), offset, text, place);
     };
-    if (identifier.fault != IdentifierText::Fault::None) {
+    if (identifier.fault != IdentifierReading::Fault::None) {
         if (datum.fault && !(datum.mayBeEmpty && text.empty()))
             report_.add(*datum.fault, at(identifier.faultPlace), step, [&] {
                 return Texts{fmt::format("{} {}", datum.name, describeFault(identifier, text)), ""};
@@ -257,8 +257,8 @@ void ElementCheck::identifier(const DatumFormat& datum, std::string_view text, s
 
 void ElementCheck::number(const DatumFormat& datum, const char* text, std::size_t offset,
                           std::string_view step) {
-    using Oddity = NumberText::Oddity;
-    const NumberText number =
+    using Oddity = NumberReading::Oddity;
+    const NumberReading number =
         datum.kind == ValueKind::Integer ? readInteger(text) : readNumber(text);
     const auto add = [&](FindingCode code, const char* what) {
         report_.add(code, placeIn(report_.source(), offset, text, number.place), step, [&] {

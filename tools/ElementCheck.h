@@ -12,7 +12,7 @@
 #include <pugixml.hpp>
 
 #include "tools/CheckReport.h"
-#include "tools/NumberText.h"
+#include "tools/NumberReading.h"
 #include "tools/PackageFormat.h"
 
 /// Checks what is the same for all elements: their names, attributes, texts, identifiers and

@@ -11,7 +11,7 @@
 #include "tools/CheckReport.h"
 #include "tools/ElementCheck.h"
 #include "tools/Escape.h"
-#include "tools/IdentifierText.h"
+#include "tools/IdentifierReading.h"
 #include "tools/NameSuggestion.h"
 #include "tools/PlausibilityCheck.h"
 #include "tools/RecDataCheck.h"
@@ -131,8 +131,8 @@ private:
             report_.beginGrower();
         const CheckReport::Inside inside(report_, node.name(), number);
         const char* const idName = format.attributes.front().name;
-        const IdentifierText id = readIdentifier(node.attribute(idName).as_string());
-        const bool readable = id.fault == IdentifierText::Fault::None;
+        const IdentifierReading id = readIdentifier(node.attribute(idName).as_string());
+        const bool readable = id.fault == IdentifierReading::Fault::None;
         if (std::string_view(node.name()) != format.name) {
             foreignItem(format, node, readable);
             if (!readable)
@@ -270,8 +270,8 @@ private:
 
     void operation(pugi::xml_node node) {
         const pugi::xml_attribute attribute = node.attribute(tag::OpID);
-        const IdentifierText id = readIdentifier(attribute.as_string());
-        if (id.fault != IdentifierText::Fault::None || !id.value.is_nil())
+        const IdentifierReading id = readIdentifier(attribute.as_string());
+        if (id.fault != IdentifierReading::Fault::None || !id.value.is_nil())
             return;
         report_.add(FindingCode::OperationNil, valueOffset(node, attribute), "@OpID", [&] {
             return Texts{"OpID is nil",

@@ -5,7 +5,7 @@
 #include <fmt/format.h>
 
 #include "parser/TagNames.h"
-#include "tools/NumberText.h"
+#include "tools/NumberReading.h"
 #include "tools/PackageFormat.h"
 
 namespace tag = qenxml::tag;
@@ -23,7 +23,7 @@ struct Value {
 
     const char* name;
     pugi::xml_node node;
-    NumberText number;
+    NumberReading number;
 };
 
 void checkOrder(CheckReport& report, const Value& small, const Value& large) {

@@ -7,7 +7,7 @@
 
 #include "parser/TagNames.h"
 #include "tools/Escape.h"
-#include "tools/IdentifierText.h"
+#include "tools/IdentifierReading.h"
 #include "tools/NameSuggestion.h"
 
 namespace tag = qenxml::tag;
@@ -40,8 +40,8 @@ std::string unreadIdentifier(const ElementFormat& format, pugi::xml_node node) {
         const char* const text = node.child(datum.name).text().as_string();
         if (datum.kind != ValueKind::Identifier || !node.child(datum.name))
             continue;
-        const IdentifierText identifier = readIdentifier(text);
-        if (identifier.fault != IdentifierText::Fault::None)
+        const IdentifierReading identifier = readIdentifier(text);
+        if (identifier.fault != IdentifierReading::Fault::None)
             return fmt::format("; once it is complete, reading fails because {} {}", datum.name,
                                describeFault(identifier, text));
     }

@@ -1,4 +1,4 @@
-#include "tools/NumberText.h"
+#include "tools/NumberReading.h"
 
 #include <cmath>
 #include <cstdlib>
@@ -53,20 +53,20 @@ bool isRest(const char* text) {
 /// Finds the oddity of a text of which a number was read.
 /// @param length how much of it the number takes; 0 when there is none
 /// @param inRange whether the number is the one that is written
-void findOddity(NumberText& number, const char* text, std::size_t length, bool inRange) {
+void findOddity(NumberReading& number, const char* text, std::size_t length, bool inRange) {
     if (*text == '\0') {
-        number.oddity = NumberText::Oddity::Empty;
+        number.oddity = NumberReading::Oddity::Empty;
     } else if (length == 0) {
-        number.oddity = NumberText::Oddity::NotANumber;
+        number.oddity = NumberReading::Oddity::NotANumber;
     } else if (isRest(text + length)) {
-        number.oddity = NumberText::Oddity::CutOff;
+        number.oddity = NumberReading::Oddity::CutOff;
         number.place = length;
     } else if (!inRange) {
-        number.oddity = NumberText::Oddity::OutOfRange;
+        number.oddity = NumberReading::Oddity::OutOfRange;
     } else if (!std::isfinite(number.value)) {
-        number.oddity = NumberText::Oddity::NotFinite;
+        number.oddity = NumberReading::Oddity::NotFinite;
     } else if (isHexadecimal(text)) {
-        number.oddity = NumberText::Oddity::Hexadecimal;
+        number.oddity = NumberReading::Oddity::Hexadecimal;
     }
 }
 
@@ -90,8 +90,8 @@ bool isMeant(double value, const char* text, const char* end) {
 
 } // namespace
 
-NumberText readNumber(const char* text) {
-    NumberText number;
+NumberReading readNumber(const char* text) {
+    NumberReading number;
     char* end = nullptr;
     // The command keeps the "C" locale, by which the library reads numbers.
     number.value = std::strtod(text, &end);
@@ -101,8 +101,8 @@ NumberText readNumber(const char* text) {
     return number;
 }
 
-NumberText readInteger(const char* text) {
-    NumberText number;
+NumberReading readInteger(const char* text) {
+    NumberReading number;
     const int value = integerOf(text);
     const std::size_t length = integerLength(text);
     number.value = value;

@@ -1,11 +1,11 @@
-#ifndef QENXML_TOOLS_NUMBERTEXT_H
-#define QENXML_TOOLS_NUMBERTEXT_H
+#ifndef QENXML_TOOLS_NUMBERREADING_H
+#define QENXML_TOOLS_NUMBERREADING_H
 
 #include <cstddef>
 #include <string>
 
 /// What the library makes of the text of a number, and what is odd about it.
-struct NumberText {
+struct NumberReading {
     enum class Oddity {
         None,
         Empty,
@@ -23,9 +23,9 @@ struct NumberText {
 };
 
 /// A number with a fraction.
-NumberText readNumber(const char* text);
+NumberReading readNumber(const char* text);
 
 /// A whole number.
-NumberText readInteger(const char* text);
+NumberReading readInteger(const char* text);
 
 #endif

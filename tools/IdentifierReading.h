@@ -1,5 +1,5 @@
-#ifndef QENXML_TOOLS_IDENTIFIERTEXT_H
-#define QENXML_TOOLS_IDENTIFIERTEXT_H
+#ifndef QENXML_TOOLS_IDENTIFIERREADING_H
+#define QENXML_TOOLS_IDENTIFIERREADING_H
 
 #include <cstddef>
 #include <string>
@@ -8,7 +8,7 @@
 #include <boost/uuid/uuid.hpp>
 
 /// What the library makes of the text of an identifier, and what is odd about it.
-struct IdentifierText {
+struct IdentifierReading {
     enum class Fault { None, Empty, TooShort, HyphenMissing, BraceMissing };
 
     Fault fault = Fault::None;   ///< Why the library refuses the text, if it does.
@@ -21,11 +21,11 @@ struct IdentifierText {
 };
 
 /// Takes the text of an identifier apart, by the rules of the library.
-IdentifierText readIdentifier(std::string_view text);
+IdentifierReading readIdentifier(std::string_view text);
 
 /// What a fault is, to follow the name of the identifier: "is empty".
 ///
 /// @param text the text that was read; what is shown of it is escaped
-std::string describeFault(const IdentifierText& identifier, std::string_view text);
+std::string describeFault(const IdentifierReading& identifier, std::string_view text);
 
 #endif

@@ -1,4 +1,4 @@
-#include "tools/IdentifierText.h"
+#include "tools/IdentifierReading.h"
 
 #include <fmt/format.h>
 
@@ -23,8 +23,8 @@ class Reader {
 public:
     explicit Reader(std::string_view text) : text_(text) {}
 
-    IdentifierText read() {
-        using Fault = IdentifierText::Fault;
+    IdentifierReading read() {
+        using Fault = IdentifierReading::Fault;
         if (text_.empty())
             return fail(Fault::Empty);
         const bool braced = skip('{');
@@ -67,7 +67,7 @@ private:
         return value;
     }
 
-    IdentifierText fail(IdentifierText::Fault fault) {
+    IdentifierReading fail(IdentifierReading::Fault fault) {
         result_.fault = fault;
         result_.faultPlace = place_;
         return result_;
@@ -75,30 +75,30 @@ private:
 
     std::string_view text_;
     std::size_t place_ = 0;
-    IdentifierText result_;
+    IdentifierReading result_;
 };
 
 } // namespace
 
-IdentifierText readIdentifier(std::string_view text) {
+IdentifierReading readIdentifier(std::string_view text) {
     return Reader(text).read();
 }
 
-std::string describeFault(const IdentifierText& identifier, std::string_view text) {
+std::string describeFault(const IdentifierReading& identifier, std::string_view text) {
     const std::string quoted = fmt::format("\"{}\"", escapeExcerpt(text));
     switch (identifier.fault) {
-    case IdentifierText::Fault::Empty:
+    case IdentifierReading::Fault::Empty:
         return "is empty";
-    case IdentifierText::Fault::TooShort:
+    case IdentifierReading::Fault::TooShort:
         return fmt::format("{} is too short: it ends after {} of 32 digits", quoted,
                            identifier.digits);
-    case IdentifierText::Fault::HyphenMissing:
+    case IdentifierReading::Fault::HyphenMissing:
         return fmt::format("{} lacks the hyphen after its {}th digit: with one after the 8th digit "
                            "there must be four",
                            quoted, identifier.digits);
-    case IdentifierText::Fault::BraceMissing:
+    case IdentifierReading::Fault::BraceMissing:
         return fmt::format("{} lacks the closing brace after its last digit", quoted);
-    case IdentifierText::Fault::None:
+    case IdentifierReading::Fault::None:
         break;
     }
     return fmt::format("{} is readable", quoted);
