@@ -2,50 +2,17 @@
 // and with a second reading.
 
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include <unistd.h>
-
+#include "fuzz/PackageFile.h"
 #include "fuzz/Require.h"
 #include "parser/QenXmlParser.h"
 #include "tests/support/Describe.h"
 
 namespace {
-
-/// The file that every input is written to; in memory where the system has such a folder.
-class PackageFile {
-public:
-    PackageFile() {
-        folder_ = access("/dev/shm", W_OK) == 0 ? "/dev/shm" : "/tmp";
-        folder_ += "/qenxml-fuzz-XXXXXX";
-        require(mkdtemp(folder_.data()) != nullptr, "a temporary folder");
-        path_ = folder_ + "/00112233-4455-6677-8899-aabbccddeeff.xml";
-    }
-    PackageFile(const PackageFile&) = delete;
-    PackageFile& operator=(const PackageFile&) = delete;
-    ~PackageFile() {
-        std::remove(path_.c_str());
-        rmdir(folder_.c_str());
-    }
-
-    void write(const std::uint8_t* data, std::size_t size) const {
-        std::FILE* const file = std::fopen(path_.c_str(), "wb");
-        require(file != nullptr, "opening the file");
-        require(size == 0 || std::fwrite(data, 1, size, file) == size, "writing the file");
-        require(std::fclose(file) == 0, "closing the file");
-    }
-
-    const std::string& path() const { return path_; }
-
-private:
-    std::string folder_;
-    std::string path_;
-};
 
 /// What a reading ended with: true, false or the exception.
 std::string read(QenXmlParser& parser, const std::string& path) {

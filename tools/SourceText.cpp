@@ -33,8 +33,7 @@ char32_t unitAt(const std::string& bytes, std::size_t index, std::size_t size, b
     return unit;
 }
 
-// What is no character is left out, as pugixml does.
-
+/// Leaves out what is no character, as pugixml does.
 std::string fromUtf16(const std::string& bytes, bool bigEndian) {
     std::string text;
     char32_t lead = 0;
@@ -53,13 +52,11 @@ std::string fromUtf16(const std::string& bytes, bool bigEndian) {
     return text;
 }
 
+/// Keeps what is no character, as pugixml does: a host may read an identifier with it.
 std::string fromUtf32(const std::string& bytes, bool bigEndian) {
     std::string text;
-    for (std::size_t i = 0; i + 4 <= bytes.size(); i += 4) {
-        const char32_t unit = unitAt(bytes, i, 4, bigEndian);
-        if (unit <= 0x10FFFF && (unit < 0xD800 || unit > 0xDFFF))
-            appendUtf8(text, unit);
-    }
+    for (std::size_t i = 0; i + 4 <= bytes.size(); i += 4)
+        appendUtf8(text, unitAt(bytes, i, 4, bigEndian));
     return text;
 }
 

@@ -18,7 +18,8 @@ struct Utf8Character {
 /// @param text not empty
 Utf8Character firstCharacter(std::string_view text);
 
-/// Appends a code point in UTF-8; it must not be a surrogate or beyond U+10FFFF.
+/// Appends a code point in UTF-8. A surrogate, or a number beyond U+10FFFF, gives bytes by the same
+/// pattern, which are not valid.
 void appendUtf8(std::string& text, char32_t codePoint);
 
 #endif

@@ -92,8 +92,28 @@ TEST(SourceText, LeavesOutUnitsThatAreNoCharacters) {
         const std::size_t characters = broken.back() == u'x' ? 1 : 0;
         EXPECT_EQ(faultIn(utf16(u"<a>" + broken + u"</b>", false)), (Position{1, 6 + characters}));
     }
+}
+
+TEST(SourceText, CountsTheBytesOfUtf32ThatIsNoCharacters) {
     const std::u32string broken = {0xD83D, 0x110000, 0xFFFFFFFF};
-    EXPECT_EQ(faultIn(utf32(U"<a>" + broken + U"</b>", true)), (Position{1, 6}));
+    EXPECT_EQ(faultIn(utf32(U"<a>" + broken + U"</b>", true)), (Position{1, 6 + 3 + 4 + 4}));
+}
+
+TEST(SourceText, ReadsWhatIsNoCharacterAsTheLibraryOfXmlDoes) {
+    const std::u16string lone16 = {u'<',   u'a', u' ',   u'x',   u'=',   u'"', 0xDC00, u'1',
+                                   0xD800, u'2', 0xD800, 0xD800, 0xDC00, u'"', u'/',   u'>'};
+    const std::u32string lone32 = {U'<', U'a',     U' ',       U'x', U'=', U'"', 0xDC00,
+                                   U'1', 0x110000, 0x7FFFFFFF, U'"', U'/', U'>'};
+    for (const bool bigEndian : {false, true}) {
+        for (const std::string& bytes : {utf16(lone16, bigEndian), utf32(lone32, bigEndian)}) {
+            pugi::xml_document direct;
+            ASSERT_TRUE(direct.load_buffer(bytes.data(), bytes.size()));
+            pugi::xml_document converted;
+            ASSERT_TRUE(SourceText(bytes).load(converted));
+            EXPECT_STREQ(converted.child("a").attribute("x").value(),
+                         direct.child("a").attribute("x").value());
+        }
+    }
 }
 
 TEST(SourceText, FindsFaultsWherePugixmlGivesUp) {

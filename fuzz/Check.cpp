@@ -1,0 +1,53 @@
+// Checks any bytes as a package: errors are found if and only if the library cannot read it, every
+// text is safe to print, and every place is in the file.
+
+#include <algorithm>
+#include <cstdint>
+#include <exception>
+#include <string>
+
+#include "fuzz/PackageFile.h"
+#include "fuzz/Require.h"
+#include "parser/QenXmlParser.h"
+#include "tools/Escape.h"
+#include "tools/PackageCheck.h"
+
+namespace {
+
+bool canRead(const std::string& path) {
+    try {
+        return QenXmlParser().parseFile(path);
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
+/// Whether escaping a text would change no more than to write its backslashes twice.
+bool isSafe(std::string text) {
+    text.erase(std::remove(text.begin(), text.end(), '\\'), text.end());
+    return escape(text) == text;
+}
+
+void requireSense(const Finding& finding) {
+    for (const std::string& text :
+         {finding.path, finding.records, finding.found, finding.consequence, finding.excerpt.line})
+        require(isSafe(text), "what is found is safe to print");
+    require(!finding.found.empty() && !finding.consequence.empty(), "a finding says something");
+    require(finding.excerpt.caret <= finding.excerpt.line.size(), "the caret is below the line");
+    require(!finding.position || (finding.position->line > 0 && finding.position->column > 0),
+            "places count from 1");
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const PackageFile file;
+    file.write(data, size);
+    bool hasError = false;
+    for (const Finding& finding : checkPackage(file.path())) {
+        requireSense(finding);
+        hasError = hasError || finding.severity == Severity::Error;
+    }
+    require(hasError != canRead(file.path()), "errors are found in what cannot be read, only");
+    return 0;
+}
