@@ -163,7 +163,7 @@ Excerpt SourceText::excerpt(std::size_t offset) const {
     constexpr std::size_t before = 60; // of them before the place
     constexpr std::string_view more = "...";
     const std::string_view text = utf8_;
-    offset = std::min(offset, text.size());
+    offset = std::clamp(offset, startOf(text), text.size());
     std::size_t begin = offset;
     while (begin > startOf(text) && offset - begin < before && !endsLine(text[begin - 1]))
         --begin;

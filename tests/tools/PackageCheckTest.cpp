@@ -251,4 +251,101 @@ TEST_F(PackageCheck, AgreesWithTheLibraryOnMutatedPackages) {
     }
 }
 
+/// Counts all findings and keeps the last one.
+class LastFinding : public FindingSink {
+public:
+    bool wants(FindingCode) override {
+        ++count;
+        return true;
+    }
+    void add(const Finding& finding) override { last = finding; }
+
+    std::size_t count = 0;
+    Finding last;
+};
+
+TEST_F(PackageCheck, FindsItsWayInListsOfAnyLength) {
+    // Anything that goes over the siblings, or the text, of each finding would not end today.
+    const std::size_t farms = 60000;
+    std::string content;
+    for (std::size_t i = 0; i < farms; ++i)
+        content += "<Farm FarmID='" + test::uuidText(7) + "'><FarmName>a</FarmName></Farm>";
+    LastFinding sink;
+    checkPackage(folder_.writePackage(test::package(test::grower(1, content))), sink);
+    EXPECT_EQ(sink.count, 1 + farms - 1); // the grower has no name
+    EXPECT_EQ(sink.last.code, "duplicate-farm");
+    EXPECT_EQ(sink.last.path, "/RecPackage/Grower[1]/Farm[60000]/@FarmID");
+    EXPECT_EQ(sink.last.position->line, 1U);
+}
+
+TEST_F(PackageCheck, ReportsInTheOrderOfTheFile) {
+    const std::string text =
+        textOf(fs::path(QENXML_SOURCE_DIR) / "examples/packages/broken/rec-id/"
+                                             "5ee118ce-09bf-4cfe-ad36-a8f803f97869.xml");
+    std::string broken = text;
+    for (std::size_t at = broken.find("Name>"); at != std::string::npos;
+         at = broken.find("Name>", at + 1))
+        broken.replace(at, 5, "Nome>");
+    std::size_t line = 0;
+    std::size_t findings = 0;
+    for (const Finding& finding : checkPackage(folder_.writePackage(broken))) {
+        ASSERT_TRUE(finding.position);
+        EXPECT_GE(finding.position->line, line) << toText({finding});
+        line = finding.position->line;
+        ++findings;
+    }
+    EXPECT_GT(findings, 20U);
+}
+
+TEST_F(PackageCheck, SaysOfEachErrorWhatItCosts) {
+    const std::string path = folder_.writePackage(
+        test::package(test::grower(1, "<GrowerName>a</GrowerName>") +
+                      "\n<Grower><GrowerName>b</GrowerName><Farm/></Grower>\n<Grower/>"));
+    EXPECT_EQ(
+        toText(checkPackage(path)),
+        "2:1 grower-id /RecPackage/Grower[2]: Grower has no attribute GrowerID -> this grower and "
+        "the rest of the file are not read; the grower before it is\n"
+        "2:35 empty-name /RecPackage/Grower[2]/Farm[1]: FarmName is missing -> hosts can show no "
+        "name\n"
+        "2:35 farm-id /RecPackage/Grower[2]/Farm[1]: Farm has no attribute FarmID -> this grower "
+        "is not read because of line 2; it is not enough to mend that alone\n"
+        "3:1 empty-name /RecPackage/Grower[3]: GrowerName is missing -> hosts can show no name\n"
+        "3:1 grower-id /RecPackage/Grower[3]: Grower has no attribute GrowerID -> reading ends "
+        "before this, because of line 2; once that is mended, it ends here\n");
+}
+
+TEST_F(PackageCheck, DoesNotReadTheIdentifierOfAnIncompleteBlend) {
+    const std::string path = folder_.writePackage(test::package(test::grower(
+        1, test::farm(2, test::field(3, test::recommendations(test::rec(
+                                            4, "<RecData><CustomFertilizer><ProductID>4711"
+                                               "</ProductID></CustomFertilizer></RecData>")))))));
+    EXPECT_TRUE(read(path).complete);
+    const std::vector<Finding> findings = checkPackage(path);
+    EXPECT_FALSE(hasError(findings));
+    const auto incomplete =
+        std::find_if(findings.begin(), findings.end(),
+                     [](const Finding& finding) { return finding.code == "product-incomplete"; });
+    ASSERT_NE(incomplete, findings.end());
+    EXPECT_EQ(
+        incomplete->found,
+        "CustomFertilizer has no ProductName, UOMID, UOM, SFertT_ID, SpGravity, Pct_N, Pct_P, "
+        "Pct_K, Pct_Ca, Pct_Mg, Pct_S, Pct_Fe, Pct_Mn, Pct_Zn, Pct_Cu, Pct_B, Pct_Mo and "
+        "Pct_Cl");
+    EXPECT_EQ(incomplete->consequence,
+              "the rec is kept without product data; once it is complete, reading fails because "
+              "ProductID \"4711\" is too short: it ends after 4 of 32 digits");
+}
+
+TEST_F(PackageCheck, EscapesWhatComesFromThePackage) {
+    const std::string path = folder_.writePackage(
+        test::package(test::grower(1, "<GrowerName>\x1b[2J\xFF</GrowerName><\x1b/>")));
+    for (const Finding& finding : checkPackage(path)) {
+        for (const std::string& text : {finding.path, finding.records, finding.found,
+                                        finding.consequence, finding.excerpt.line}) {
+            EXPECT_EQ(text.find('\x1b'), std::string::npos) << text;
+            EXPECT_EQ(text.find('\xFF'), std::string::npos) << text;
+        }
+    }
+}
+
 } // namespace

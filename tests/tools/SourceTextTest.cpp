@@ -128,6 +128,59 @@ TEST(SourceText, TakesAPlaceBeyondTheEndForTheEnd) {
     EXPECT_EQ(SourceText("<a>\nxy").position(1000), (Position{2, 3}));
 }
 
+TEST(SourceText, CountsTheSameFromEveryPlaceOfALongText) {
+    std::string bytes = "\xEF\xBB\xBF";
+    for (int i = 0; i < 400; ++i)
+        bytes += i % 7 == 0 ? "\r\n" : i % 11 == 0 ? "\r" : i % 5 == 0 ? "\n" : "a\u00e9\u20ac\xFF";
+    const SourceText text(bytes);
+    // As the long text does, but without anything to start from in the middle.
+    for (std::size_t offset = 3; offset <= bytes.size(); ++offset)
+        EXPECT_EQ(text.position(offset), SourceText(bytes.substr(0, offset)).position(offset))
+            << offset;
+}
+
+TEST(SourceText, ShowsALineWithItsPlace) {
+    const SourceText text("\xEF\xBB\xBF<a>\r\n\t<b\x1b>\n</a>");
+    EXPECT_EQ(text.excerpt(0).line, "<a>");
+    EXPECT_EQ(text.excerpt(0).caret, 0U);
+    const std::size_t b = text.text().find("<b");
+    EXPECT_EQ(text.excerpt(b).line, " <b\\x1B>");
+    EXPECT_EQ(text.excerpt(b).caret, 1U);
+    EXPECT_EQ(text.excerpt(b + 3).caret, 7U); // behind what is escaped
+    EXPECT_EQ(text.excerpt(1000).line, "</a>");
+    EXPECT_EQ(text.excerpt(1000).caret, 4U);
+}
+
+TEST(SourceText, ShowsThePartOfALongLineAroundAPlace) {
+    const SourceText text(std::string(500, 'a') + "X" + std::string(500, 'b'));
+    EXPECT_EQ(text.excerpt(500).line,
+              "..." + std::string(60, 'a') + "X" + std::string(39, 'b') + "...");
+    EXPECT_EQ(text.excerpt(500).caret, 63U);
+    EXPECT_EQ(text.excerpt(0).line, std::string(100, 'a') + "...");
+}
+
+TEST(SourceText, CutsNoCharacterOfALongLine) {
+    std::string euros;
+    for (int i = 0; i < 500; ++i)
+        euros += "\u20ac";
+    for (const std::string before : {"", "x", "xy"}) {
+        const SourceText text(before + euros);
+        EXPECT_EQ(text.excerpt(before.size() + 300).line.find('\\'), std::string::npos);
+    }
+}
+
+TEST(SourceText, FindsAttributesAndTheirValues) {
+    const SourceText text("\xEF\xBB\xBF<a>\n<b one = '1' two='&lt;2'/></a>");
+    pugi::xml_document document;
+    ASSERT_TRUE(text.load(document));
+    const pugi::xml_node b = document.child("a").child("b");
+    const pugi::xml_attribute two = b.attribute("two");
+    EXPECT_EQ(text.position(nameOffset(b, b.first_attribute())), (Position{2, 4}));
+    EXPECT_EQ(text.position(valueOffset(b, b.first_attribute())), (Position{2, 11}));
+    EXPECT_EQ(text.position(nameOffset(b, two)), (Position{2, 14}));
+    EXPECT_EQ(text.position(valueOffset(b, two)), (Position{2, 19}));
+}
+
 TEST(SourceText, FindsElementsAtTheirOpeningBracket) {
     for (const std::string mark : {"", "\xEF\xBB\xBF"}) {
         const SourceText text(mark + "<a>\r\n  <b>\u00e9 &lt;</b><c/></a>");
