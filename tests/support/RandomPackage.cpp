@@ -142,17 +142,25 @@ private:
     std::string recData() {
         const std::string before = oneIn(20) ? "text" : "";
         const std::string after = oneIn(20) ? "<Planting/>" : "";
+        const std::vector<std::string> planting = {"CropID",      "CropName",  "CompanyID",
+                                                   "CompanyName", "VarietyID", "VarietyName"};
+        const std::vector<std::string> blend = {
+            "SFertT_ID", "SpGravity", "Pct_N",  "Pct_P",  "Pct_K", "Pct_Ca", "Pct_Mg", "Pct_S",
+            "Pct_Fe",    "Pct_Mn",    "Pct_Zn", "Pct_Cu", "Pct_B", "Pct_Mo", "Pct_Cl"};
         const std::string name = oneOf<std::string>(
             {"Planting", "CommercialFertilizer", "CustomFertilizer", "Pesticide", "planting"});
-        std::vector<std::string> parts;
+        std::vector<std::string> names = {"ProductName", "UOMID", "UOM"};
+        if (name == "Planting" || oneIn(30))
+            names.insert(names.end(), planting.begin(), planting.end());
+        if (name == "CustomFertilizer" || oneIn(30))
+            names.insert(names.end(), blend.begin(), blend.end());
         const bool complete = !oneIn(3);
-        for (const std::string part :
-             {"CropID", "CropName", "CompanyID",   "CompanyName", "VarietyID", "VarietyName",
-              "UOMID",  "UOM",      "ProductName", "SFertT_ID",   "SpGravity", "Pct_N",
-              "Pct_P",  "Pct_K",    "Pct_Ca",      "Pct_Mg",      "Pct_S",     "Pct_Fe",
-              "Pct_Mn", "Pct_Zn",   "Pct_Cu",      "Pct_B",       "Pct_Mo",    "Pct_Cl"})
+        std::vector<std::string> parts;
+        parts.reserve(names.size() + 1);
+        for (const std::string& part : names)
             parts.push_back(complete ? element(part, "", number()) : child(part, number()));
-        parts.push_back(element("ProductID", "", identifier()));
+        // While a blend is incomplete, its identifier does not matter.
+        parts.push_back(element("ProductID", "", !complete && oneIn(4) ? "4711" : identifier()));
         return before + element(name, "", shuffled(std::move(parts))) + after;
     }
 

@@ -197,6 +197,7 @@ protected:
     void expectAgreement(const std::string& text) {
         const std::string path = folder_.writePackage(text);
         const Reading reading = read(path);
+        lastIsComplete_ = reading.complete;
         const std::vector<Finding> findings = checkPackage(path);
         ASSERT_EQ(!hasError(findings), reading.complete) << toText(findings) << text;
         if (reading.complete)
@@ -205,6 +206,7 @@ protected:
     }
 
     test::TemporaryFolder folder_;
+    bool lastIsComplete_ = false; ///< Whether the last text could be read.
 };
 
 TEST_F(PackageCheck, FindsErrorsInASampleIfAndOnlyIfItCannotBeRead) {
@@ -225,11 +227,11 @@ TEST_F(PackageCheck, FindsErrorsInASampleIfAndOnlyIfItCannotBeRead) {
 TEST_F(PackageCheck, AgreesWithTheLibraryOnRandomPackages) {
     std::mt19937 random(1); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same packages every time
     std::size_t complete = 0;
-    const std::size_t packages = 2000;
+    const std::size_t packages = 1200;
     for (std::size_t i = 0; i < packages; ++i) {
         const std::string text = test::randomPackage(random);
         ASSERT_NO_FATAL_FAILURE(expectAgreement(text)) << "package " << i;
-        complete += read(folder_.path("00112233-4455-6677-8899-aabbccddeeff.xml")).complete ? 1 : 0;
+        complete += lastIsComplete_ ? 1 : 0;
     }
     // Both kinds are among them.
     EXPECT_GT(complete, packages / 4);
@@ -244,7 +246,7 @@ TEST_F(PackageCheck, AgreesWithTheLibraryOnMutatedPackages) {
         sources.push_back(textOf(entry.path()));
     sources.push_back(textOf(fs::path(QENXML_SOURCE_DIR) /
                              "examples/packages/32833106-536e-45df-80b2-d002cc92d33d.xml"));
-    for (std::size_t i = 0; i < 2000; ++i) {
+    for (std::size_t i = 0; i < 1500; ++i) {
         const std::string text =
             i % 3 == 0 ? test::randomPackage(random) : sources[i % sources.size()];
         ASSERT_NO_FATAL_FAILURE(expectAgreement(test::mutated(text, random))) << "package " << i;
@@ -266,7 +268,7 @@ public:
 
 TEST_F(PackageCheck, FindsItsWayInListsOfAnyLength) {
     // Anything that goes over the siblings, or the text, of each finding would not end today.
-    const std::size_t farms = 60000;
+    const std::size_t farms = 30000;
     std::string content;
     for (std::size_t i = 0; i < farms; ++i)
         content += "<Farm FarmID='" + test::uuidText(7) + "'><FarmName>a</FarmName></Farm>";
@@ -274,7 +276,7 @@ TEST_F(PackageCheck, FindsItsWayInListsOfAnyLength) {
     checkPackage(folder_.writePackage(test::package(test::grower(1, content))), sink);
     EXPECT_EQ(sink.count, 1 + farms - 1); // the grower has no name
     EXPECT_EQ(sink.last.code, "duplicate-farm");
-    EXPECT_EQ(sink.last.path, "/RecPackage/Grower[1]/Farm[60000]/@FarmID");
+    EXPECT_EQ(sink.last.path, "/RecPackage/Grower[1]/Farm[30000]/@FarmID");
     EXPECT_EQ(sink.last.position->line, 1U);
 }
 
