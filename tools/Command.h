@@ -11,8 +11,11 @@
 
 /// A sub-command of qenxml.
 struct Command {
-    CLI::App* parser;                      ///< Its part of the command line.
-    std::function<ExitCode(Console&)> run; ///< Does what the parsed command line says.
+    CLI::App* parser; ///< Its part of the command line.
+
+    /// Does what the parsed command line says. Throws CLI::ParseError, before it does anything,
+    /// where what it says makes no sense.
+    std::function<ExitCode(Console&)> run;
 };
 
 /// Writes help texts in the order: examples, usage, arguments and options, exit codes.

@@ -53,6 +53,10 @@ ExitCode parseAndRun(int argc, const char* const* argv, Console& console) {
 
     try {
         application.parse(argc, argv);
+        for (const Command& command : commands) {
+            if (command.parser->parsed())
+                return command.run(console);
+        }
     } catch (const CLI::CallForHelp&) {
         console.print(application.help());
         return ExitCode::Success;
@@ -61,11 +65,6 @@ ExitCode parseAndRun(int argc, const char* const* argv, Console& console) {
         return ExitCode::Success;
     } catch (const CLI::ParseError& error) {
         return refuse(application, error, console);
-    }
-
-    for (const Command& command : commands) {
-        if (command.parser->parsed())
-            return command.run(console);
     }
     return ExitCode::WrongUsage; // not reached: a sub-command is required
 }

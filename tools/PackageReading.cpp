@@ -37,39 +37,60 @@ bool parse(QenXmlParser& parser, const std::string& path) {
 
 } // namespace
 
-PackageReading readPackage(const std::string& path) {
+PackageReading readPackage(const PackageInput& input) {
     PackageReading reading;
-    reading.path = path;
+    reading.name = input.name();
+    if (input.failure()) {
+        reading.failure = ReadFailure{*input.failure(), std::nullopt};
+        return reading;
+    }
     try {
-        reading.uuid = packageUuid(path);
+        reading.uuid = packageUuid(input.path());
         QenXmlParser parser;
-        const bool complete = parse(parser, path);
+        const bool complete = parse(parser, input.path());
         reading.growers = parser.getGrowers();
         if (!complete)
-            reading.failure = diagnose(path);
+            reading.failure = diagnose(input.path());
     } catch (const std::bad_alloc&) {
         reading.failure = ReadFailure{"not enough memory", std::nullopt};
     }
     return reading;
 }
 
-std::string failureMessage(const PackageReading& reading) {
+PackageReading readPackage(const std::string& path) {
+    return readPackage(PackageInput(path));
+}
+
+PackageReading readAndComplain(const PackageInput& input, std::string_view done, Console& console) {
+    PackageReading reading = readPackage(input);
+    if (reading.failure)
+        console.complain(failureMessage(reading, done));
+    else if (!isNamedByUuid(input.path()))
+        console.complain(oddNameMessage(reading, done));
+    return reading;
+}
+
+bool isLost(const PackageReading& reading) {
+    return reading.failure && reading.growers.empty();
+}
+
+std::string failureMessage(const PackageReading& reading, std::string_view done) {
     const ReadFailure& failure = reading.failure.value();
-    std::string place = escape(reading.path);
+    std::string place = escape(reading.name);
     if (failure.position)
         place += fmt::format(":{}:{}", failure.position->line, failure.position->column);
 
     const std::size_t count = reading.growers.size();
-    const std::string consequence = count == 0 ? "the file is skipped"
-                                    : count == 1
-                                        ? "the grower before it is shown"
-                                        : fmt::format("the {} growers before it are shown", count);
+    const std::string consequence =
+        count == 0   ? "the file is skipped"
+        : count == 1 ? fmt::format("the grower before it is {}", done)
+                     : fmt::format("the {} growers before it are {}", count, done);
     return fmt::format("{}: {}; {}", place, failure.reason, consequence);
 }
 
-std::string oddNameMessage(const PackageReading& reading) {
+std::string oddNameMessage(const PackageReading& reading, std::string_view done) {
     return fmt::format(
         "{}: file name without a proper package UUID: a name such as {} is expected; "
-        "the file is shown, its recs carry the UUID {}",
-        escape(reading.path), packageNameForm, to_string(reading.uuid.value()));
+        "the file is {}, its recs carry the UUID {}",
+        escape(reading.name), packageNameForm, done, to_string(reading.uuid.value()));
 }

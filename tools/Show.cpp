@@ -1,7 +1,6 @@
 #include "tools/Show.h"
 
 #include <cstddef>
-#include <map>
 #include <memory>
 #include <string>
 #include <utility>
@@ -11,8 +10,9 @@
 #include <fmt/format.h>
 
 #include "tools/Escape.h"
+#include "tools/MergedGrowers.h"
+#include "tools/PackageInput.h"
 #include "tools/PackageReading.h"
-#include "tools/PackageUuid.h"
 #include "tools/TreeText.h"
 
 namespace {
@@ -20,33 +20,19 @@ namespace {
 constexpr const char* examples =
     "  qenxml show 00112233-4455-6677-8899-aabbccddeeff.xml\n"
     "  qenxml show --merge season/*.xml      one tree of all packages in a folder\n"
-    "  qenxml show packages/*.xml | less     page by page\n";
+    "  qenxml show packages/*.xml | less     page by page\n"
+    "  unzip -p all.zip a.xml | qenxml show --uuid 00112233-4455-6677-8899-aabbccddeeff -\n";
 
 struct ShowOptions {
     bool merge = false;
-    std::vector<std::string> files;
+    PackageOptions packages;
 };
-
-/// Reads a file. When that fails, says so, and what has been printed before comes before it.
-PackageReading readAndComplain(const std::string& path, Console& console) {
-    PackageReading reading = readPackage(path);
-    if (reading.failure)
-        console.complain(failureMessage(reading));
-    else if (!isNamedByUuid(path))
-        console.complain(oddNameMessage(reading));
-    return reading;
-}
-
-/// Nothing of it is worth showing: it failed before its first grower.
-bool isLost(const PackageReading& reading) {
-    return reading.failure && reading.growers.empty();
-}
 
 void printHeading(const PackageReading& reading, Console& console) {
     const Style& style = console.style();
     const std::string uuid = reading.uuid ? to_string(*reading.uuid) : "";
     console.print(fmt::format("{} {}  {}{}\n", style.kind("Package"), style.identifier(uuid),
-                              style.name(escape(reading.path)),
+                              style.name(escape(reading.name)),
                               reading.failure ? style.remark("  (incomplete)") : ""));
 }
 
@@ -57,13 +43,13 @@ void printGrowers(std::vector<QenGrower>& growers, const TreeLayout& layout, Con
         console.print(treeText(grower, layout));
 }
 
-ExitCode showOneByOne(const std::vector<std::string>& files, Console& console) {
+ExitCode showOneByOne(const PackageOptions& packages, Console& console) {
     constexpr std::size_t indent = 2;
     const TreeLayout layout{console.style(), indent, false};
     ExitCode result = ExitCode::Success;
     bool first = true;
-    for (const std::string& file : files) {
-        PackageReading reading = readAndComplain(file, console);
+    for (const std::string& file : packages.files) {
+        PackageReading reading = readAndComplain(PackageInput(file, packages), "shown", console);
         if (reading.failure)
             result = ExitCode::Failure;
         if (isLost(reading))
@@ -76,33 +62,13 @@ ExitCode showOneByOne(const std::vector<std::string>& files, Console& console) {
     return result;
 }
 
-/// Growers of equal id become one, in the place of the first.
-class MergedGrowers {
-public:
-    void add(std::vector<QenGrower> growers) {
-        for (QenGrower& grower : growers) {
-            const auto [place, isNew] = places_.try_emplace(grower.id(), growers_.size());
-            if (isNew)
-                growers_.push_back(std::move(grower));
-            else
-                growers_[place->second].merge(std::move(grower));
-        }
-    }
-
-    std::vector<QenGrower>& growers() { return growers_; }
-
-private:
-    std::vector<QenGrower> growers_;
-    std::map<boost::uuids::uuid, std::size_t> places_;
-};
-
-ExitCode showMerged(const std::vector<std::string>& files, Console& console) {
+ExitCode showMerged(const PackageOptions& packages, Console& console) {
     const TreeLayout layout{console.style(), 0, true};
     ExitCode result = ExitCode::Success;
     bool any = false;
     MergedGrowers merged;
-    for (const std::string& file : files) {
-        PackageReading reading = readAndComplain(file, console);
+    for (const std::string& file : packages.files) {
+        PackageReading reading = readAndComplain(PackageInput(file, packages), "shown", console);
         if (reading.failure)
             result = ExitCode::Failure;
         if (isLost(reading))
@@ -128,11 +94,10 @@ Command addShow(CLI::App& application) {
     parser->footer(exitCodeHelp);
     parser->add_flag("--merge", options->merge,
                      "Print one tree of all packages; each rec names its package");
-    parser->add_option("FILE", options->files, "Package files, named UUID.xml")
-        ->required()
-        ->option_text(" ");
+    addPackageOptions(*parser, options->packages);
     return {parser, [options](Console& console) {
-                return options->merge ? showMerged(options->files, console)
-                                      : showOneByOne(options->files, console);
+                requireUsable(options->packages);
+                return options->merge ? showMerged(options->packages, console)
+                                      : showOneByOne(options->packages, console);
             }};
 }

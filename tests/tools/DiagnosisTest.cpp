@@ -241,16 +241,18 @@ TEST(PackageReading, DoesNotWaitForSomebodyToWriteToAPipe) {
 
 TEST(PackageReading, SaysWhatIsShownAfterAFailure) {
     PackageReading reading;
-    reading.path = "a\nb.xml";
+    reading.name = "a\nb.xml";
     reading.failure = ReadFailure{"is broken", Position{3, 4}};
-    EXPECT_EQ(failureMessage(reading), "a\\nb.xml:3:4: is broken; the file is skipped");
+    EXPECT_EQ(failureMessage(reading, "shown"), "a\\nb.xml:3:4: is broken; the file is skipped");
     reading.growers.resize(1);
-    EXPECT_EQ(failureMessage(reading), "a\\nb.xml:3:4: is broken; the grower before it is shown");
+    EXPECT_EQ(failureMessage(reading, "shown"),
+              "a\\nb.xml:3:4: is broken; the grower before it is shown");
     reading.growers.resize(2);
-    EXPECT_EQ(failureMessage(reading),
+    EXPECT_EQ(failureMessage(reading, "shown"),
               "a\\nb.xml:3:4: is broken; the 2 growers before it are shown");
     reading.failure->position.reset();
-    EXPECT_EQ(failureMessage(reading), "a\\nb.xml: is broken; the 2 growers before it are shown");
+    EXPECT_EQ(failureMessage(reading, "shown"),
+              "a\\nb.xml: is broken; the 2 growers before it are shown");
 }
 
 } // namespace

@@ -1,0 +1,40 @@
+#ifndef QENXML_TOOLS_OUTPUT_H
+#define QENXML_TOOLS_OUTPUT_H
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include <CLI/CLI.hpp>
+
+#include "tools/Console.h"
+#include "tools/OutputFile.h"
+
+/// Takes a text piece by piece.
+using TextSink = std::function<void(std::string_view)>;
+
+/// Adds the option `-o`, which names the file for the result of a command.
+void addOutputOption(CLI::App& parser, std::string& path);
+
+/// The result of a command: the standard output, or the file of the option `-o`.
+class Output {
+public:
+    /// @param path of the file; empty or "-" for the standard output
+    /// @throws OutputFileError
+    Output(const std::string& path, Console& console);
+
+    /// @throws OutputError, OutputFileError
+    void write(std::string_view text);
+
+    /// Says that all is written. Without it no file is left.
+    ///
+    /// @throws OutputError, OutputFileError
+    void finish();
+
+private:
+    Console& console_;
+    std::optional<OutputFile> file_;
+};
+
+#endif
