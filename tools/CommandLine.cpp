@@ -13,6 +13,8 @@
 #include "tools/Check.h"
 #include "tools/Command.h"
 #include "tools/Escape.h"
+#include "tools/Export.h"
+#include "tools/Report.h"
 #include "tools/Show.h"
 
 namespace {
@@ -20,6 +22,8 @@ namespace {
 constexpr const char* examples = "  qenxml show 00112233-4455-6677-8899-aabbccddeeff.xml\n"
                                  "  qenxml show --merge season/*.xml\n"
                                  "  qenxml check outgoing/\n"
+                                 "  qenxml export --format csv -o recs.csv season/*.xml\n"
+                                 "  qenxml report -o report.html season/*.xml\n"
                                  "  qenxml show --help\n";
 
 /// What is wrong with the arguments. The parser itself tells of what is missing first, although an
@@ -49,7 +53,8 @@ ExitCode parseAndRun(int argc, const char* const* argv, Console& console) {
     application.set_help_flag("-h,--help", "Print this help");
     application.set_version_flag("--version", "qenxml " QENXML_VERSION, "Print the version");
     application.require_subcommand(1);
-    const std::array commands = {addShow(application), addCheck(application)};
+    const std::array commands = {addShow(application), addCheck(application),
+                                 addExport(application), addReport(application)};
 
     try {
         application.parse(argc, argv);

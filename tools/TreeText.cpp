@@ -13,6 +13,7 @@
 #include "model/PesticideRec.h"
 #include "model/PlantingRec.h"
 #include "tools/Escape.h"
+#include "tools/ProductText.h"
 
 namespace {
 
@@ -30,12 +31,8 @@ std::string join(const std::vector<std::string>& parts, std::string_view separat
     return result;
 }
 
-/// What a pair of a code and a text means to a reader: the text, or else the code. Empty when
-/// neither says anything: packages that do not give a code are read as 0, new records have -1.
-std::string textOrCode(const std::string& text, int code) {
-    if (!text.empty())
-        return escape(text);
-    return code == 0 || code == -1 ? "" : fmt::format("code {}", code);
+std::string escapedTextOrCode(const std::string& text, int code) {
+    return escape(textOrCode(text, code));
 }
 
 /// A value after what it means; empty without the value.
@@ -48,28 +45,6 @@ std::string quantity(double value, const std::string& unit) {
     if (value == 0.0 && unit.empty())
         return "";
     return join({fmt::format("{}", value), unit}, " ");
-}
-
-std::string nutrients(CustomFertilizerRec& blend) {
-    const std::array<std::pair<const char*, double>, 13> percentages = {{{"N", blend.pct_N()},
-                                                                         {"P", blend.pct_P()},
-                                                                         {"K", blend.pct_K()},
-                                                                         {"Ca", blend.pct_Ca()},
-                                                                         {"Mg", blend.pct_Mg()},
-                                                                         {"S", blend.pct_S()},
-                                                                         {"Fe", blend.pct_Fe()},
-                                                                         {"Mn", blend.pct_Mn()},
-                                                                         {"Zn", blend.pct_Zn()},
-                                                                         {"Cu", blend.pct_Cu()},
-                                                                         {"B", blend.pct_B()},
-                                                                         {"Mo", blend.pct_Mo()},
-                                                                         {"Cl", blend.pct_Cl()}}};
-    std::vector<std::string> parts;
-    for (const auto& [symbol, percentage] : percentages) {
-        if (percentage != 0.0)
-            parts.push_back(fmt::format("{} {}%", symbol, percentage));
-    }
-    return parts.empty() ? "no nutrients" : join(parts, ", ");
 }
 
 class TreeWriter {
@@ -131,14 +106,15 @@ private:
 
     void writeStatistics(QenRec& rec) {
         const std::array rates = {rec.minimumRate(), rec.averageRate(), rec.maximumRate()};
-        const std::string rateUnit = textOrCode(rec.rateUom(), rec.rateUomId());
+        const std::string rateUnit = escapedTextOrCode(rec.rateUom(), rec.rateUomId());
         if (rates[0] != 0.0 || rates[1] != 0.0 || rates[2] != 0.0 || !rateUnit.empty())
             property("rate",
                      join({fmt::format("min {}, avg {}, max {}", rates[0], rates[1], rates[2]),
                            rateUnit},
                           " "));
-        property("total", quantity(rec.total(), textOrCode(rec.totalUom(), rec.totalUomId())));
-        property("area", quantity(rec.area(), textOrCode(rec.areaUom(), rec.areaUomId())));
+        property("total",
+                 quantity(rec.total(), escapedTextOrCode(rec.totalUom(), rec.totalUomId())));
+        property("area", quantity(rec.area(), escapedTextOrCode(rec.areaUom(), rec.areaUomId())));
     }
 
     void writeProduct(QenRecData* data) {
@@ -159,29 +135,31 @@ private:
     }
 
     void writeProduct(PlantingRec& planting) {
-        product("planting",
-                {labelled("crop", textOrCode(planting.cropName(), planting.cropId())),
-                 labelled("company", textOrCode(planting.companyName(), planting.companyId())),
-                 labelled("variety", textOrCode(planting.varietyName(), planting.varietyId())),
-                 labelled("unit", textOrCode(planting.uom(), planting.uomId()))});
+        product(
+            "planting",
+            {labelled("crop", escapedTextOrCode(planting.cropName(), planting.cropId())),
+             labelled("company", escapedTextOrCode(planting.companyName(), planting.companyId())),
+             labelled("variety", escapedTextOrCode(planting.varietyName(), planting.varietyId())),
+             labelled("unit", escapedTextOrCode(planting.uom(), planting.uomId()))});
     }
 
     void writeProduct(CommercialFertilizerRec& fertilizer) {
-        product("fertilizer", {textOrCode(fertilizer.productName(), fertilizer.productId()),
-                               labelled("unit", textOrCode(fertilizer.uom(), fertilizer.uomId()))});
+        product("fertilizer",
+                {escapedTextOrCode(fertilizer.productName(), fertilizer.productId()),
+                 labelled("unit", escapedTextOrCode(fertilizer.uom(), fertilizer.uomId()))});
     }
 
     void writeProduct(CustomFertilizerRec& blend) {
-        product(
-            "blend",
-            {escape(blend.productName()), labelled("unit", textOrCode(blend.uom(), blend.uomId()))},
-            identifier(blend.productId()));
-        property("", fmt::format("specific gravity {}; {}", blend.spGravity(), nutrients(blend)));
+        product("blend",
+                {escape(blend.productName()),
+                 labelled("unit", escapedTextOrCode(blend.uom(), blend.uomId()))},
+                identifier(blend.productId()));
+        property("", blendContent(blend));
     }
 
     void writeProduct(PesticideRec& mix) {
         product("pesticide mix", {escape(mix.pesticideMixName()),
-                                  labelled("unit", textOrCode(mix.uom(), mix.uomId()))});
+                                  labelled("unit", escapedTextOrCode(mix.uom(), mix.uomId()))});
     }
 
     void product(const char* kind, const std::vector<std::string>& parts,

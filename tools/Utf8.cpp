@@ -23,6 +23,18 @@ Utf8Character firstCharacter(std::string_view text) {
     return {codePoint, length, true};
 }
 
+std::string validUtf8(std::string_view text) {
+    constexpr std::string_view replacement = "\xEF\xBF\xBD";
+    std::string result;
+    result.reserve(text.size());
+    while (!text.empty()) {
+        const Utf8Character character = firstCharacter(text);
+        result += character.valid ? text.substr(0, character.length) : replacement;
+        text.remove_prefix(character.length);
+    }
+    return result;
+}
+
 void appendUtf8(std::string& text, char32_t codePoint) {
     const auto tail = [&](unsigned shift) {
         text += static_cast<char>(0x80U | (codePoint >> shift & 0x3FU));

@@ -18,6 +18,10 @@ struct Utf8Character {
 /// @param text not empty
 Utf8Character firstCharacter(std::string_view text);
 
+/// The text with U+FFFD, the replacement character, in the place of each byte that belongs to no
+/// character.
+std::string validUtf8(std::string_view text);
+
 /// Appends a code point in UTF-8. A surrogate, or a number beyond U+10FFFF, gives bytes by the same
 /// pattern, which are not valid.
 void appendUtf8(std::string& text, char32_t codePoint);

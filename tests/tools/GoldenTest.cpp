@@ -35,7 +35,7 @@ std::string contentOf(const std::filesystem::path& path) {
     return content.str();
 }
 
-/// A golden file: "$ qenxml ARGUMENT...", then what comes of it. The command runs in the
+/// A golden file: "$ qenxml ARGUMENT... [< FILE]", then what comes of it. The command runs in the
 /// folder of the sample packages.
 class Golden : public testing::TestWithParam<std::string> {
 protected:
@@ -49,8 +49,14 @@ std::string runAsWritten(const std::string& line) {
     std::vector<std::string> arguments;
     test::RunOptions options;
     options.folder = (sources / "examples/packages").string();
-    for (std::string word; words >> word;)
-        arguments.push_back(word);
+    for (std::string word; words >> word;) {
+        if (word == "<") {
+            words >> word;
+            options.input = (sources / "examples/packages" / word).string();
+        } else {
+            arguments.push_back(word);
+        }
+    }
     const test::RunResult result = test::runCommand(arguments, options);
     return line + "\nexit code " + std::to_string(result.exitCode) + "\n=== output\n" +
            result.output + "=== messages\n" + result.errors;
@@ -66,8 +72,8 @@ TEST_P(Golden, IsWhatTheCommandWrites) {
         EXPECT_EQ(actual, expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(Command, Golden, testing::ValuesIn(goldenFiles()), [](const auto& golden) {
-    std::string name = golden.param;
+INSTANTIATE_TEST_SUITE_P(Command, Golden, testing::ValuesIn(goldenFiles()), [](const auto& file) {
+    std::string name = file.param;
     std::replace_if(
         name.begin(), name.end(), [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
     return name;

@@ -119,7 +119,7 @@ RunResult runCommand(const std::vector<std::string>& arguments, const RunOptions
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_addchdir_np(&actions, options.folder.c_str());
-    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, options.input.c_str(), O_RDONLY, 0);
     posix_spawn_file_actions_adddup2(
         &actions, together ? errors.writer.number() : output.writer.number(), STDOUT_FILENO);
     posix_spawn_file_actions_adddup2(&actions, errors.writer.number(), STDERR_FILENO);

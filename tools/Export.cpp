@@ -1,0 +1,93 @@
+#include "tools/Export.h"
+
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include <fmt/format.h>
+
+#include "tools/Escape.h"
+#include "tools/ExportCsv.h"
+#include "tools/ExportFormat.h"
+#include "tools/ExportGeoJson.h"
+#include "tools/ExportJson.h"
+#include "tools/MergedGrowers.h"
+#include "tools/Output.h"
+#include "tools/PackageInput.h"
+#include "tools/PackageReading.h"
+
+namespace {
+
+constexpr const char* examples =
+    "  qenxml export --format csv -o recs.csv season/*.xml           for a spreadsheet\n"
+    "  qenxml export --format geojson --merge -o map.geojson *.xml   for a map\n"
+    "  qenxml export --format json 00112233-4455-6677-8899-aabbccddeeff.xml | jq .packages[0]\n";
+
+using MakeFormat = std::unique_ptr<ExportFormat> (*)(TextSink);
+
+const std::map<std::string, MakeFormat> formats = {
+    {"csv", makeCsvExport}, {"geojson", makeGeoJsonExport}, {"json", makeJsonExport}};
+
+struct ExportOptions {
+    std::string format;
+    bool merge = false;
+    std::string output;
+    PackageOptions packages;
+};
+
+/// Hands a package on, and complains where there is something to say about it.
+///
+/// @return whether all of it was read
+bool exportPackage(const PackageInput& input, bool merge, ExportFormat& format,
+                   MergedGrowers& merged, Console& console) {
+    PackageReading reading = readAndComplain(input, "exported", console);
+    if (merge)
+        merged.add(std::exchange(reading.growers, {}));
+    const std::string remark = format.package(reading);
+    if (!remark.empty())
+        console.complain(fmt::format("{}: {}", escape(reading.name), remark));
+    return !reading.failure;
+}
+
+ExitCode exportPackages(const ExportOptions& options, Console& console) {
+    requireUsable(options.packages, options.output);
+    Output output(options.output, console);
+    const auto format =
+        formats.at(options.format)([&output](std::string_view text) { output.write(text); });
+    MergedGrowers merged;
+    ExitCode result = ExitCode::Success;
+    format->begin(options.merge);
+    for (const std::string& file : options.packages.files) {
+        const PackageInput input(file, options.packages);
+        if (!exportPackage(input, options.merge, *format, merged, console))
+            result = ExitCode::Failure;
+    }
+    if (options.merge) {
+        const std::string remark = format->merged(merged.growers());
+        if (!remark.empty())
+            console.complain(remark);
+    }
+    format->end();
+    output.finish();
+    return result;
+}
+
+} // namespace
+
+Command addExport(CLI::App& application) {
+    CLI::App* parser =
+        application.add_subcommand("export", "Write what packages hold as JSON, CSV or GeoJSON")
+            ->group("Commands");
+    const auto options = std::make_shared<ExportOptions>();
+    parser->formatter(std::make_shared<HelpFormatter>(examples));
+    parser->footer(exitCodeHelp);
+    parser->add_option("--format", options->format, "json, csv or geojson")
+        ->required()
+        ->option_text("FORMAT")
+        ->check(CLI::IsMember(&formats).description(""));
+    parser->add_flag("--merge", options->merge, "Merge the growers of all packages into one tree");
+    addOutputOption(*parser, options->output);
+    addPackageOptions(*parser, options->packages);
+    return {parser, [options](Console& console) { return exportPackages(*options, console); }};
+}

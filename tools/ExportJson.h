@@ -1,0 +1,12 @@
+#ifndef QENXML_TOOLS_EXPORTJSON_H
+#define QENXML_TOOLS_EXPORTJSON_H
+
+#include <memory>
+
+#include "tools/ExportFormat.h"
+#include "tools/Output.h"
+
+/// The whole tree as one JSON document: docs/export.schema.json.
+std::unique_ptr<ExportFormat> makeJsonExport(TextSink sink);
+
+#endif

@@ -1,0 +1,107 @@
+#include "tools/JsonWriter.h"
+
+#include <cmath>
+#include <cstddef>
+
+#include "tools/NumberText.h"
+#include "tools/Utf8.h"
+
+namespace {
+
+constexpr std::size_t indentPerLevel = 2;
+
+} // namespace
+
+void JsonWriter::beginObject() {
+    startItem();
+    begin('{');
+}
+
+void JsonWriter::beginObject(std::string_view key) {
+    startItem(key);
+    begin('{');
+}
+
+void JsonWriter::beginArray(std::string_view key) {
+    startItem(key);
+    begin('[');
+}
+
+void JsonWriter::element(const nlohmann::ordered_json& value) {
+    startItem();
+    this->value(value);
+}
+
+void JsonWriter::member(std::string_view key, const nlohmann::ordered_json& value) {
+    startItem(key);
+    this->value(value);
+}
+
+void JsonWriter::endDocument() {
+    text_ += '\n';
+    flush();
+}
+
+void JsonWriter::begin(char bracket) {
+    text_ += bracket;
+    ++depth_;
+    empty_ = true;
+}
+
+void JsonWriter::end(char bracket) {
+    --depth_;
+    if (!empty_)
+        startLine();
+    text_ += bracket;
+    empty_ = false;
+}
+
+void JsonWriter::startItem() {
+    constexpr std::size_t enough = 65536;
+    if (text_.size() > enough)
+        flush();
+    if (depth_ == 0) // the document
+        return;
+    if (!empty_)
+        text_ += ',';
+    startLine();
+    empty_ = false;
+}
+
+void JsonWriter::startItem(std::string_view key) {
+    startItem();
+    text_ += nlohmann::ordered_json(key).dump();
+    text_ += ": ";
+}
+
+void JsonWriter::startLine() {
+    text_ += '\n';
+    text_.append(depth_ * indentPerLevel, ' ');
+}
+
+void JsonWriter::value(const nlohmann::ordered_json& value) {
+    // Line feeds stand between items only: those of texts are escaped.
+    const std::string dumped = value.dump(static_cast<int>(indentPerLevel));
+    std::string_view rest = dumped;
+    for (std::size_t end = 0; (end = rest.find('\n')) != std::string_view::npos;) {
+        text_ += rest.substr(0, end);
+        startLine();
+        rest.remove_prefix(end + 1);
+    }
+    text_ += rest;
+}
+
+void JsonWriter::flush() {
+    sink_(text_);
+    text_.clear();
+}
+
+nlohmann::ordered_json jsonText(std::string_view text) {
+    return validUtf8(text);
+}
+
+nlohmann::ordered_json jsonNumber(double number) {
+    if (std::isfinite(number))
+        return number;
+    return numberText(number);
+}

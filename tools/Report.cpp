@@ -1,0 +1,91 @@
+#include "tools/Report.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "tools/Output.h"
+#include "tools/PackageCheck.h"
+#include "tools/PackageInput.h"
+#include "tools/PackageReading.h"
+#include "tools/ReportData.h"
+#include "tools/ReportPage.h"
+
+namespace {
+
+constexpr const char* examples =
+    "  qenxml report -o report.html 00112233-4455-6677-8899-aabbccddeeff.xml\n"
+    "  qenxml report -o season.html season/*.xml      one page about all packages\n";
+
+struct ReportOptions {
+    std::string output;
+    PackageOptions packages;
+};
+
+/// Hands findings on to the report.
+class ReportSink : public FindingSink {
+public:
+    explicit ReportSink(ReportFindings& findings) : findings_(findings) {}
+
+    bool wants(FindingCode code) override { return findings_.count(code); }
+    void add(const Finding& finding) override { findings_.keep(finding); }
+
+private:
+    ReportFindings& findings_;
+};
+
+/// What is wrong with a package. Without a file to check that is the reason for it.
+ReportFindings findingsOf(const PackageInput& input) {
+    ReportFindings findings;
+    if (!input.failure()) {
+        ReportSink sink(findings);
+        checkPackage(input.path(), sink);
+        return findings;
+    }
+    Finding finding;
+    finding.code = kindOf(FindingCode::Unreadable).code;
+    finding.found = *input.failure();
+    finding.consequence = "the package is not read";
+    if (findings.count(FindingCode::Unreadable))
+        findings.keep(std::move(finding));
+    return findings;
+}
+
+ReportPackage examine(const PackageInput& input, Console& console) {
+    ReportPackage package;
+    package.reading = readAndComplain(input, "reported", console);
+    package.findings = findingsOf(input);
+    package.counts = countRecords(package.reading.growers);
+    return package;
+}
+
+ExitCode report(const ReportOptions& options, Console& console) {
+    requireUsable(options.packages, options.output);
+    Output output(options.output, console);
+    ExitCode result = ExitCode::Success;
+    std::vector<ReportPackage> packages;
+    for (const std::string& file : options.packages.files) {
+        packages.push_back(examine(PackageInput(file, options.packages), console));
+        if (packages.back().reading.failure)
+            result = ExitCode::Failure;
+    }
+    writeReport(packages, [&output](std::string_view text) { output.write(text); });
+    output.finish();
+    return result;
+}
+
+} // namespace
+
+Command addReport(CLI::App& application) {
+    CLI::App* parser =
+        application.add_subcommand("report", "Write a page about packages for a browser")
+            ->group("Commands");
+    const auto options = std::make_shared<ReportOptions>();
+    parser->formatter(std::make_shared<HelpFormatter>(examples));
+    parser->footer(exitCodeHelp);
+    addOutputOption(*parser, options->output);
+    addPackageOptions(*parser, options->packages);
+    return {parser, [options](Console& console) { return report(*options, console); }};
+}
