@@ -1,0 +1,75 @@
+#!/usr/bin/env bash
+# Usage: check_completion.sh COMMAND SOURCE_DIR
+# The completions of each shell offer every sub-command and option that --help lists. Shells that
+# are not installed are left out, and said to be.
+set -euo pipefail
+command=$1
+share=$2/share
+failed=0
+
+fail() {
+    echo "$*" >&2
+    failed=1
+}
+
+# The words that a help text lists under a heading: options, or commands.
+listed() { # HEADING [COMMAND]
+    "$command" ${2:+"$2"} --help |
+        sed -n "/^$1:/,/^\$/s/^  \([-a-z][-a-z,]*\).*/\1/p" | tr ',' '\n'
+}
+
+# Prints what bash offers for a line whose last word is to be completed.
+offered_by_bash() {
+    bash --norc -c '
+        . "$0"
+        COMP_WORDS=("$@")
+        COMP_CWORD=$(($# - 1))
+        _qenxml
+        printf "%s\n" "${COMPREPLY[@]}"' "$share/bash-completion/completions/qenxml" "$@"
+}
+
+offered_by_fish() {
+    fish --no-config -c 'source $argv[1]; complete -C "$argv[2]"' \
+        "$share/fish/vendor_completions.d/qenxml.fish" "$*" | cut -f 1
+}
+
+# What zsh offers cannot be asked for outside of its line editor: the words stand in the file, those
+# of a sub-command in its part or in the lists that it takes.
+offered_by_zsh() {
+    grep -oE -- "'?[-a-z]+[:[]|[{,]--?[a-z]+|--[a-z]+" "$share/zsh/site-functions/_qenxml" |
+        tr -d "':[{,"
+}
+
+check_shell() { # SHELL
+    local words subcommand
+    words=$("offered_by_$1" qenxml "")
+    [ "$1" = zsh ] || words+=$'\n'$("offered_by_$1" qenxml -)
+    for word in $(listed Commands) $(listed Options); do
+        grep -qxe "$word" <<<"$words" || fail "$1 does not offer $word"
+    done
+    for subcommand in $(listed Commands); do
+        words=$("offered_by_$1" qenxml "$subcommand" -)
+        for word in $(listed Options "$subcommand"); do
+            grep -qxe "$word" <<<"$words" || fail "$1 does not offer $word after $subcommand"
+        done
+    done
+    words=$("offered_by_$1" qenxml export --format "")
+    [ "$1" = zsh ] || grep -qx geojson <<<"$words" || fail "$1 does not offer the formats"
+}
+
+[ "$(listed Commands | wc -l)" -ge 3 ] || fail "--help lists no commands"
+[ "$(listed Options export | wc -l)" -ge 7 ] || fail "export --help lists no options"
+
+for shell in bash zsh fish; do
+    if ! command -v "$shell" >/dev/null; then
+        echo "$shell is not installed"
+        continue
+    fi
+    case $shell in
+    bash) bash -n "$share/bash-completion/completions/qenxml" || fail "bash cannot read its file" ;;
+    zsh) zsh -n "$share/zsh/site-functions/_qenxml" || fail "zsh cannot read its file" ;;
+    fish) fish -n "$share/fish/vendor_completions.d/qenxml.fish" || fail "fish cannot read its file" ;;
+    esac
+    check_shell "$shell"
+done
+exit "$failed"

@@ -1,0 +1,41 @@
+#!/usr/bin/env bash
+# Usage: check_manual.sh COMMAND SOURCE_DIR
+# The manual pages are well-formed, there is one for each sub-command, and each names all options
+# that --help lists and has the sections that readers look for.
+set -euo pipefail
+command=$1
+folder=$2/docs/man
+failed=0
+
+fail() {
+    echo "$*" >&2
+    failed=1
+}
+
+# The first column of the lists in a help text.
+listed() { # HEADING [COMMAND]
+    "$command" ${2:+"$2"} --help |
+        sed -n "/^$1:/,/^\$/s/^  \([-a-z][-a-z,]*\).*/\1/p" | tr ',' '\n'
+}
+
+check_page() { # NAME [COMMAND]
+    local page=$folder/$1.1 option section findings
+    [ -f "$page" ] || { fail "there is no manual page $1"; return; }
+    # The pages that it refers to are not installed yet.
+    findings=$(mandoc -Tlint "$page" | grep -v 'referenced manual not found' || true)
+    [ -z "$findings" ] || fail "$findings"
+    for section in SYNOPSIS DESCRIPTION 'EXIT STATUS' EXAMPLES DIAGNOSTICS; do
+        grep -qx "\.Sh $section" "$page" || fail "$1 has no section $section"
+    done
+    for option in $(listed Options "${@:2}"); do
+        mandoc -Tutf8 "$page" | sed 's/.\x08//g' | grep -qEe "(^|[ ,[])$option([] ,=]|\$)" ||
+            fail "$1 does not explain $option"
+    done
+}
+
+check_page qenxml
+for subcommand in $(listed Commands); do
+    check_page "qenxml-$subcommand" "$subcommand"
+    grep -q "Xr qenxml-$subcommand 1" "$folder/qenxml.1" || fail "qenxml does not name $subcommand"
+done
+exit "$failed"

@@ -1,0 +1,180 @@
+#!/usr/bin/env python3
+"""Usage: check_outputs.py COMMAND SOURCE_DIR
+
+Writes every sample package in every format and reads that with programs that know the formats:
+JSON against its schema, CSV and GeoJSON by the rules of RFC 4180 and RFC 7946, the report with an
+HTML validator.
+"""
+import csv
+import io
+import json
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+
+import jsonschema
+
+command, source = sys.argv[1], pathlib.Path(sys.argv[2])
+samples = source / "examples/packages"
+failures = []
+
+
+def expect(condition, what):
+    if not condition:
+        failures.append(what)
+
+
+def run(*arguments):
+    result = subprocess.run([command, *arguments], capture_output=True, cwd=samples)
+    expect(result.returncode in (0, 1), f"{arguments}: exit code {result.returncode}")
+    return result.stdout
+
+
+def without_twins(pairs):
+    keys = [key for key, _ in pairs]
+    expect(len(keys) == len(set(keys)), f"a member twice among {keys}")
+    return dict(pairs)
+
+
+def load(text):
+    def refuse(constant):
+        failures.append(f"{constant} is no JSON")
+
+    return json.loads(text.decode("utf-8"), object_pairs_hook=without_twins, parse_constant=refuse)
+
+
+schema = json.loads((source / "docs/export.schema.json").read_text())
+jsonschema.Draft202012Validator.check_schema(schema)
+validator = jsonschema.Draft202012Validator(schema)
+
+
+def recs_of(document):
+    packages = document["packages"] if "growers" not in document else [document]
+    return [
+        rec
+        for package in packages
+        for grower in package["growers"]
+        for farm in grower["farms"]
+        for field in farm["fields"]
+        for rec in field["recs"]
+    ]
+
+
+def check_json(files, *options):
+    document = load(run("export", "--format", "json", *options, *files))
+    for error in validator.iter_errors(document):
+        failures.append(f"{files}: {error.json_path}: {error.message}")
+    return recs_of(document)
+
+
+def check_csv(files, recs, *options):
+    text = run("export", "--format", "csv", *options, *files).decode("utf-8")
+    expect(text.startswith("\ufeff"), f"{files}: no byte-order mark")
+    expect(not re.search(r"(?<!\r)\n", re.sub(r'"(?:[^"]|"")*"', "", text)), f"{files}: bare LF")
+    rows = list(csv.reader(io.StringIO(text[1:], newline=""), strict=True))
+    expect(all(len(row) == len(rows[0]) for row in rows), f"{files}: rows of different length")
+    expect(len(set(rows[0])) == len(rows[0]), f"{files}: two columns of one name")
+    for row in rows[1:]:
+        for cell in row:
+            number = re.fullmatch(r"-?[0-9.]+(e[+-][0-9]+)?", cell)
+            expect(number or not cell or cell[0] not in "=+-@\t\r\n", f"a formula: {cell!r}")
+    index = rows[0].index("rec_id")
+    expect([row[index] for row in rows[1:]] == [rec["id"] for rec in recs], f"{files}: rows")
+
+
+def check_geojson(files, recs, *options):
+    document = load(run("export", "--format", "geojson", *options, *files))
+    expect(set(document) == {"type", "features"}, f"{files}: members of the collection")
+    expect(document["type"] == "FeatureCollection", f"{files}: type of the collection")
+    found = []
+    for feature in document["features"]:
+        expect(set(feature) == {"type", "geometry", "properties"}, f"{files}: members of a feature")
+        expect(feature["type"] == "Feature", f"{files}: type of a feature")
+        found += feature["properties"]["recs"]
+        if feature["geometry"] is None:
+            continue
+        expect(feature["geometry"]["type"] == "Point", f"{files}: type of a geometry")
+        longitude, latitude = feature["geometry"]["coordinates"]
+        expect(-180 <= longitude <= 180 and -90 <= latitude <= 90, f"{files}: a point not on earth")
+        centroid = feature["properties"]["centroid"]
+        expect((latitude, longitude) == (centroid["latitude"], centroid["longitude"]),
+               f"{files}: longitude comes before latitude")
+    identities = sorted(rec["id"] + rec["xmlFileName"] for rec in found)
+    expect(identities == sorted(rec["id"] + rec["xmlFileName"] for rec in recs), f"{files}: recs")
+
+
+def check_report(files):
+    page = run("report", *files)
+    tidy = subprocess.run(["tidy", "-errors", "-quiet", "-utf8"], input=page, capture_output=True)
+    expect(tidy.returncode == 0, f"{files}: {tidy.stderr.decode()}")
+    text = page.decode("utf-8")
+    expect(not re.search(r"<script|<link|<img|@import|url\(|<[^>]*\son\w+=", text),
+           f"{files}: the report needs something from elsewhere")
+    ids = re.findall(r'\sid="([^"]*)"', text)
+    expect(len(ids) == len(set(ids)), f"{files}: an id twice")
+    for anchor in re.findall(r'href="#([^"]*)"', text):
+        expect(anchor in ids, f"{files}: a link to {anchor}, which is nowhere")
+    levels = [int(level) for level in re.findall(r"<h([1-6])", text)]
+    expect(levels[0] == 1 and all(b <= a + 1 for a, b in zip(levels, levels[1:])),
+           f"{files}: a level of headings is left out")
+    expect(text.count("<svg") == len(re.findall(r'<svg[^>]*role="img" aria-label="[^"]', text)),
+           f"{files}: a picture without a text alternative")
+
+
+def check(*files):
+    recs = check_json(files)
+    check_csv(files, recs)
+    check_geojson(files, recs)
+    merged = check_json(files, "--merge")
+    check_csv(files, merged, "--merge")
+    check_geojson(files, merged, "--merge")
+    check_report(files)
+
+
+def rec(uuid, name, statistics=""):
+    return (f'<Rec RecID="{uuid}"><RecName>{name}</RecName><RecGeometry>{uuid}</RecGeometry>'
+            f"<RecStats>{statistics}</RecStats></Rec>")
+
+
+def hostile_package(folder):
+    """A package whose texts and numbers mean something in each of the formats."""
+    uuid = "10000000-0000-4000-8000-00000000000{}"
+    names = ["=1+1", "+1", "-1+1", "@SUM(A1)", "&#9;=1", "a,&quot;b&quot;", "&#13;\n", "\xff\xfe",
+             "&lt;script&gt;alert(1)&lt;/script&gt;", "' onload='x", "]]&gt;--&gt;", "\xe2\x80\xae"
+             "abc", "&#27;[31m", "\xef\xbf\xbe", "&amp;amp;", "\\u0041"]
+    recs = "".join(rec(uuid.format(0)[:-2] + f"{i:02x}", name,
+                       "<MinimumRate>nan</MinimumRate><AverageRate>inf</AverageRate>"
+                       "<MaximumRate>-inf</MaximumRate><Total>-1e308</Total><Area>1e-320</Area>")
+                   for i, name in enumerate(names))
+    fields = "".join(
+        f'<Field FieldID="{uuid.format(i)}"><FieldName>{names[i]}</FieldName>'
+        f"<FieldGeometryID>{uuid.format(i)}</FieldGeometryID>"
+        f"<FieldGeometry>{uuid.format(i)}</FieldGeometry>"
+        f"<FieldCentroid><Latitude>{lat}</Latitude><Longitude>{lon}</Longitude></FieldCentroid>"
+        f"<Recommendations>{recs}</Recommendations></Field>"
+        for i, (lat, lon) in enumerate(
+            [(0, 0), (91, 0), (0, -180.5), ("nan", 1), ("inf", 1), (-90, 180), (90, -180), (0, 1)]))
+    package = (f'<RecPackage><Grower GrowerID="{uuid.format(1)}"><GrowerName>{names[8]}'
+               f'</GrowerName><Farm FarmID="{uuid.format(1)}"><FarmName>{names[7]}</FarmName>'
+               f"{fields}</Farm></Grower></RecPackage>")
+    path = pathlib.Path(folder) / (uuid.format(1) + ".xml")
+    path.write_bytes(package.encode("latin-1"))
+    return str(path)
+
+
+packages = sorted(path.name for path in samples.glob("*.xml"))
+broken = sorted(str(path.relative_to(samples)) for path in samples.glob("broken/*/*.xml"))
+expect(len(packages) > 3 and len(broken) > 10, "samples are missing")
+for package in packages:
+    check(package)
+check(*packages)
+check(*broken)
+check("missing.xml")
+with tempfile.TemporaryDirectory() as folder:
+    check(hostile_package(folder))
+
+for failure in failures:
+    print(failure)
+sys.exit(1 if failures else 0)
