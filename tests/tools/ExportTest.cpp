@@ -1,0 +1,169 @@
+// Runs the built command where it writes to a file, or reads what is not among the samples.
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "tests/support/PackageText.h"
+#include "tests/support/TemporaryFolder.h"
+#include "tests/tools/RunCommand.h"
+
+using test::RunOptions;
+using test::RunResult;
+
+namespace {
+
+const std::string name = "aaaaaaaa-0000-4000-8000-000000000001.xml";
+const std::vector<std::vector<std::string>> commands = {{"export", "--format", "json"},
+                                                        {"export", "--format", "csv"},
+                                                        {"export", "--format", "geojson"},
+                                                        {"report"}};
+
+std::string contentOf(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream content;
+    content << file.rdbuf();
+    return content.str();
+}
+
+/// export and report: what they have in common.
+class WritingCommand : public testing::Test {
+protected:
+    RunResult run(std::vector<std::string> arguments, const std::vector<std::string>& more,
+                  RunOptions options = {}) {
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        options.folder = folder_.path("");
+        return test::runCommand(arguments, options);
+    }
+
+    test::TemporaryFolder folder_;
+};
+
+const std::string package = test::package(
+    test::grower(1, test::farm(2, test::field(3, test::recommendations(test::rec(4))))));
+
+TEST_F(WritingCommand, WritesTheSameToAFileAsToTheStandardOutput) {
+    folder_.write(name, package);
+    for (const std::vector<std::string>& command : commands) {
+        const RunResult printed = run(command, {name});
+        EXPECT_EQ(printed.exitCode, 0);
+        for (const std::string option : {"-o", "--output"}) {
+            const RunResult written = run(command, {option, "out", name});
+            EXPECT_EQ(written.output + written.errors, printed.errors);
+            EXPECT_EQ(written.exitCode, 0);
+            EXPECT_EQ(contentOf(folder_.path("out")), printed.output);
+            std::filesystem::remove(folder_.path("out"));
+        }
+        EXPECT_EQ(run(command, {"-o", "-", name}).output, printed.output);
+    }
+}
+
+TEST_F(WritingCommand, ReadsTheStandardInputAsAFile) {
+    folder_.write(name, package);
+    RunOptions options;
+    options.input = folder_.path(name);
+    for (const std::vector<std::string>& command : commands) {
+        const RunResult result = run(command, {"--uuid", name.substr(0, 36), "-"}, options);
+        EXPECT_NE(result.output.find(test::uuidText(4)), std::string::npos);
+        EXPECT_EQ(result.exitCode, 0);
+    }
+}
+
+TEST_F(WritingCommand, LeavesThePresentFileWhenTheOutputCannotBeWritten) {
+    folder_.write(name, package);
+    std::filesystem::create_directory(folder_.path("out"));
+    for (const std::vector<std::string>& command : commands) {
+        const RunResult result = run(command, {"-o", "out", name});
+        EXPECT_EQ(result.errors, "qenxml: out: cannot be written: Is a directory\n");
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_TRUE(std::filesystem::is_directory(folder_.path("out")));
+    }
+}
+
+TEST_F(WritingCommand, RefusesToReplaceAPackageThatItReads) {
+    folder_.write(name, package);
+    std::filesystem::create_symlink(name, folder_.path("link"));
+    for (const std::vector<std::string>& command : commands) {
+        for (const std::string& output : {name, std::string("./link")}) {
+            EXPECT_EQ(run(command, {"-o", output, name}).exitCode, 2);
+            EXPECT_EQ(contentOf(folder_.path(name)), package);
+        }
+    }
+}
+
+TEST_F(WritingCommand, ReportsAFullDisk) {
+    folder_.write(name, package);
+    RunOptions options;
+    options.output = test::Output::FullDisk;
+    for (const std::vector<std::string>& command : commands) {
+        const RunResult printed = run(command, {name}, options);
+        EXPECT_NE(printed.errors.find("qenxml: the output could not be written: No space left"),
+                  std::string::npos);
+        EXPECT_EQ(printed.exitCode, 1);
+        const RunResult written = run(command, {"-o", "/dev/full", name});
+        EXPECT_NE(written.errors.find("qenxml: /dev/full: cannot be written: No space left"),
+                  std::string::npos);
+        EXPECT_EQ(written.exitCode, 1);
+    }
+}
+
+TEST_F(WritingCommand, WritesWhatCanBeReadBesideWhatCannot) {
+    folder_.write(name, package);
+    for (const std::vector<std::string>& command : commands) {
+        const RunResult result = run(command, {"missing.xml", name});
+        EXPECT_NE(result.output.find(test::uuidText(4)), std::string::npos);
+        EXPECT_NE(result.errors.find("qenxml: missing.xml: not found"), std::string::npos);
+        EXPECT_EQ(result.exitCode, 1);
+    }
+}
+
+TEST_F(WritingCommand, ReportsPackagesOfThousandsOfRecsInAPageThatABrowserCanOpen) {
+    std::string recs;
+    for (unsigned i = 0; i < 20'000; ++i)
+        recs += test::rec(1000 + i);
+    folder_.write(name, test::package(test::grower(
+                            1, test::farm(2, test::field(3, test::recommendations(recs))))));
+    const RunResult result = run({"report"}, {name});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_NE(result.output.find("<li>Recs <b>20000</b></li>"), std::string::npos);
+    EXPECT_NE(result.output.find("Not shown: 0 more fields and 18000 more recs."),
+              std::string::npos);
+    EXPECT_LT(result.output.size(), 4'000'000U);
+}
+
+TEST_F(WritingCommand, ReportsAPackageWithoutGrowers) {
+    folder_.write(name, "<RecPackage/>");
+    const RunResult result = run({"report"}, {name});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_NE(result.output.find("<p>There are no recs.</p>"), std::string::npos);
+    EXPECT_NE(result.output.find("<p>No fields.</p>"), std::string::npos);
+    EXPECT_NE(result.output.find("<p>No field has a centroid that could be drawn.</p>"),
+              std::string::npos);
+}
+
+TEST_F(WritingCommand, ExportsNumbersAsTheyWereReadToTheLastBit) {
+    folder_.write(
+        name,
+        test::package(test::grower(
+            1,
+            test::farm(2, test::field(3, test::recommendations(test::rec(
+                                             4, "<RecStats><MinimumRate>0.1</MinimumRate>"
+                                                "<AverageRate>4.9406564584124654e-324</AverageRate>"
+                                                "<MaximumRate>-0</MaximumRate>"
+                                                "<Total>1.7976931348623157e308</Total>"
+                                                "<Area>9007199254740993</Area></RecStats>")))))));
+    const auto document = nlohmann::json::parse(run({"export", "--format", "json"}, {name}).output);
+    const auto& rec = document["packages"][0]["growers"][0]["farms"][0]["fields"][0]["recs"][0];
+    EXPECT_EQ(rec["minimumRate"], 0.1);
+    EXPECT_EQ(rec["averageRate"], 4.9406564584124654e-324);
+    EXPECT_EQ(rec["maximumRate"].dump(), "-0.0");
+    EXPECT_EQ(rec["total"], 1.7976931348623157e308);
+    EXPECT_EQ(rec["area"], 9007199254740992.0);
+}
+
+} // namespace

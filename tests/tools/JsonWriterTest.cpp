@@ -1,0 +1,69 @@
+#include "tools/JsonWriter.h"
+
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+namespace {
+
+TEST(JsonWriter, WritesItemsIndentedAndInOrder) {
+    std::string text;
+    JsonWriter writer([&](std::string_view piece) { text += piece; });
+    writer.beginObject();
+    writer.member("b", 1);
+    writer.beginArray("a");
+    writer.element({{"x", "line\nfeed"}, {"list", {1, 2}}});
+    writer.beginObject();
+    writer.endObject();
+    writer.endArray();
+    writer.beginArray("none");
+    writer.endArray();
+    writer.beginObject("o");
+    writer.member("quote \"", nullptr);
+    writer.endObject();
+    writer.endObject();
+    writer.endDocument();
+    EXPECT_EQ(text, "{\n"
+                    "  \"b\": 1,\n"
+                    "  \"a\": [\n"
+                    "    {\n"
+                    "      \"x\": \"line\\nfeed\",\n"
+                    "      \"list\": [\n"
+                    "        1,\n"
+                    "        2\n"
+                    "      ]\n"
+                    "    },\n"
+                    "    {}\n"
+                    "  ],\n"
+                    "  \"none\": [],\n"
+                    "  \"o\": {\n"
+                    "    \"quote \\\"\": null\n"
+                    "  }\n"
+                    "}\n");
+}
+
+TEST(JsonText, ReplacesBytesThatAreNotUtf8) {
+    EXPECT_EQ(jsonText("a\xFF\xC3\xA9").dump(), "\"a\uFFFDé\"");
+}
+
+TEST(JsonNumber, WritesNumbersThatJsonDoesNotKnowAsTexts) {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(jsonNumber(std::nan("")).dump(), "\"NaN\"");
+    EXPECT_EQ(jsonNumber(infinity).dump(), "\"Infinity\"");
+    EXPECT_EQ(jsonNumber(-infinity).dump(), "\"-Infinity\"");
+}
+
+RC_GTEST_PROP(JsonNumber, ReadsBackAsTheSameNumber, (std::uint64_t bits)) {
+    double number = 0.0;
+    std::memcpy(&number, &bits, sizeof number);
+    RC_PRE(std::isfinite(number));
+    const auto read = nlohmann::json::parse(jsonNumber(number).dump()).get<double>();
+    RC_ASSERT(std::memcmp(&read, &number, sizeof number) == 0);
+}
+
+} // namespace
