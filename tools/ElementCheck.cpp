@@ -24,6 +24,7 @@ bool belongsToXml(std::string_view attribute) {
 
 std::vector<const char*> namesOf(const std::vector<DatumFormat>& formats) {
     std::vector<const char*> names;
+    names.reserve(formats.size() + 1);
     for (const DatumFormat& format : formats)
         names.push_back(format.name);
     return names;

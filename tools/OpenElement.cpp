@@ -1,6 +1,8 @@
 #include "tools/OpenElement.h"
 
 #include <algorithm>
+#include <array>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -24,9 +26,10 @@ std::size_t endOfTag(std::string_view text, std::size_t place) {
 
 /// Where something ends that is neither an element nor a text; nothing when there is none.
 std::optional<std::size_t> endOfOther(std::string_view text, std::size_t place) {
-    constexpr std::string_view pairs[][2] = {
-        {"<!--", "-->"}, {"<![CDATA[", "]]>"}, {"<?", "?>"}, {"<!", ">"}};
-    for (const auto& [begin, end] : pairs) {
+    using Ends = std::pair<std::string_view, std::string_view>;
+    constexpr std::array<Ends, 4> others = {Ends{"<!--", "-->"}, Ends{"<![CDATA[", "]]>"},
+                                            Ends{"<?", "?>"}, Ends{"<!", ">"}};
+    for (const auto& [begin, end] : others) {
         if (text.substr(place, begin.size()) != begin)
             continue;
         const std::size_t found = text.find(end, place + begin.size());

@@ -5,6 +5,7 @@
 #define QENXML_TOOLS_PACKAGEFORMAT_H
 
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -21,7 +22,7 @@ enum class ValueKind {
 
 /// An attribute, or an element that is there once.
 struct DatumFormat {
-    const char* name;
+    const char* name = nullptr;
     ValueKind kind = ValueKind::Text;
     /// Of an identifier: what it means when the library cannot read it. None where it reads it only
     /// under conditions.
@@ -32,7 +33,7 @@ struct DatumFormat {
 
 /// An element.
 struct ElementFormat {
-    const char* name;
+    const char* name = nullptr;
     std::vector<DatumFormat> attributes;
     std::vector<DatumFormat> children;
     const ElementFormat* item = nullptr; ///< What it has a list of, if it has one.

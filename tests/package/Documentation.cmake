@@ -7,9 +7,11 @@ run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_DIR} --component Doc
     --config "${CONFIG}")
 
 set(root ${WORK_DIR}/share/doc/qenxml)
-file(GLOB documents RELATIVE ${SOURCE_DIR} ${SOURCE_DIR}/docs/*.md ${SOURCE_DIR}/docs/*.svg
-    ${SOURCE_DIR}/docs/*.xsd)
-file(GLOB installed RELATIVE ${root} ${root}/docs/*.md ${root}/docs/*.svg ${root}/docs/*.xsd)
+set(kinds docs/*.md docs/*.svg docs/*.xsd docs/*.json docs/man/*.1)
+list(TRANSFORM kinds PREPEND ${SOURCE_DIR}/ OUTPUT_VARIABLE sources)
+list(TRANSFORM kinds PREPEND ${root}/ OUTPUT_VARIABLE targets)
+file(GLOB documents RELATIVE ${SOURCE_DIR} ${sources})
+file(GLOB installed RELATIVE ${root} ${targets})
 list(SORT documents)
 list(SORT installed)
 expect_same("The list of installed documents" "${installed}" "${documents}")

@@ -17,7 +17,7 @@ if(EXISTS "${COMMAND}")
     expect_same("The output of scripts/run in the README" "${output}" "${beginning}")
 
     set(sample examples/packages/broken/number-cut-off)
-    code_block(expected "$ build/release/tools/qenxml check ${sample}")
+    code_block(expected "${readme}" "$ build/release/tools/qenxml check ${sample}")
     execute_process(COMMAND ${COMMAND} check ${sample} WORKING_DIRECTORY ${SOURCE_DIR}
         OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
     expect_same("The output of qenxml check in the README" "${output}" "${expected}")
