@@ -56,6 +56,15 @@ double roundDown(double number) {
     return power * (digit >= 5.0 ? 5.0 : digit >= 2.0 ? 2.0 : 1.0);
 }
 
+/// All multiples of a number in a range.
+std::vector<double> multiples(double number, const Range& range) {
+    std::vector<double> result;
+    const long last = std::lround(std::floor(range.to / number));
+    for (long i = std::lround(std::ceil(range.from / number)); i <= last; ++i)
+        result.push_back(static_cast<double>(i) * number);
+    return result;
+}
+
 template <class Value>
 Range rangeOf(const std::vector<MapPoint>& points, Value value) {
     Range range{value(points.front()), value(points.front())};
@@ -89,9 +98,10 @@ std::size_t characters(std::string_view text) {
 
 class MapWriter {
 public:
-    explicit MapWriter(const std::vector<MapPoint>& points) : points_(points) {
-        latitudes_ = rangeOf(points, [](const MapPoint& p) { return p.centroid.latitude; });
-        longitudes_ = rangeOf(points, [](const MapPoint& p) { return p.centroid.longitude; });
+    explicit MapWriter(const std::vector<MapPoint>& points)
+        : points_(points),
+          latitudes_(rangeOf(points, [](const MapPoint& p) { return p.centroid.latitude; })),
+          longitudes_(rangeOf(points, [](const MapPoint& p) { return p.centroid.longitude; })) {
         // Fields on both sides of the 180th meridian may be near each other.
         const Range shifted = rangeOf(points, eastward);
         if (shifted.span() < longitudes_.span()) {
@@ -157,21 +167,21 @@ private:
         const int decimals = std::max(0, static_cast<int>(std::ceil(-std::log10(step) - 1e-9)));
         const double halfHeight = height_ / 2.0 / scale_;
         const Range shown{latitudes_.middle() - halfHeight, latitudes_.middle() + halfHeight};
-        for (double i = std::ceil(shown.from / step); i * step < shown.to; ++i) {
-            const double at = y(i * step);
+        for (const double latitude : multiples(step, shown)) {
+            const double at = y(latitude);
             text_ += fmt::format("<path class=\"grid\" d=\"M0 {0:.1f}H{1}\"/>\n", at, width);
             if (at > margin && at < height_ - margin)
-                writeDegrees(4.0, at - 4.0, latitudeText(i * step, decimals));
+                writeDegrees(4.0, at - 4.0, latitudeText(latitude, decimals));
         }
         const double across = roundDown(distance / scale_ / shrink_);
         const int places = std::max(0, static_cast<int>(std::ceil(-std::log10(across) - 1e-9)));
         const double halfWidth = width / 2.0 / scale_ / shrink_;
         const Range wide{longitudes_.middle() - halfWidth, longitudes_.middle() + halfWidth};
-        for (double i = std::ceil(wide.from / across); i * across < wide.to; ++i) {
-            const double at = x(i * across);
+        for (const double longitude : multiples(across, wide)) {
+            const double at = x(longitude);
             text_ += fmt::format("<path class=\"grid\" d=\"M{:.1f} 0V{:.0f}\"/>\n", at, height_);
             if (at < width - sideMargin)
-                writeDegrees(at + 4.0, 20.0, longitudeText(i * across, places));
+                writeDegrees(at + 4.0, 20.0, longitudeText(longitude, places));
         }
     }
 
@@ -260,8 +270,8 @@ private:
     }
 
     const std::vector<MapPoint>& points_;
-    Range latitudes_{};
-    Range longitudes_{};
+    Range latitudes_;
+    Range longitudes_;
     bool shifted_ = false; // whether longitudes are counted from 0 to 360
     double shrink_ = 1.0;  // how much shorter a degree of longitude is
     double scale_ = 1.0;   // units of the picture per degree of latitude
