@@ -5,17 +5,14 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <functional>
-#include <stdexcept>
 #include <string>
 
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 
-#include "parser/QenXmlParser.h"
+#include "bench/Operations.h"
+#include "bench/PackageFile.h"
 
 namespace {
 
@@ -50,92 +47,54 @@ std::string package(const std::string& farms) {
            "</Grower></RecPackage>";
 }
 
-/// A package file for the time of a benchmark.
-class PackageFile {
-public:
-    explicit PackageFile(const std::string& content)
-        : path_(std::filesystem::temp_directory_path() / (identifier(0) + ".xml")) {
-        std::ofstream file(path_, std::ios::binary);
-        file << content;
-        if (!file.flush())
-            throw std::runtime_error("cannot write " + path_.string());
-    }
-    PackageFile(const PackageFile&) = delete;
-    PackageFile& operator=(const PackageFile&) = delete;
-    ~PackageFile() { std::filesystem::remove(path_); }
-
-    std::string path() const { return path_.string(); }
-
-private:
-    std::filesystem::path path_;
-};
-
 using Item = std::function<std::string(std::uint64_t)>;
 using Around = std::function<std::string(const std::string&)>;
 
-void readPackage(const std::string& path) {
-    QenXmlParser parser;
-    if (!parser.parseFile(path))
-        std::abort();
-    benchmark::DoNotOptimize(parser);
-}
-
-void loadDocument(const std::string& path) {
-    pugi::xml_document document;
-    if (!document.load_file(path.c_str()))
-        std::abort();
-    benchmark::DoNotOptimize(document);
-}
-
-template <void (*Measured)(const std::string& path)>
-void measure(benchmark::State& state, const Item& item, const Around& around) {
+void measure(benchmark::State& state, const char* operationName, const Item& item,
+             const Around& around) {
     const auto children = static_cast<std::uint64_t>(state.range(0));
     std::string items;
     for (std::uint64_t i = 1; i <= children; ++i)
         items += item(i);
-    const PackageFile file(around(items));
+    const bench::PackageFile file(around(items));
+    const bench::Operation operation = bench::operationNamed(operationName, {file.path()});
     for (auto _ : state) {
         // Otherwise short lists would find memory that the reading before them had left, long ones
         // not: the allocator gives large amounts back. A host reads a package once, in new memory.
-        state.PauseTiming();
         malloc_trim(0);
-        state.ResumeTiming();
-        Measured(file.path());
+        state.SetIterationTime(bench::secondsOf(operation));
     }
     state.counters["per_child"] = benchmark::Counter(static_cast<double>(children),
                                                      benchmark::Counter::kIsIterationInvariantRate |
                                                          benchmark::Counter::kInvert);
 }
 
-template <void (*Measured)(const std::string& path)>
-void recs(benchmark::State& state) {
-    measure<Measured>(state, rec,
-                      [](const std::string& items) { return package(farm(1, field(1, items))); });
+void recs(benchmark::State& state, const char* operationName) {
+    measure(state, operationName, rec,
+            [](const std::string& items) { return package(farm(1, field(1, items))); });
 }
 
-template <void (*Measured)(const std::string& path)>
-void fields(benchmark::State& state) {
-    measure<Measured>(
-        state, [](std::uint64_t number) { return field(number); },
+void fields(benchmark::State& state, const char* operationName) {
+    measure(
+        state, operationName, [](std::uint64_t number) { return field(number); },
         [](const std::string& items) { return package(farm(1, items)); });
 }
 
-template <void (*Measured)(const std::string& path)>
-void farms(benchmark::State& state) {
-    measure<Measured>(
-        state, [](std::uint64_t number) { return farm(number); },
+void farms(benchmark::State& state, const char* operationName) {
+    measure(
+        state, operationName, [](std::uint64_t number) { return farm(number); },
         [](const std::string& items) { return package(items); });
 }
 
 void lengths(benchmark::internal::Benchmark* benchmark) {
-    benchmark->Arg(1000)->Arg(10'000)->Arg(200'000)->Unit(benchmark::kMillisecond);
+    benchmark->Arg(1000)->Arg(10'000)->Arg(200'000)->UseManualTime()->Unit(benchmark::kMillisecond);
 }
 
-BENCHMARK(recs<loadDocument>)->Apply(lengths);
-BENCHMARK(recs<readPackage>)->Apply(lengths);
-BENCHMARK(fields<loadDocument>)->Apply(lengths);
-BENCHMARK(fields<readPackage>)->Apply(lengths);
-BENCHMARK(farms<loadDocument>)->Apply(lengths);
-BENCHMARK(farms<readPackage>)->Apply(lengths);
+BENCHMARK_CAPTURE(recs, load, "load")->Apply(lengths);
+BENCHMARK_CAPTURE(recs, parse, "parse")->Apply(lengths);
+BENCHMARK_CAPTURE(fields, load, "load")->Apply(lengths);
+BENCHMARK_CAPTURE(fields, parse, "parse")->Apply(lengths);
+BENCHMARK_CAPTURE(farms, load, "load")->Apply(lengths);
+BENCHMARK_CAPTURE(farms, parse, "parse")->Apply(lengths);
 
 } // namespace

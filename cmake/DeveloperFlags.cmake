@@ -6,7 +6,7 @@ option(QENXML_COVERAGE "Count the executed lines and branches" OFF)
 
 add_library(qenxml_developer_flags INTERFACE)
 target_compile_features(qenxml_developer_flags INTERFACE cxx_std_17)
-if(QENXML_DEVELOPER)
+if(QENXML_DEVELOPER OR QENXML_BENCHMARKS)
     target_compile_options(qenxml_developer_flags INTERFACE
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor
         $<$<BOOL:${QENXML_WARNINGS_AS_ERRORS}>:-Werror>)

@@ -1,0 +1,28 @@
+// Deep copies of growers, as getGrowers() makes them.
+
+#include <cstddef>
+
+#include <benchmark/benchmark.h>
+
+#include "bench/Operations.h"
+#include "bench/PackageFile.h"
+#include "bench/PackageGenerator.h"
+
+namespace {
+
+void copy(benchmark::State& state) {
+    const bench::PackageFile file(bench::generatePackage(static_cast<std::size_t>(state.range(0))));
+    const bench::Operation operation = bench::operationNamed("copy", {file.path()});
+    for (auto _ : state)
+        state.SetIterationTime(bench::secondsOf(operation));
+    state.SetBytesProcessed(state.iterations() * state.range(0));
+}
+
+BENCHMARK(copy)
+    ->Arg(43'000)
+    ->Arg(1'000'000)
+    ->Arg(20'000'000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+} // namespace

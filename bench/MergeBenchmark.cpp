@@ -1,0 +1,43 @@
+// Merging the growers of two packages that share half of their fields. The time of copying both is
+// the yardstick.
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+#include "bench/Operations.h"
+#include "bench/PackageFile.h"
+#include "bench/PackageGenerator.h"
+
+namespace {
+
+/// Done anew for each iteration, because merging changes what it merges into.
+void measure(benchmark::State& state, const std::string& operationName) {
+    bench::PackageShape shape;
+    shape.bytes = static_cast<std::size_t>(state.range(0));
+    const bench::PackageFile first(bench::generatePackage(shape));
+    shape.firstField = shape.fieldsPerFarm / 2;
+    const bench::PackageFile second(bench::generatePackage(shape));
+    const std::vector<std::string> files = {first.path(), second.path()};
+    for (auto _ : state)
+        state.SetIterationTime(bench::secondsOf(bench::operationNamed(operationName, files)));
+}
+
+void copyBoth(benchmark::State& state) {
+    measure(state, "copy");
+}
+
+void merge(benchmark::State& state) {
+    measure(state, "merge");
+}
+
+void sizes(benchmark::internal::Benchmark* benchmark) {
+    benchmark->Arg(1'000'000)->Arg(20'000'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+}
+
+BENCHMARK(copyBoth)->Apply(sizes);
+BENCHMARK(merge)->Apply(sizes);
+
+} // namespace

@@ -1,0 +1,125 @@
+/// @file
+/// A package as plain structs: what readers other than the library's read into, and what tells
+/// whether two readers have read the same.
+
+#ifndef QENXML_BENCH_PLAINTREE_H
+#define QENXML_BENCH_PLAINTREE_H
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <boost/uuid/uuid.hpp>
+
+#include "model/QenGrower.h"
+
+namespace bench::plain {
+
+struct CommercialFertilizer {
+    boost::uuids::uuid recId{};
+    int productId = 0;
+    std::string productName;
+    int uomId = 0;
+    std::string uom;
+};
+
+struct CustomFertilizer {
+    boost::uuids::uuid recId{};
+    boost::uuids::uuid productId{};
+    std::string productName;
+    int uomId = 0;
+    std::string uom;
+    int typeId = 0;
+    double gravity = 0.0;
+    double n = 0.0, p = 0.0, k = 0.0, ca = 0.0, mg = 0.0, s = 0.0, fe = 0.0, mn = 0.0, zn = 0.0,
+           cu = 0.0, b = 0.0, mo = 0.0, cl = 0.0;
+};
+
+struct Planting {
+    boost::uuids::uuid recId{};
+    int cropId = 0;
+    std::string cropName;
+    int companyId = 0;
+    std::string companyName;
+    int varietyId = 0;
+    std::string varietyName;
+    int uomId = 0;
+    std::string uom;
+};
+
+struct Rec {
+    boost::uuids::uuid fieldId{};
+    boost::uuids::uuid fieldGeometryId{};
+    std::string name;
+    boost::uuids::uuid id{};
+    boost::uuids::uuid geometry{};
+    std::string creationDate;
+    std::string editDate;
+    std::string dbfCol;
+    std::string operationName;
+    boost::uuids::uuid operationId{};
+    std::string seasonName;
+    int seasonId = -1;
+    boost::uuids::uuid zoneId{};
+    // At most one of the three.
+    std::unique_ptr<CommercialFertilizer> commercialFertilizer;
+    std::unique_ptr<CustomFertilizer> customFertilizer;
+    std::unique_ptr<Planting> planting;
+    double minimumRate = 0.0;
+    double maximumRate = 0.0;
+    double averageRate = 0.0;
+    int rateUomId = 0;
+    std::string rateUom;
+    double total = 0.0;
+    int totalUomId = 0;
+    std::string totalUom;
+    double area = 0.0;
+    int areaUomId = 0;
+    std::string areaUom;
+    bool isUsed = false;
+    boost::uuids::uuid package{};
+};
+
+struct Field {
+    std::string name;
+    boost::uuids::uuid id{};
+    boost::uuids::uuid growerId{};
+    boost::uuids::uuid farmId{};
+    boost::uuids::uuid geometryId{};
+    std::string geometryDate;
+    boost::uuids::uuid geometryFile{};
+    double latitude = 0.0;
+    double longitude = 0.0;
+    double altitude = 0.0;
+    std::vector<Rec> recs;
+};
+
+struct Farm {
+    std::string name;
+    boost::uuids::uuid id{};
+    boost::uuids::uuid growerId{};
+    std::vector<Field> fields;
+};
+
+struct Grower {
+    std::string name;
+    boost::uuids::uuid id{};
+    std::vector<Farm> farms;
+};
+
+// Everything is compared, doubles bit for bit.
+bool operator==(const CommercialFertilizer& left, const CommercialFertilizer& right);
+bool operator==(const CustomFertilizer& left, const CustomFertilizer& right);
+bool operator==(const Planting& left, const Planting& right);
+bool operator==(const Rec& left, const Rec& right);
+bool operator==(const Field& left, const Field& right);
+bool operator==(const Farm& left, const Farm& right);
+bool operator==(const Grower& left, const Grower& right);
+
+/// @throws std::runtime_error for a record that the structs have no room for: a field without
+///         exactly one geometry, a rec with product data of another kind
+std::vector<Grower> fromLibrary(std::vector<QenGrower> growers);
+
+} // namespace bench::plain
+
+#endif
