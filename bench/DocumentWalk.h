@@ -30,7 +30,8 @@ public:
 
 private:
     static bool is(Element element, const char* name) {
-        return std::strcmp(element.name(), name) == 0;
+        // Most names differ in the first letter.
+        return *element.name() == *name && std::strcmp(element.name(), name) == 0;
     }
 
     template <class Record, std::size_t N>

@@ -3,7 +3,7 @@
 # Debian packages per purpose.
 packages_run="g++ cmake ninja-build libpugixml-dev libboost-dev libboost-system-dev libcli11-dev libfmt-dev nlohmann-json3-dev"
 packages_test="$packages_run libgtest-dev librapidcheck-dev binutils libxml2-utils pkgconf python3-jsonschema tidy mandoc"
-packages_bench="$packages_run libbenchmark-dev"
+packages_bench="$packages_run libbenchmark-dev python3 valgrind"
 packages_reference="$packages_run doxygen"
 packages_check="$packages_test $packages_reference clang clang-tidy clang-format libclang-rt-14-dev cppcheck valgrind gcovr git zsh fish"
 packages_abi="$packages_run abigail-tools"

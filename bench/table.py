@@ -1,0 +1,193 @@
+"""Prints one table of what the library costs, relative to loading the document alone.
+
+Called by scripts/bench with the folder of the programs. Times are medians of rounds in which each
+operation is measured once, one after the other, so that what slows the machine down slows all of
+them down.
+"""
+
+import os
+import pathlib
+import platform
+import statistics
+import sys
+import tempfile
+
+import programs as measuring
+import record
+
+KB = 1000
+MB = 1000 * KB
+SMALL = 43 * KB
+LARGE = 20 * MB
+ROUNDS = 15
+
+LABELS = {
+    "hand": "pugixml, written by hand",
+    "libxml2": "libxml2 SAX2",
+    "expat": "expat",
+    "tinyxml2": "tinyxml2",
+}
+
+
+def processor():
+    for line in pathlib.Path("/proc/cpuinfo").read_text().splitlines():
+        if line.startswith("model name"):
+            return line.partition(":")[2].strip()
+    return platform.machine()
+
+
+def rounds(measurements, count=ROUNDS):
+    """Takes each measurement once per round. Returns the results of each, in order."""
+    results = {name: [] for name in measurements}
+    for number in range(count):
+        for name, measure in measurements.items():
+            results[name].append(measure())
+        print(f"\r  round {number + 1} of {count} ", end="", file=sys.stderr, flush=True)
+    print(file=sys.stderr)
+    return results
+
+
+def median(results, key="seconds"):
+    return statistics.median(result[key] for result in results)
+
+
+def row(label, value, limit=None):
+    if limit is None:
+        return f"| {label} | {value:.2f} | | |"
+    return f"| {label} | {value:.2f} | {limit:.2f} | {'holds' if value <= limit else '**missed**'} |"
+
+
+def reading(programs, size, repetitions, operations, limits):
+    """Rows of the time of reading onto records or structs, relative to loading."""
+    path = programs.package(size)
+    programs.verify(path)
+    times = rounds({operation: lambda operation=operation: programs.time(
+        operation, [path], repetitions) for operation in operations})
+    load = median(times["load"])
+    title = f"{size // MB} MB, fresh process" if size >= MB else f"{size // KB} kB, repeated"
+    for operation in operations[1:]:
+        label = {"parse": "`parseFile`", "parse+copy": "`parseFile` + `getGrowers`"}.get(
+            operation, LABELS.get(operation))
+        yield row(f"{label}, {title}, x load", median(times[operation]) / load,
+                  limits.get(operation))
+    if size == LARGE:
+        # Not the median: a lower peak can only be the same work in luckier places.
+        peak = max(result["peak"] for result in times["parse"])
+        yield row("peak memory of `parseFile`, 20 MB, x file size", peak / path.stat().st_size, 4.1)
+
+
+def growth(programs):
+    """Rows of the time per MB of a large package against that of a small one."""
+    small, large = programs.package(1 * MB), programs.package(200 * MB)
+    times = rounds({
+        "small": lambda: programs.time("parse", [small]),
+        "large": lambda: programs.time("parse", [large]),
+        "load small": lambda: programs.time("load", [small]),
+        "load large": lambda: programs.time("load", [large]),
+    }, count=7)
+    sizes = large.stat().st_size / small.stat().st_size
+    yield row("time of `parseFile` per MB at 200 MB against 1 MB, fresh processes",
+              median(times["large"]) / median(times["small"]) / sizes, 1.1)
+    yield row("the same of `load_file` alone",
+              median(times["load large"]) / median(times["load small"]) / sizes)
+
+
+def merging(programs):
+    files = programs.overlapping(LARGE)
+    times = rounds({operation: lambda operation=operation: programs.time(operation, files)
+                    for operation in ("copy", "merge")})
+    yield row("merging two 20 MB trees that overlap by half, x a deep copy of both",
+              median(times["merge"]) / median(times["copy"]), 3)
+
+
+def instructions(programs):
+    path = [programs.package(2 * MB)]
+    load = programs.instructions("load", path)
+    for operation, limit in (("parse", 1.75), ("hand", None)):
+        label = "`parseFile`" if operation == "parse" else LABELS[operation]
+        yield row(f"instructions of {label}, 2 MB, x load",
+                  programs.instructions(operation, path) / load, limit)
+    yield row("instructions of `load_file` per byte, 2 MB", load / path[0].stat().st_size)
+
+
+def memory(programs):
+    counts = programs.allocations(programs.overlapping(2 * MB))
+    yield ("| Memory per rec of generated packages | allocations | bytes asked for | bytes kept |\n"
+           "|---|---|---|---|")
+    labels = {"load": "`load_file`", "parse": "`parseFile`, the document included",
+              "copy": "a deep copy", "merge": "merging, the recs of both packages counted"}
+    for operation, label in labels.items():
+        of = counts[operation]
+        yield f"| {label} | {of['allocations']:.2f} | {of['bytes']:.0f} | {of['living']:.0f} |"
+
+
+def look_ups(programs):
+    path = programs.package(1 * MB)
+    results = rounds({"all": lambda: programs.look_ups(path)}, count=5)["all"]
+    yield "| Look-up in a field of 6 recs | ns |\n|---|---|"
+    for name in results[0]:
+        yield f"| `{name}` | {1e9 * statistics.median(each[name] for each in results):.0f} |"
+
+
+def table(programs):
+    readers = programs.readers()
+    print(f"{processor()}, {os.cpu_count()} cores; load average before {os.getloadavg()[0]:.1f}. "
+          f"Medians of interleaved rounds.\n")
+    print("| | ratio | limit | |\n|---|---|---|---|", flush=True)
+    for lines in (
+        reading(programs, LARGE, 1, ["load", "parse", "parse+copy", *readers],
+                {"parse": 1.55, "parse+copy": 1.77}),
+        reading(programs, SMALL, 1000, ["load", "parse", *readers], {"parse": 1.45}),
+        instructions(programs),
+        growth(programs),
+        merging(programs),
+        [""], memory(programs), [""], look_ups(programs),
+    ):
+        for line in lines:
+            print(line, flush=True)
+
+
+def compare(programs, library):
+    """Prints the times of this library and of the one in another folder."""
+    if not (pathlib.Path(library) / "libqenxml.so.1").exists():
+        raise SystemExit(f"There is no libqenxml.so.1 in {library}.")
+    files = programs.overlapping(LARGE)
+    cases = {
+        "`parseFile`, 43 kB, repeated": ("parse", [programs.package(SMALL)], 1000),
+        "`parseFile`, 20 MB": ("parse", files[:1], 1),
+        "`parseFile` + `getGrowers`, 20 MB": ("parse+copy", files[:1], 1),
+        "deep copy, two of 20 MB": ("copy", files, 1),
+        "merging two of 20 MB": ("merge", files, 1),
+    }
+    measurements = {}
+    for name, (operation, paths, repetitions) in cases.items():
+        for folder in (None, library):
+            measurements[name, folder] = lambda a=(operation, paths, repetitions, folder): (
+                programs.time(*a))
+    times = rounds(measurements)
+    print(f"| | this, ms | {library}, ms | ratio |\n|---|---|---|---|")
+    for name in cases:
+        this, other = (1e3 * median(times[name, folder]) for folder in (None, library))
+        print(f"| {name} | {this:.3f} | {other:.3f} | {this / other:.3f} |")
+    this, other = (programs.instructions("parse", [programs.package(2 * MB)], folder) / 1e6
+                   for folder in (None, library))
+    print(f"| million instructions of `parseFile`, 2 MB | {this:.3f} | {other:.3f} "
+          f"| {this / other:.3f} |")
+
+
+def main(folder, action="", library=None):
+    with tempfile.TemporaryDirectory(prefix="qenxml-bench-") as packages:
+        programs = measuring.Programs(folder, packages)
+        if action == "--compare":
+            compare(programs, library)
+        elif action == "--record":
+            record.record(programs)
+        elif action == "--check":
+            return 0 if record.check(programs) else 1
+        else:
+            table(programs)
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(*sys.argv[1:]))
