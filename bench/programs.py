@@ -9,6 +9,8 @@ import subprocess
 # Without the C library's functions for newer processors, so that every machine counts the same.
 PLAIN_PROCESSOR = "glibc.cpu.hwcaps=-AVX2,-ERMS,-FSRM,-AVX_Fast_Unaligned_Load"
 
+PEERS = "measure_peers"
+
 PACKAGE = "00112233-4455-6677-8899-aabbccddeeff.xml"
 
 
@@ -43,17 +45,18 @@ class Programs:
         """The paths of two packages that share half of their fields: 6 of the 12 of each farm."""
         return [self.package(size), self.package(size, first_field=6)]
 
-    def verify(self, path):
+    def verify(self, path, program="measure"):
         """Fails when a reader reads other values than the library."""
-        self._run("measure", "verify", path)
+        self._run(program, "verify", path)
 
-    def readers(self):
-        return self._run("measure", "readers").stdout.split()
+    def peers(self):
+        """The readers of other XML libraries that were built."""
+        return self._run(PEERS, "readers").stdout.split()[1:]
 
-    def time(self, operation, files, repetitions=1, library=None):
+    def time(self, operation, files, repetitions=1, library=None, program="measure"):
         """The median time in seconds, and the peak memory of the process in bytes."""
-        output = self._run("measure", "time", operation, repetitions, *files, library=library).stdout
-        return json.loads(output)
+        return json.loads(
+            self._run(program, "time", operation, repetitions, *files, library=library).stdout)
 
     def look_ups(self, path):
         """Seconds per look-up, by name."""
@@ -61,10 +64,10 @@ class Programs:
 
     def instructions(self, operation, files, library=None, tunables=None):
         """How many an operation executes, without the start of the process."""
-        output = self._run("measure", "once", operation, *files, library=library, tunables=tunables,
-                           before=[
-            "valgrind", "--tool=callgrind", "--toggle-collect=measured_operation",
-            "--callgrind-out-file=/dev/null"]).stderr
+        callgrind = ["valgrind", "--tool=callgrind", "--toggle-collect=measured_operation",
+                     "--callgrind-out-file=/dev/null"]
+        output = self._run("measure", "once", operation, *files, library=library,
+                           tunables=tunables, before=callgrind).stderr
         count = int(re.search(r"Collected : (\d+)", output).group(1))
         if count == 0:
             raise SystemExit(f"callgrind has not counted the operation {operation}")
