@@ -33,7 +33,12 @@ using Operation = std::function<Result()>;
 ///         read
 Operation operationNamed(const std::string& name, const std::vector<std::string>& files);
 
-/// How long it takes, without releasing the result.
+/// The time that the processor has spent on this process, in seconds. The operations have one
+/// thread and wait for nothing (their files are in the page cache), so that on an idle machine it
+/// is the time that passes; on a busy one it leaves out the waiting for the processor.
+double processorSeconds();
+
+/// How long an operation takes, without releasing the result.
 double secondsOf(const Operation& operation);
 
 /// What a package holds.

@@ -2,11 +2,12 @@
 // table of the results, which go to stdout as JSON.
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
-#include <fstream>
-#include <iostream>
 #include <map>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -28,16 +29,18 @@ namespace {
 
 using Arguments = std::vector<std::string>;
 
-/// The largest amount of memory that this process has had. Not that of getrusage(), which may be
-/// inherited from the process that started this one.
-long long peakMemory() {
-    std::ifstream status("/proc/self/status");
-    const std::string field = "VmHWM:";
-    for (std::string line; std::getline(status, line);) {
-        if (line.compare(0, field.size(), field) == 0)
-            return 1024 * std::stoll(line.substr(field.size()));
+/// A field of /proc/self/status in bytes: VmRSS is the memory that this process has now, VmHWM the
+/// most that it has had. The latter is not that of getrusage(), which may be inherited from the
+/// process that started this one. Read without streams, which would take memory of their own.
+long long memory(const std::string& field) {
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> status(
+        std::fopen("/proc/self/status", "r"), std::fclose);
+    std::array<char, 256> line{};
+    while (status != nullptr && std::fgets(line.data(), line.size(), status.get()) != nullptr) {
+        if (field.compare(0, field.size(), line.data(), field.size()) == 0)
+            return 1024 * std::strtoll(line.data() + field.size() + 1, nullptr, 10);
     }
-    throw std::runtime_error("no VmHWM in /proc/self/status");
+    throw std::runtime_error("no " + field + " in /proc/self/status");
 }
 
 void generate(const Arguments& arguments) {
@@ -45,17 +48,21 @@ void generate(const Arguments& arguments) {
     shape.bytes = std::stoul(arguments.at(1));
     if (arguments.size() > 2)
         shape.firstField = std::stoul(arguments[2]);
+    if (arguments.size() > 3)
+        shape.seed = std::stoul(arguments[3]);
     bench::writeFile(arguments[0], bench::generatePackage(shape));
 }
 
 void timeRepeatedly(const Arguments& arguments) {
     const Arguments files(arguments.begin() + 2, arguments.end());
     const bench::Operation operation = bench::operationNamed(arguments.at(0), files);
+    const long long before = memory("VmRSS");
     std::vector<double> seconds(std::stoul(arguments.at(1)));
     std::generate(seconds.begin(), seconds.end(), [&] { return bench::secondsOf(operation); });
     std::sort(seconds.begin(), seconds.end());
-    std::printf("{\"seconds\": %.9f, \"peak\": %lld}\n", seconds.at(seconds.size() / 2),
-                peakMemory());
+    const long long peak = memory("VmHWM");
+    std::printf("{\"seconds\": %.9f, \"peak\": %lld, \"added\": %lld}\n",
+                seconds.at(seconds.size() / 2), peak, peak - before);
 }
 
 void once(const Arguments& arguments) {
@@ -78,7 +85,7 @@ void lookUps(const Arguments& arguments) {
 
 void listReaders(const Arguments& /*arguments*/) {
     for (const bench::Reader& reader : bench::readers())
-        std::cout << reader.name << '\n';
+        std::puts(reader.name);
 }
 
 /// Every reader has to read what the library reads.
@@ -99,7 +106,7 @@ void verify(const Arguments& arguments) {
 
 int main(int argc, char** argv) {
     const std::map<std::string, void (*)(const Arguments&)> commands = {
-        {"generate", generate},                       // FILE BYTES [FIRST-FIELD]
+        {"generate", generate},                       // FILE BYTES [FIRST-FIELD [SEED]]
         {"time", timeRepeatedly},                     // OPERATION REPETITIONS FILE...
         {"once", once},                               // OPERATION FILE...
         {"look-ups", lookUps},                        // FILE
@@ -109,7 +116,7 @@ int main(int argc, char** argv) {
         commands.at(argv[std::min(argc - 1, 1)])(Arguments(argv + std::min(argc, 2), argv + argc));
         return 0;
     } catch (const std::exception& error) {
-        std::cerr << "measure: " << error.what() << '\n';
+        std::fprintf(stderr, "measure: %s\n", error.what());
         return 1;
     }
 }

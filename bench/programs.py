@@ -33,12 +33,12 @@ class Programs:
             raise SystemExit(f"{' '.join(command)} failed:\n{result.stderr}")
         return result
 
-    def package(self, size, first_field=0):
+    def package(self, size, first_field=0, seed=1):
         """The path of a generated package of a size in bytes."""
-        path = self.packages / f"{size}-{first_field}" / PACKAGE
+        path = self.packages / f"{size}-{first_field}-{seed}" / PACKAGE
         if not path.exists():
             path.parent.mkdir()
-            self._run("measure", "generate", path, size, first_field)
+            self._run("measure", "generate", path, size, first_field, seed)
         return path
 
     def overlapping(self, size):
