@@ -44,7 +44,7 @@ Result parseAndCopy(const std::string& path) {
 using Trees = std::vector<std::vector<QenGrower>>;
 
 std::shared_ptr<Trees> treesOf(const std::vector<std::string>& files) {
-    const auto trees = std::make_shared<Trees>();
+    auto trees = std::make_shared<Trees>();
     for (const std::string& file : files)
         trees->push_back(growersOf(file));
     return trees;
@@ -67,7 +67,7 @@ Operation preparedMerge(const std::vector<std::string>& files) {
 } // namespace
 
 Operation operationNamed(const std::string& name, const std::vector<std::string>& files) {
-    const std::string path = files.at(0);
+    const std::string& path = files.at(0);
     if (name == "load")
         return [path] { return load(path); };
     if (name == "parse")
