@@ -10,7 +10,7 @@
 #include "fuzz/Require.h"
 #include "parser/QenXmlParser.h"
 #include "tools/Escape.h"
-#include "tools/PackageCheck.h"
+#include "tools/check/PackageCheck.h"
 
 namespace {
 

@@ -12,12 +12,12 @@
 #include <fmt/format.h>
 
 #include "tools/Escape.h"
-#include "tools/FindingJson.h"
-#include "tools/FindingSummary.h"
-#include "tools/NameSuggestion.h"
-#include "tools/PackageCheck.h"
 #include "tools/PackageFiles.h"
 #include "tools/ProgressLine.h"
+#include "tools/check/FindingJson.h"
+#include "tools/check/FindingSummary.h"
+#include "tools/check/NameSuggestion.h"
+#include "tools/check/PackageCheck.h"
 
 namespace {
 

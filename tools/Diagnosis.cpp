@@ -4,7 +4,7 @@
 
 #include <fmt/format.h>
 
-#include "tools/PackageCheck.h"
+#include "tools/check/PackageCheck.h"
 
 namespace {
 

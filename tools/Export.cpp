@@ -8,14 +8,14 @@
 #include <fmt/format.h>
 
 #include "tools/Escape.h"
-#include "tools/ExportCsv.h"
-#include "tools/ExportFormat.h"
-#include "tools/ExportGeoJson.h"
-#include "tools/ExportJson.h"
 #include "tools/MergedGrowers.h"
 #include "tools/Output.h"
 #include "tools/PackageInput.h"
 #include "tools/PackageReading.h"
+#include "tools/export/ExportCsv.h"
+#include "tools/export/ExportFormat.h"
+#include "tools/export/ExportGeoJson.h"
+#include "tools/export/ExportJson.h"
 
 namespace {
 

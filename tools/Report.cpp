@@ -7,11 +7,11 @@
 #include <vector>
 
 #include "tools/Output.h"
-#include "tools/PackageCheck.h"
 #include "tools/PackageInput.h"
 #include "tools/PackageReading.h"
-#include "tools/ReportData.h"
-#include "tools/ReportPage.h"
+#include "tools/check/PackageCheck.h"
+#include "tools/report/ReportData.h"
+#include "tools/report/ReportPage.h"
 
 namespace {
 

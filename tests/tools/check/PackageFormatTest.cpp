@@ -1,0 +1,41 @@
+#include "tools/check/PackageFormat.h"
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "parser/TagNames.h"
+
+namespace tag = qenxml::tag;
+
+namespace {
+
+bool belongsToPesticides(const char* name) {
+    // From the second "ProductID" on; "Percent" and "Amount" stand elsewhere in the list.
+    bool inRange = false;
+    for (const char* other : tag::all) {
+        inRange = (inRange || other == tag::PesticideProductID) && other != tag::RecStats;
+        if (inRange && name == other)
+            return true;
+    }
+    return name == tag::Percent || name == tag::Amount;
+}
+
+TEST(PackageFormat, HasAPlaceForEveryNameThatIsRead) {
+    for (const char* name : tag::all) {
+        if (name == tag::RecPackage || belongsToPesticides(name))
+            continue;
+        EXPECT_NE(placesOf(name), "") << name;
+    }
+}
+
+TEST(PackageFormat, SaysWhereANameIsRead) {
+    EXPECT_EQ(placesOf("RecID"), "as an attribute of Rec");
+    EXPECT_EQ(placesOf("Latitude"), "in FieldCentroid");
+    EXPECT_EQ(placesOf("Rec"), "in Recommendations");
+    EXPECT_EQ(placesOf("ProductID"), "in CommercialFertilizer or in CustomFertilizer");
+    EXPECT_EQ(placesOf("recid"), "");
+    EXPECT_EQ(placesOf("RegCode"), ""); // of a pesticide, which is not read
+}
+
+} // namespace

@@ -1,0 +1,112 @@
+/// @file
+/// All that `qenxml check` can find: the only home of the codes, their severities and titles.
+
+#ifndef QENXML_TOOLS_CHECK_FINDINGCODES_H
+#define QENXML_TOOLS_CHECK_FINDINGCODES_H
+
+#include <array>
+#include <cstddef>
+
+/// How bad a finding is, the least first.
+enum class Severity {
+    Note,    ///< Read as it is written, but hardly meant so.
+    Warning, ///< Read, but something of it is lost or changed.
+    Error    ///< Reading the package fails here.
+};
+
+// FINDING(name of the constant, code, severity, title). docs/findings.md explains each code.
+#define QENXML_FINDINGS(FINDING)                                                                   \
+    FINDING(Unreadable, "unreadable", Error, "the file cannot be read")                            \
+    FINDING(PathTooShort, "path-too-short", Error, "the path is too short for a package UUID")     \
+    FINDING(NameWithoutUuid, "name-without-uuid", Error, "the file name has no package UUID")      \
+    FINDING(NotWellFormed, "not-well-formed", Error, "the file is not well-formed XML")            \
+    FINDING(NoRecPackage, "no-recpackage", Error, "the root element is not RecPackage")            \
+    FINDING(GrowerId, "grower-id", Error, "a grower has no readable identifier")                   \
+    FINDING(FarmId, "farm-id", Error, "a farm has no readable identifier")                         \
+    FINDING(FieldId, "field-id", Error, "a field has no readable identifier")                      \
+    FINDING(FieldGeometryId, "field-geometry-id", Error,                                           \
+            "a field's geometry has no readable identifier")                                       \
+    FINDING(GeometryFileId, "geometry-file-id", Error,                                             \
+            "a field's geometry file has no readable identifier")                                  \
+    FINDING(RecId, "rec-id", Error, "a rec has no readable identifier")                            \
+    FINDING(RecGeometryId, "rec-geometry-id", Error,                                               \
+            "a rec's geometry has no readable identifier")                                         \
+    FINDING(OperationId, "operation-id", Error, "an operation has no readable identifier")         \
+    FINDING(ManagementZoneId, "management-zone-id", Error,                                         \
+            "a management zone has an unreadable identifier")                                      \
+    FINDING(BlendId, "custom-fertilizer-product-id", Error,                                        \
+            "a custom fertilizer has no readable identifier")                                      \
+    FINDING(AfterList, "element-after-list", Error, "something follows the items of a list")       \
+    FINDING(NameNotUuid, "name-not-uuid", Warning, "the file is not named by a UUID")              \
+    FINDING(InvalidUtf8, "invalid-utf8", Warning, "the file holds bytes that are not UTF-8")       \
+    FINDING(NoGrower, "no-grower", Warning, "the package has no grower")                           \
+    FINDING(BeforeList, "item-before-list", Warning, "something before a list is skipped")         \
+    FINDING(OtherNameInList, "other-name-in-list", Warning,                                        \
+            "an item of a list has the wrong name")                                                \
+    FINDING(IdentifierDigit, "identifier-digit", Warning,                                          \
+            "an identifier holds a character that is no digit")                                    \
+    FINDING(IdentifierTrailing, "identifier-trailing", Warning, "text follows an identifier")      \
+    FINDING(DuplicateGrower, "duplicate-grower", Warning, "two growers have the same identifier")  \
+    FINDING(DuplicateFarm, "duplicate-farm", Warning, "two farms have the same identifier")        \
+    FINDING(DuplicateField, "duplicate-field", Warning, "two fields have the same identifier")     \
+    FINDING(DuplicateRec, "duplicate-rec", Warning, "two recs have the same identifier")           \
+    FINDING(NoProduct, "no-product", Warning, "a rec has no product")                              \
+    FINDING(ProductIncomplete, "product-incomplete", Warning, "a product is incomplete")           \
+    FINDING(ProductUnknown, "product-unknown", Warning, "a product is of an unknown kind")         \
+    FINDING(PesticideMix, "pesticide-mix", Warning, "a pesticide mix is not read")                 \
+    FINDING(TextBeforeProduct, "text-before-product", Warning, "text stands before a product")     \
+    FINDING(SecondProduct, "second-product", Warning, "a rec has more than one product")           \
+    FINDING(OperationNil, "operation-nil", Warning, "an operation has the nil identifier")         \
+    FINDING(SeasonNegative, "season-negative", Warning, "a season has a negative number")          \
+    FINDING(SeasonWithoutId, "season-without-id", Warning, "a season has no number")               \
+    FINDING(NotANumber, "not-a-number", Warning, "a number is not a number")                       \
+    FINDING(NumberCutOff, "number-cut-off", Warning, "a number is cut off")                        \
+    FINDING(NumberOutOfRange, "number-out-of-range", Warning, "a number is out of range")          \
+    FINDING(NumberNotFinite, "number-not-finite", Warning, "a number is infinite or undefined")    \
+    FINDING(UnknownElement, "unknown-element", Warning, "an element is unknown")                   \
+    FINDING(MisspeltElement, "misspelt-element", Warning, "an element may be misspelt")            \
+    FINDING(MisplacedElement, "misplaced-element", Warning, "an element stands in another one")    \
+    FINDING(RepeatedElement, "repeated-element", Warning, "an element is repeated")                \
+    FINDING(UnknownAttribute, "unknown-attribute", Warning, "an attribute is unknown")             \
+    FINDING(MisspeltAttribute, "misspelt-attribute", Warning, "an attribute may be misspelt")      \
+    FINDING(RepeatedAttribute, "repeated-attribute", Warning, "an attribute is repeated")          \
+    FINDING(StrayText, "stray-text", Warning, "text stands where none is read")                    \
+    FINDING(TextCutOff, "text-cut-off", Warning, "only the first part of a text is read")          \
+    FINDING(NoStatistics, "no-recstats", Warning, "a rec has no statistics")                       \
+    FINDING(StatisticsIncomplete, "recstats-incomplete", Note, "statistics are incomplete")        \
+    FINDING(RateOrder, "rate-order", Note, "minimum, average and maximum are out of order")        \
+    FINDING(RateWithoutUnit, "rate-without-unit", Note, "a rate has no unit")                      \
+    FINDING(CentroidRange, "centroid-range", Note, "coordinates are out of range")                 \
+    FINDING(CentroidZero, "centroid-zero", Note, "the centroid of a field is at (0, 0)")           \
+    FINDING(EmptyName, "empty-name", Note, "a record has no name")                                 \
+    FINDING(NilIdentifier, "nil-identifier", Note, "an identifier is nil")                         \
+    FINDING(NumberEmpty, "number-empty", Note, "an element for a number is empty")                 \
+    FINDING(NumberHexadecimal, "number-hexadecimal", Note, "a number is hexadecimal")
+
+/// What can be found.
+enum class FindingCode : std::size_t {
+#define QENXML_FINDING_CONSTANT(name, code, severity, title) name,
+    QENXML_FINDINGS(QENXML_FINDING_CONSTANT)
+#undef QENXML_FINDING_CONSTANT
+};
+
+/// What is the same for all findings of a code.
+struct FindingKind {
+    const char* code; ///< As people and programs write it.
+    Severity severity;
+    const char* title; ///< What is wrong, in general.
+};
+
+/// All kinds, in the order of FindingCode.
+inline constexpr std::array findingKinds = {
+#define QENXML_FINDING_KIND(name, code, severity, title)                                           \
+    FindingKind{code, Severity::severity, title},
+    QENXML_FINDINGS(QENXML_FINDING_KIND)
+#undef QENXML_FINDING_KIND
+};
+
+constexpr const FindingKind& kindOf(FindingCode code) {
+    return findingKinds[static_cast<std::size_t>(code)];
+}
+
+#endif

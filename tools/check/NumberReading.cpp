@@ -1,0 +1,114 @@
+#include "tools/check/NumberReading.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <cstring>
+
+#include <fmt/format.h>
+#include <pugixml.hpp>
+
+namespace {
+
+constexpr const char* whiteSpace = " \t\r\n";
+constexpr const char* decimalDigits = "0123456789";
+constexpr const char* hexadecimalDigits = "0123456789abcdefABCDEF";
+
+/// A text without what may come before every number.
+const char* unsignedPart(const char* text) {
+    text += std::strspn(text, whiteSpace);
+    return *text == '-' || *text == '+' ? text + 1 : text;
+}
+
+bool isHexadecimal(const char* text) {
+    const char* const number = unsignedPart(text);
+    return number[0] == '0' && (number[1] == 'x' || number[1] == 'X');
+}
+
+/// How many characters of a text the library takes for a whole number.
+std::size_t integerLength(const char* text) {
+    const char* number = unsignedPart(text);
+    const char* end = nullptr;
+    if (isHexadecimal(text)) {
+        end = number + 2 + std::strspn(number + 2, hexadecimalDigits);
+    } else {
+        end = number + std::strspn(number, decimalDigits);
+        if (end == number)
+            return 0;
+    }
+    return static_cast<std::size_t>(end - text);
+}
+
+/// What the XML library reads, which converts whole numbers for the library.
+int integerOf(const char* text) {
+    pugi::xml_document document;
+    pugi::xml_attribute attribute = document.append_child("n").append_attribute("n");
+    attribute.set_value(text);
+    return attribute.as_int();
+}
+
+bool isRest(const char* text) {
+    return text[std::strspn(text, whiteSpace)] != '\0';
+}
+
+/// Finds the oddity of a text of which a number was read.
+/// @param length how much of it the number takes; 0 when there is none
+/// @param inRange whether the number is the one that is written
+void findOddity(NumberReading& number, const char* text, std::size_t length, bool inRange) {
+    if (*text == '\0') {
+        number.oddity = NumberReading::Oddity::Empty;
+    } else if (length == 0) {
+        number.oddity = NumberReading::Oddity::NotANumber;
+    } else if (isRest(text + length)) {
+        number.oddity = NumberReading::Oddity::CutOff;
+        number.place = length;
+    } else if (!inRange) {
+        number.oddity = NumberReading::Oddity::OutOfRange;
+    } else if (!std::isfinite(number.value)) {
+        number.oddity = NumberReading::Oddity::NotFinite;
+    } else if (isHexadecimal(text)) {
+        number.oddity = NumberReading::Oddity::Hexadecimal;
+    }
+}
+
+/// Whether a text that is read as 0 or as infinity says so.
+bool isMeant(double value, const char* text, const char* end) {
+    const char* const number = unsignedPart(text);
+    if (std::isinf(value))
+        return *number == 'i' || *number == 'I';
+    if (value != 0)
+        return true;
+    // Too small when there is a digit other than 0 before the exponent.
+    const bool hexadecimal = isHexadecimal(text);
+    for (const char* c = hexadecimal ? number + 2 : number; c < end; ++c) {
+        if (hexadecimal ? *c == 'p' || *c == 'P' : *c == 'e' || *c == 'E')
+            break;
+        if (std::strchr(hexadecimalDigits + 1, *c) != nullptr)
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+NumberReading readNumber(const char* text) {
+    NumberReading number;
+    char* end = nullptr;
+    // The command keeps the "C" locale, by which the library reads numbers.
+    number.value = std::strtod(text, &end);
+    number.read = fmt::format("{}", number.value);
+    findOddity(number, text, static_cast<std::size_t>(end - text),
+               isMeant(number.value, text, end));
+    return number;
+}
+
+NumberReading readInteger(const char* text) {
+    NumberReading number;
+    const int value = integerOf(text);
+    const std::size_t length = integerLength(text);
+    number.value = value;
+    number.read = fmt::format("{}", value);
+    // Anything of more digits than this is wrong by a factor, so a double tells it well enough.
+    const double written = std::strtod(std::string(text, length).c_str(), nullptr);
+    findOddity(number, text, length, written == number.value);
+    return number;
+}

@@ -1,0 +1,144 @@
+#include "tools/check/PackageCheck.h"
+
+#include <new>
+#include <utility>
+
+#include <fmt/format.h>
+
+#include "tools/Escape.h"
+#include "tools/FileContent.h"
+#include "tools/PackageUuid.h"
+#include "tools/Utf8.h"
+#include "tools/check/OpenElement.h"
+#include "tools/check/PackageWalk.h"
+
+#include <boost/uuid/uuid_io.hpp>
+
+namespace {
+
+/// Keeps everything.
+class FindingList : public FindingSink {
+public:
+    bool wants(FindingCode) override { return true; }
+    void add(const Finding& finding) override { findings_.push_back(finding); }
+
+    std::vector<Finding> take() { return std::move(findings_); }
+
+private:
+    std::vector<Finding> findings_;
+};
+
+/// Adds a finding about the file as a whole.
+void addAboutFile(FindingSink& sink, FindingCode code, std::string found, std::string consequence) {
+    if (!sink.wants(code))
+        return;
+    Finding finding;
+    finding.code = kindOf(code).code;
+    finding.severity = kindOf(code).severity;
+    finding.found = std::move(found);
+    finding.consequence = std::move(consequence);
+    sink.add(finding);
+}
+
+/// Adds a finding about a place that is in no element.
+void addAboutPlace(FindingSink& sink, FindingCode code, const SourceText& source,
+                   std::size_t offset, std::string found, std::string consequence) {
+    if (!sink.wants(code))
+        return;
+    Finding finding;
+    finding.code = kindOf(code).code;
+    finding.severity = kindOf(code).severity;
+    finding.position = source.position(offset);
+    finding.excerpt = source.excerpt(offset);
+    finding.found = std::move(found);
+    finding.consequence = std::move(consequence);
+    sink.add(finding);
+}
+
+void checkName(const std::string& path, FindingSink& sink) {
+    const std::string expected = fmt::format("a name such as {} is expected", packageNameForm);
+    if (path.size() < shortestPackagePath) {
+        addAboutFile(sink, FindingCode::PathTooShort,
+                     fmt::format("the path has {} of at least {} characters; {}", path.size(),
+                                 shortestPackagePath, expected),
+                     "nothing of the file is read when it is given by this path");
+        return;
+    }
+    const auto uuid = packageUuid(path);
+    if (!uuid)
+        addAboutFile(sink, FindingCode::NameWithoutUuid,
+                     "the file name holds no package UUID; " + expected,
+                     "nothing of the file is read");
+    else if (!isNamedByUuid(path))
+        addAboutFile(sink, FindingCode::NameNotUuid, "the file is not named by a UUID; " + expected,
+                     "the recs carry the package UUID " + to_string(*uuid));
+}
+
+void checkUtf8(const SourceText& source, FindingSink& sink) {
+    const std::string_view text = source.text();
+    std::size_t offset = 0;
+    while (offset < text.size()) {
+        if (static_cast<unsigned char>(text[offset]) < 0x80) {
+            ++offset;
+            continue;
+        }
+        const Utf8Character character = firstCharacter(text.substr(offset));
+        if (!character.valid) {
+            addAboutPlace(sink, FindingCode::InvalidUtf8, source, offset,
+                          fmt::format("the byte {} is not UTF-8, in which the file is read",
+                                      escape(text.substr(offset, 1))),
+                          "this and the like are passed on as they are; hosts may not show them");
+            return;
+        }
+        offset += character.length;
+    }
+}
+
+/// Why the XML library could not load a text.
+std::string describeFault(const SourceText& source, const pugi::xml_parse_result& loaded) {
+    if (source.text().empty())
+        return "not well-formed: the file is empty";
+    std::string text = fmt::format("not well-formed: {}", loaded.description());
+    if (loaded.status != pugi::status_end_element_mismatch)
+        return text;
+    const std::string_view before =
+        source.text().substr(0, static_cast<std::size_t>(loaded.offset));
+    const auto open = innermostOpenElement(before.substr(0, before.rfind("</")));
+    if (open)
+        text += fmt::format("; {} of line {} has not ended here", escapeExcerpt(open->name),
+                            source.position(open->offset).line);
+    return text;
+}
+
+void checkContent(std::string bytes, FindingSink& sink) {
+    const SourceText source(std::move(bytes));
+    pugi::xml_document document;
+    const pugi::xml_parse_result loaded = source.load(document);
+    if (loaded.status == pugi::status_out_of_memory)
+        throw std::bad_alloc();
+    checkUtf8(source, sink);
+    if (!loaded) {
+        addAboutPlace(sink, FindingCode::NotWellFormed, source,
+                      static_cast<std::size_t>(loaded.offset), describeFault(source, loaded),
+                      "nothing of the file is read");
+        return;
+    }
+    walkPackage(document, source, sink);
+}
+
+} // namespace
+
+void checkPackage(const std::string& path, FindingSink& sink) {
+    FileContent content = readFileContent(path);
+    if (!content.failure.empty())
+        addAboutFile(sink, FindingCode::Unreadable, content.failure, "nothing of the file is read");
+    checkName(path, sink);
+    if (content.failure.empty())
+        checkContent(std::move(content.bytes), sink);
+}
+
+std::vector<Finding> checkPackage(const std::string& path) {
+    FindingList list;
+    checkPackage(path, list);
+    return list.take();
+}

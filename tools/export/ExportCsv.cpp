@@ -1,0 +1,248 @@
+#include "tools/export/ExportCsv.h"
+
+#include <array>
+#include <cmath>
+#include <optional>
+#include <utility>
+
+#include <boost/uuid/uuid_io.hpp>
+
+#include "model/CommercialFertilizerRec.h"
+#include "model/CustomFertilizerRec.h"
+#include "model/PlantingRec.h"
+#include "tools/NumberText.h"
+#include "tools/ProductText.h"
+#include "tools/Utf8.h"
+
+namespace {
+
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+bool beginsAFormula(char32_t c) {
+    // Wide forms count, too: some input methods turn them into the narrow ones.
+    constexpr std::u32string_view characters = U"=+-@\t\r\n\uFF1D\uFF0B\uFF0D\uFF20";
+    return characters.find(c) != std::u32string_view::npos;
+}
+
+bool isForbidden(char32_t c) {
+    return (c < 0x20 && c != '\t' && c != '\n' && c != '\r') || c == 0x7F;
+}
+
+std::string inQuotes(std::string_view text) {
+    if (text.find_first_of(",\"\r\n") == std::string_view::npos)
+        return std::string(text);
+    std::string result = "\"";
+    for (const char c : text) {
+        if (c == '"')
+            result += '"';
+        result += c;
+    }
+    return result + '"';
+}
+
+std::string csvNumber(double number) {
+    return std::isfinite(number) ? numberText(number) : csvText(numberText(number));
+}
+
+/// Empty for the nil UUID, which stands for none.
+std::string csvIdentifier(const boost::uuids::uuid& id) {
+    return id.is_nil() ? "" : to_string(id);
+}
+
+/// What a row is made of.
+struct Row {
+    QenGrower& grower;
+    QenFarm& farm;
+    QenField& field;
+    LLA centroid;
+    QenRec& rec;
+
+    /// The product if it is of a kind, or else null.
+    template <class Product>
+    Product* product(RecType type) const {
+        QenRecData* data = rec.recData();
+        return data != nullptr && data->recType() == type ? static_cast<Product*>(data) : nullptr;
+    }
+
+    PlantingRec* planting() const { return product<PlantingRec>(RecTypePlanting); }
+    CommercialFertilizerRec* fertilizer() const {
+        return product<CommercialFertilizerRec>(RecTypeCommercialFertilizer);
+    }
+    CustomFertilizerRec* blend() const {
+        return product<CustomFertilizerRec>(RecTypeCustomFertilizer);
+    }
+};
+
+struct Column {
+    const char* title;
+    std::string (*cell)(const Row&);
+};
+
+using R = const Row&;
+
+template <double (CustomFertilizerRec::*percentage)()>
+std::string nutrient(R row) {
+    CustomFertilizerRec* blend = row.blend();
+    return blend == nullptr ? "" : csvNumber((blend->*percentage)());
+}
+
+std::string productId(R row) {
+    if (row.fertilizer() != nullptr)
+        return std::to_string(row.fertilizer()->productId());
+    return row.blend() == nullptr ? "" : csvIdentifier(row.blend()->productId());
+}
+
+std::string productName(R row) {
+    if (row.fertilizer() != nullptr)
+        return csvText(row.fertilizer()->productName());
+    return row.blend() == nullptr ? "" : csvText(row.blend()->productName());
+}
+
+/// The cell of an integer that only plantings have.
+template <int (PlantingRec::*code)()>
+std::string plantingCode(R row) {
+    PlantingRec* planting = row.planting();
+    return planting == nullptr ? "" : std::to_string((planting->*code)());
+}
+
+/// The cell of a text that only plantings have.
+template <std::string (PlantingRec::*text)()>
+std::string plantingText(R row) {
+    PlantingRec* planting = row.planting();
+    return planting == nullptr ? "" : csvText((planting->*text)());
+}
+
+const std::array columns = {
+    Column{"package", [](R r) { return csvIdentifier(r.rec.xmlFileName()); }},
+    Column{"grower", [](R r) { return csvText(r.grower.name()); }},
+    Column{"farm", [](R r) { return csvText(r.farm.name()); }},
+    Column{"field", [](R r) { return csvText(r.field.name()); }},
+    Column{"rec", [](R r) { return csvText(r.rec.name()); }},
+    Column{"operation", [](R r) { return csvText(r.rec.operationName()); }},
+    Column{"season", [](R r) { return csvText(r.rec.seasonName()); }},
+    Column{"season_id",
+           [](R r) { return r.rec.seasonId() == -1 ? "" : std::to_string(r.rec.seasonId()); }},
+    Column{"created", [](R r) { return csvText(r.rec.creationDate()); }},
+    Column{"edited", [](R r) { return csvText(r.rec.editDate()); }},
+    Column{"product_kind", [](R r) { return productKind(r.rec.recData()); }},
+    Column{"product_id", productId},
+    Column{"product", productName},
+    Column{"crop_id", plantingCode<&PlantingRec::cropId>},
+    Column{"crop", plantingText<&PlantingRec::cropName>},
+    Column{"company_id", plantingCode<&PlantingRec::companyId>},
+    Column{"company", plantingText<&PlantingRec::companyName>},
+    Column{"variety_id", plantingCode<&PlantingRec::varietyId>},
+    Column{"variety", plantingText<&PlantingRec::varietyName>},
+    Column{"product_unit_id",
+           [](R r) {
+               const std::optional<Unit> unit = productUnit(r.rec.recData());
+               return unit ? std::to_string(unit->code) : "";
+           }},
+    Column{"product_unit",
+           [](R r) {
+               const std::optional<Unit> unit = productUnit(r.rec.recData());
+               return unit ? csvText(unit->text) : "";
+           }},
+    Column{"sfertt_id",
+           [](R r) { return r.blend() == nullptr ? "" : std::to_string(r.blend()->sFertT_ID()); }},
+    Column{"specific_gravity", nutrient<&CustomFertilizerRec::spGravity>},
+    Column{"pct_n", nutrient<&CustomFertilizerRec::pct_N>},
+    Column{"pct_p", nutrient<&CustomFertilizerRec::pct_P>},
+    Column{"pct_k", nutrient<&CustomFertilizerRec::pct_K>},
+    Column{"pct_ca", nutrient<&CustomFertilizerRec::pct_Ca>},
+    Column{"pct_mg", nutrient<&CustomFertilizerRec::pct_Mg>},
+    Column{"pct_s", nutrient<&CustomFertilizerRec::pct_S>},
+    Column{"pct_fe", nutrient<&CustomFertilizerRec::pct_Fe>},
+    Column{"pct_mn", nutrient<&CustomFertilizerRec::pct_Mn>},
+    Column{"pct_zn", nutrient<&CustomFertilizerRec::pct_Zn>},
+    Column{"pct_cu", nutrient<&CustomFertilizerRec::pct_Cu>},
+    Column{"pct_b", nutrient<&CustomFertilizerRec::pct_B>},
+    Column{"pct_mo", nutrient<&CustomFertilizerRec::pct_Mo>},
+    Column{"pct_cl", nutrient<&CustomFertilizerRec::pct_Cl>},
+    Column{"minimum_rate", [](R r) { return csvNumber(r.rec.minimumRate()); }},
+    Column{"average_rate", [](R r) { return csvNumber(r.rec.averageRate()); }},
+    Column{"maximum_rate", [](R r) { return csvNumber(r.rec.maximumRate()); }},
+    Column{"rate_unit_id", [](R r) { return std::to_string(r.rec.rateUomId()); }},
+    Column{"rate_unit", [](R r) { return csvText(r.rec.rateUom()); }},
+    Column{"total", [](R r) { return csvNumber(r.rec.total()); }},
+    Column{"total_unit_id", [](R r) { return std::to_string(r.rec.totalUomId()); }},
+    Column{"total_unit", [](R r) { return csvText(r.rec.totalUom()); }},
+    Column{"area", [](R r) { return csvNumber(r.rec.area()); }},
+    Column{"area_unit_id", [](R r) { return std::to_string(r.rec.areaUomId()); }},
+    Column{"area_unit", [](R r) { return csvText(r.rec.areaUom()); }},
+    Column{"latitude", [](R r) { return csvNumber(r.centroid.latitude); }},
+    Column{"longitude", [](R r) { return csvNumber(r.centroid.longitude); }},
+    Column{"dbf_column", [](R r) { return csvText(r.rec.recDbfCol()); }},
+    Column{"grower_id", [](R r) { return csvIdentifier(r.grower.id()); }},
+    Column{"farm_id", [](R r) { return csvIdentifier(r.farm.id()); }},
+    Column{"field_id", [](R r) { return csvIdentifier(r.field.id()); }},
+    Column{"rec_id", [](R r) { return csvIdentifier(r.rec.id()); }},
+    Column{"boundary_id", [](R r) { return csvIdentifier(r.rec.fieldGeometryId()); }},
+    Column{"rec_geometry", [](R r) { return csvIdentifier(r.rec.recGeometry()); }},
+    Column{"operation_id", [](R r) { return csvIdentifier(r.rec.operationId()); }},
+    Column{"zone_id", [](R r) { return csvIdentifier(r.rec.mgmtZoneId()); }},
+};
+
+class CsvExport : public ExportFormat {
+public:
+    explicit CsvExport(TextSink sink) : sink_(std::move(sink)) {}
+
+    void begin(bool /*merged*/) override {
+        text_ = byteOrderMark;
+        for (const Column& column : columns)
+            cell(column, column.title);
+        sink_(text_);
+    }
+
+    std::string package(PackageReading& reading) override { return write(reading.growers); }
+
+    std::string merged(std::vector<QenGrower>& growers) override { return write(growers); }
+
+    void end() override {}
+
+private:
+    std::string write(std::vector<QenGrower>& growers) {
+        for (QenGrower& grower : growers)
+            for (QenFarm& farm : grower.farms())
+                for (QenField& field : farm.fields())
+                    for (QenRec& rec : field.recs())
+                        write({grower, farm, field, field.centroid(rec.fieldGeometryId()), rec});
+        return "";
+    }
+
+    void write(const Row& row) {
+        text_.clear();
+        for (const Column& column : columns)
+            cell(column, column.cell(row));
+        sink_(text_);
+    }
+
+    void cell(const Column& column, std::string_view content) {
+        text_ += content;
+        text_ += &column == &columns.back() ? "\r\n" : ",";
+    }
+
+    TextSink sink_;
+    std::string text_; // of a row
+};
+
+} // namespace
+
+std::string csvText(std::string_view text) {
+    std::string result;
+    if (!text.empty() && beginsAFormula(firstCharacter(text).codePoint))
+        result += '\'';
+    while (!text.empty()) {
+        const Utf8Character character = firstCharacter(text);
+        if (character.valid && !isForbidden(character.codePoint))
+            result += text.substr(0, character.length);
+        else
+            appendUtf8(result, 0xFFFD);
+        text.remove_prefix(character.length);
+    }
+    return inQuotes(result);
+}
+
+std::unique_ptr<ExportFormat> makeCsvExport(TextSink sink) {
+    return std::make_unique<CsvExport>(std::move(sink));
+}

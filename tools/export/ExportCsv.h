@@ -1,0 +1,20 @@
+#ifndef QENXML_TOOLS_EXPORT_EXPORTCSV_H
+#define QENXML_TOOLS_EXPORT_EXPORTCSV_H
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "tools/Output.h"
+#include "tools/export/ExportFormat.h"
+
+/// A table with a row per rec, as a spreadsheet opens it: comma-separated values (RFC 4180) in
+/// UTF-8, with a byte-order mark, for without one some take the text for another encoding.
+std::unique_ptr<ExportFormat> makeCsvExport(TextSink sink);
+
+/// A text of a package as a cell. A text that a spreadsheet would take for a formula gets an
+/// apostrophe before it, for a formula can send the table away. What is no valid UTF-8, and control
+/// characters, which XML forbids and spreadsheets refuse, are replaced.
+std::string csvText(std::string_view text);
+
+#endif

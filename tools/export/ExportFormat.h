@@ -1,0 +1,35 @@
+#ifndef QENXML_TOOLS_EXPORT_EXPORTFORMAT_H
+#define QENXML_TOOLS_EXPORT_EXPORTFORMAT_H
+
+#include <string>
+#include <vector>
+
+#include "model/QenGrower.h"
+#include "tools/PackageReading.h"
+
+/// A format of `qenxml export`. It is written while packages are read, so that no more than one of
+/// them is in memory.
+class ExportFormat {
+public:
+    ExportFormat() = default;
+    ExportFormat(const ExportFormat&) = delete;
+    ExportFormat& operator=(const ExportFormat&) = delete;
+    virtual ~ExportFormat() = default;
+
+    /// @param merged whether the growers of all packages come together, after the packages
+    virtual void begin(bool merged) = 0;
+
+    /// A package with its growers, or without them when they come later.
+    ///
+    /// @return what the reader should know about it, safe to print; mostly nothing
+    virtual std::string package(PackageReading& reading) = 0;
+
+    /// The merged growers.
+    ///
+    /// @return as package()
+    virtual std::string merged(std::vector<QenGrower>& growers) = 0;
+
+    virtual void end() = 0;
+};
+
+#endif

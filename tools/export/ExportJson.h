@@ -1,0 +1,12 @@
+#ifndef QENXML_TOOLS_EXPORT_EXPORTJSON_H
+#define QENXML_TOOLS_EXPORT_EXPORTJSON_H
+
+#include <memory>
+
+#include "tools/Output.h"
+#include "tools/export/ExportFormat.h"
+
+/// The whole tree as one JSON document: docs/export.schema.json.
+std::unique_ptr<ExportFormat> makeJsonExport(TextSink sink);
+
+#endif

@@ -1,0 +1,77 @@
+#include "tools/report/ReportData.h"
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
+#include "tools/ProductText.h"
+
+RecordCounts& RecordCounts::operator+=(const RecordCounts& other) {
+    growers += other.growers;
+    farms += other.farms;
+    fields += other.fields;
+    recs += other.recs;
+    recsWithoutProduct += other.recsWithoutProduct;
+    return *this;
+}
+
+bool ReportFindings::count(FindingCode code) {
+    constexpr std::size_t mostOfACode = 10;
+    return ++counts_.at(static_cast<std::size_t>(code)) <= mostOfACode;
+}
+
+void ReportFindings::keep(Finding finding) {
+    const auto worseFirst = [](const Finding& a, const Finding& b) {
+        return a.severity > b.severity;
+    };
+    const auto place = std::upper_bound(kept_.begin(), kept_.end(), finding, worseFirst);
+    kept_.insert(place, std::move(finding));
+}
+
+std::size_t ReportFindings::number(Severity severity) const {
+    std::size_t sum = 0;
+    for (std::size_t code = 0; code < counts_.size(); ++code)
+        sum += findingKinds.at(code).severity == severity ? counts_.at(code) : 0;
+    return sum;
+}
+
+std::size_t ReportFindings::number() const {
+    return std::accumulate(counts_.begin(), counts_.end(), std::size_t{0});
+}
+
+void ProductTotals::add(std::vector<QenGrower>& growers) {
+    for (QenGrower& grower : growers)
+        for (QenFarm& farm : grower.farms())
+            for (QenField& field : farm.fields())
+                for (QenRec& rec : field.recs()) {
+                    if (seen_.insert({grower.id(), farm.id(), field.id(), rec.id()}).second)
+                        add(rec);
+                    else
+                        ++repeated_;
+                }
+}
+
+void ProductTotals::add(QenRec& rec) {
+    const std::string unit = textOrCode(rec.totalUom(), rec.totalUomId());
+    ProductTotal& sum = totals_[{productKind(rec.recData()), productName(rec.recData()), unit}];
+    ++sum.recs;
+    sum.total += rec.total();
+    sum.areas[textOrCode(rec.areaUom(), rec.areaUomId())] += rec.area();
+}
+
+RecordCounts countRecords(std::vector<QenGrower>& growers) {
+    RecordCounts counts;
+    counts.growers = growers.size();
+    for (QenGrower& grower : growers) {
+        counts.farms += grower.farms().size();
+        for (QenFarm& farm : grower.farms()) {
+            counts.fields += farm.fields().size();
+            for (QenField& field : farm.fields()) {
+                counts.recs += field.recs().size();
+                for (QenRec& rec : field.recs())
+                    counts.recsWithoutProduct += rec.recData() == nullptr ? 1 : 0;
+            }
+        }
+    }
+    return counts;
+}

@@ -1,0 +1,93 @@
+#ifndef QENXML_TOOLS_REPORT_REPORTDATA_H
+#define QENXML_TOOLS_REPORT_REPORTDATA_H
+
+#include <array>
+#include <cstddef>
+#include <map>
+#include <set>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include <boost/uuid/uuid.hpp>
+
+#include "tools/PackageReading.h"
+#include "tools/check/Finding.h"
+
+/// How many records there are.
+struct RecordCounts {
+    std::size_t growers = 0;
+    std::size_t farms = 0;
+    std::size_t fields = 0;
+    std::size_t recs = 0;
+    std::size_t recsWithoutProduct = 0;
+
+    RecordCounts& operator+=(const RecordCounts& other);
+};
+
+/// The findings of a package: all counted, the first ones of each code kept.
+class ReportFindings {
+public:
+    /// Counts a finding. Answers whether keep() shall be called with it.
+    bool count(FindingCode code);
+
+    void keep(Finding finding);
+
+    /// The worst first, otherwise in the order of the file.
+    const std::vector<Finding>& kept() const { return kept_; }
+
+    std::size_t number(Severity severity) const;
+    std::size_t number() const;
+
+private:
+    std::array<std::size_t, findingKinds.size()> counts_{}; // by code
+    std::vector<Finding> kept_;
+};
+
+/// A package with what the report says about it.
+struct ReportPackage {
+    PackageReading reading;
+    ReportFindings findings;
+    RecordCounts counts;
+};
+
+/// A product, and the unit in which its total is given.
+struct ProductUnit {
+    std::string kind; ///< Empty for recs without product data.
+    std::string name;
+    std::string unit;
+
+    bool operator<(const ProductUnit& other) const {
+        return std::tie(kind, name, unit) < std::tie(other.kind, other.name, other.unit);
+    }
+};
+
+/// What recs say together about a product.
+struct ProductTotal {
+    std::size_t recs = 0;
+    double total = 0.0;
+    std::map<std::string, double> areas; ///< By unit.
+};
+
+/// Sums up recs by product and unit. A rec that several packages hold counts once, as it is read
+/// first: the library merges them so.
+class ProductTotals {
+public:
+    void add(std::vector<QenGrower>& growers);
+
+    const std::map<ProductUnit, ProductTotal>& totals() const { return totals_; }
+
+    /// How many recs came again.
+    std::size_t repeated() const { return repeated_; }
+
+private:
+    void add(QenRec& rec);
+
+    std::map<ProductUnit, ProductTotal> totals_;
+    std::set<std::array<boost::uuids::uuid, 4>> seen_; // grower, farm, field and rec
+    std::size_t repeated_ = 0;
+};
+
+RecordCounts countRecords(std::vector<QenGrower>& growers);
+
+#endif

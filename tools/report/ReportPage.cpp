@@ -1,0 +1,420 @@
+#include "tools/report/ReportPage.h"
+
+#include <array>
+#include <map>
+#include <string>
+#include <string_view>
+
+#include <boost/uuid/uuid_io.hpp>
+#include <fmt/format.h>
+
+#include "model/version.h"
+#include "tools/Centroid.h"
+#include "tools/NumberText.h"
+#include "tools/PackageUuid.h"
+#include "tools/ProductText.h"
+#include "tools/report/Html.h"
+#include "tools/report/RateBar.h"
+#include "tools/report/ReportMap.h"
+#include "tools/report/ReportStyle.h"
+
+namespace {
+
+// A page of everything in a package of 100 MB would open in no browser.
+constexpr std::size_t mostRecs = 2000;
+constexpr std::size_t mostFields = 2000;
+constexpr std::size_t mostRows = 1000;
+constexpr std::size_t recsShownAtOnce = 200; ///< More of them are folded away, field by field.
+
+/// A number of things: "1 rec", "2 recs".
+std::string count(std::size_t number, std::string_view thing) {
+    return fmt::format("{} {}{}", number, thing, number == 1 ? "" : "s");
+}
+
+std::string shownName(const PackageReading& reading) {
+    return reading.name == "-" ? "standard input" : htmlName(reading.name);
+}
+
+std::string identifier(const boost::uuids::uuid& id) {
+    return fmt::format("<span class=\"id\">{}</span>", to_string(id));
+}
+
+/// A sum, without the last digits, which are not exact.
+std::string sumText(double sum) {
+    return fmt::format("{:.12g}", sum);
+}
+
+std::string nameOr(const std::string& name, const char* otherwise) {
+    return name.empty() ? otherwise : htmlName(name);
+}
+
+/// Which packages, in words.
+std::string title(const std::vector<ReportPackage>& packages) {
+    return packages.size() == 1 ? shownName(packages.front().reading)
+                                : count(packages.size(), "package");
+}
+
+const char* readState(const PackageReading& reading) {
+    return !reading.failure ? "completely" : isLost(reading) ? "not at all" : "up to a failure";
+}
+
+struct SeverityText {
+    const char* name;
+    const char* style;
+};
+
+SeverityText severityText(Severity severity) {
+    constexpr std::array<SeverityText, 3> texts = {
+        {{"Note", "note"}, {"Warning", "warning"}, {"Error", "error"}}};
+    return texts.at(static_cast<std::size_t>(severity));
+}
+
+class PageWriter {
+public:
+    PageWriter(std::vector<ReportPackage>& packages, const TextSink& sink)
+        : packages_(packages), sink_(sink) {
+        for (ReportPackage& package : packages) {
+            counts_ += package.counts;
+            totals_.add(package.reading.growers);
+            addPoints(package.reading.growers);
+        }
+    }
+
+    void write() {
+        writeHead();
+        writeSummary();
+        writeFindings();
+        writeMap();
+        writeProducts();
+        writeFields();
+        sink_(fmt::format("</main>\n<footer><p>Made by qenxml {}.</p></footer>\n</body>\n</html>\n",
+                          QENXML_VERSION));
+    }
+
+private:
+    void addPoints(std::vector<QenGrower>& growers) {
+        for (QenGrower& grower : growers)
+            for (QenFarm& farm : grower.farms())
+                for (QenField& field : farm.fields())
+                    for (QenFieldGeometry& geometry : field.geometries()) {
+                        if (isPlace(geometry.centroid()))
+                            points_.push_back({field.name(), geometry.centroid()});
+                        else
+                            ++withoutPlace_;
+                    }
+    }
+
+    std::size_t findings(Severity severity) const {
+        std::size_t sum = 0;
+        for (const ReportPackage& package : packages_)
+            sum += package.findings.number(severity);
+        return sum;
+    }
+
+    void writeHead() {
+        sink_("<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
+              "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n");
+        // A title holds no elements.
+        sink_(fmt::format("<title>Prescription report: {}</title>\n<style>{}</style>\n",
+                          packages_.size() == 1 ? html(packages_.front().reading.name)
+                                                : count(packages_.size(), "package"),
+                          reportStyle));
+        sink_(fmt::format(
+            "</head>\n<body>\n<header>\n<h1>Prescription report</h1>\n<p>{}</p>\n</header>\n"
+            "<nav aria-label=\"Contents\">\n<ul>\n<li><a href=\"#summary\">Summary</a></li>\n"
+            "<li><a href=\"#findings\">Findings</a></li>\n<li><a href=\"#map\">Map</a></li>\n"
+            "<li><a href=\"#products\">Products</a></li>\n"
+            "<li><a href=\"#fields\">Fields and recs</a></li>\n</ul>\n</nav>\n<main>\n",
+            title(packages_)));
+    }
+
+    void writeFigure(const char* what, std::size_t number) {
+        sink_(fmt::format("<li>{} <b>{}</b></li>\n", what, number));
+    }
+
+    void writeSummary() {
+        sink_("<section id=\"summary\">\n<h2>Summary</h2>\n<ul class=\"figures\">\n");
+        writeFigure("Packages", packages_.size());
+        writeFigure("Growers", counts_.growers);
+        writeFigure("Farms", counts_.farms);
+        writeFigure("Fields", counts_.fields);
+        writeFigure("Recs", counts_.recs);
+        writeFigure("Errors", findings(Severity::Error));
+        writeFigure("Warnings", findings(Severity::Warning));
+        writeFigure("Notes", findings(Severity::Note));
+        sink_("</ul>\n");
+        if (counts_.recsWithoutProduct > 0)
+            sink_(fmt::format("<p>{} without product data.</p>\n",
+                              count(counts_.recsWithoutProduct, "rec")));
+        beginTable("Packages",
+                   "<th scope=\"col\">File</th><th scope=\"col\">Read</th>"
+                   "<th scope=\"col\" class=\"number\">Growers</th><th scope=\"col\" "
+                   "class=\"number\">Fields</th><th scope=\"col\" class=\"number\">Recs</th>"
+                   "<th scope=\"col\" class=\"number\">Findings</th>");
+        std::size_t rows = 0;
+        for (const ReportPackage& package : packages_) {
+            if (rows++ < mostRows)
+                writePackageRow(package);
+        }
+        endTable(packages_.size(), "package");
+        sink_("</section>\n");
+    }
+
+    void writePackageRow(const ReportPackage& package) {
+        // Mostly the UUID is the name of the file.
+        const bool saysUuid = !package.reading.uuid || isNamedByUuid(package.reading.name);
+        sink_(fmt::format("<tr><th scope=\"row\">{}{}</th><td>{}</td><td class=\"number\">{}</td>"
+                          "<td class=\"number\">{}</td><td class=\"number\">{}</td>"
+                          "<td class=\"number\">{}</td></tr>\n",
+                          shownName(package.reading),
+                          saysUuid ? "" : "<br>" + identifier(*package.reading.uuid),
+                          readState(package.reading), package.counts.growers, package.counts.fields,
+                          package.counts.recs, package.findings.number()));
+    }
+
+    void beginTable(const char* caption, const char* columns) {
+        // Scrolls where it is too wide, with the keys too.
+        sink_(fmt::format("<div class=\"scroll\" role=\"region\" aria-label=\"{0}\" "
+                          "tabindex=\"0\">\n<table>\n<caption>{0}</caption>\n<thead><tr>{1}</tr>"
+                          "</thead>\n<tbody>\n",
+                          caption, columns));
+    }
+
+    void endTable(std::size_t rows, std::string_view thing) {
+        sink_("</tbody>\n</table>\n</div>\n");
+        if (rows > mostRows)
+            sink_(fmt::format("<p>{} more not shown.</p>\n", count(rows - mostRows, thing)));
+    }
+
+    void writeFindings() {
+        sink_("<section id=\"findings\">\n<h2>Findings</h2>\n");
+        bool any = false;
+        for (const ReportPackage& package : packages_) {
+            if (package.findings.number() == 0)
+                continue;
+            any = true;
+            sink_(fmt::format("<h3>{}</h3>\n", shownName(package.reading)));
+            sink_("<ul class=\"findings\">\n");
+            for (const Finding& finding : package.findings.kept())
+                write(finding);
+            sink_("</ul>\n");
+            const std::size_t hidden = package.findings.number() - package.findings.kept().size();
+            if (hidden > 0)
+                sink_(fmt::format("<p>{} more not shown; <code>qenxml check</code> prints all of "
+                                  "them.</p>\n",
+                                  count(hidden, "finding")));
+        }
+        if (!any)
+            sink_("<p>Nothing was found.</p>\n");
+        sink_("</section>\n");
+    }
+
+    void write(const Finding& finding) {
+        const SeverityText severity = severityText(finding.severity);
+        sink_(fmt::format(
+            "<li class=\"{}\"><p><strong>{}</strong>{}: {}</p>\n", severity.style, severity.name,
+            finding.position ? fmt::format(" in line {}, column {}", finding.position->line,
+                                           finding.position->column)
+                             : "",
+            html(finding.found)));
+        if (!finding.consequence.empty())
+            sink_(fmt::format("<p>Consequence: {}</p>\n", html(finding.consequence)));
+        if (!finding.records.empty())
+            sink_(fmt::format("<p>In: {}</p>\n", htmlName(finding.records)));
+        sink_("<p class=\"quiet\">");
+        if (!finding.path.empty())
+            sink_(fmt::format("<code>{}</code> ", html(finding.path)));
+        sink_(fmt::format("[{}]</p></li>\n", html(finding.code)));
+    }
+
+    void writeMap() {
+        sink_("<section id=\"map\">\n<h2>Map of the fields</h2>\n");
+        if (points_.empty()) {
+            sink_("<p>No field has a centroid that could be drawn.</p>\n");
+        } else {
+            sink_("<figure>\n");
+            sink_(reportMap(points_));
+            sink_("<figcaption>Each point is the centroid of a field. North is up; the scale is "
+                  "that of the middle of the map.</figcaption>\n</figure>\n");
+        }
+        if (withoutPlace_ > 0 && !points_.empty())
+            sink_(fmt::format("<p>Not on the map, because the centroid is missing or out of range: "
+                              "{}.</p>\n",
+                              count(withoutPlace_, "field")));
+        sink_("</section>\n");
+    }
+
+    void writeProducts() {
+        sink_("<section id=\"products\">\n<h2>Products</h2>\n");
+        if (totals_.totals().empty()) {
+            sink_("<p>There are no recs.</p>\n</section>\n");
+            return;
+        }
+        beginTable("Totals by product and unit",
+                   "<th scope=\"col\">Product</th><th scope=\"col\" class=\"number\">Recs</th>"
+                   "<th scope=\"col\" class=\"number\">Total</th>"
+                   "<th scope=\"col\" class=\"number\">Area</th>");
+        std::size_t rows = 0;
+        for (const auto& [product, total] : totals_.totals()) {
+            if (rows++ < mostRows)
+                write(product, total);
+        }
+        endTable(totals_.totals().size(), "row");
+        if (totals_.repeated() > 0)
+            sink_(fmt::format("<p>In more than one package: {}. Each counts once, as it is read "
+                              "first.</p>\n",
+                              count(totals_.repeated(), "rec")));
+        sink_("</section>\n");
+    }
+
+    void write(const ProductUnit& product, const ProductTotal& total) {
+        std::string areas;
+        for (const auto& [unit, area] : total.areas)
+            areas +=
+                fmt::format("{}{} {}", areas.empty() ? "" : "<br>", sumText(area), htmlName(unit));
+        const std::string name =
+            product.kind.empty()
+                ? "no product data"
+                : nameOr(product.name, "without a name") +
+                      fmt::format("<br><span class=\"quiet\">{}</span>", product.kind);
+        sink_(fmt::format("<tr><th scope=\"row\">{}</th><td class=\"number\">{}</td>"
+                          "<td class=\"number\">{} {}</td><td class=\"number\">{}</td></tr>\n",
+                          name, total.recs, sumText(total.total), htmlName(product.unit), areas));
+    }
+
+    void writeFields() {
+        sink_("<section id=\"fields\">\n<h2>Fields and recs</h2>\n");
+        for (ReportPackage& package : packages_) {
+            if (fields_ >= mostFields || recs_ >= mostRecs)
+                break;
+            sink_(fmt::format("<section>\n<h3>{}</h3>\n", shownName(package.reading)));
+            if (package.counts.fields == 0)
+                sink_("<p>No fields.</p>\n");
+            for (QenGrower& grower : package.reading.growers)
+                write(grower);
+            sink_("</section>\n");
+        }
+        if (fields_ < counts_.fields || recs_ < counts_.recs)
+            sink_(fmt::format("<p>Not shown: {} and {}. <code>qenxml show</code> and <code>qenxml "
+                              "export</code> write all of them.</p>\n",
+                              count(counts_.fields - fields_, "more field"),
+                              count(counts_.recs - recs_, "more rec")));
+        sink_("</section>\n");
+    }
+
+    void write(QenGrower& grower) {
+        for (QenFarm& farm : grower.farms()) {
+            if (fields_ >= mostFields || recs_ >= mostRecs)
+                return;
+            if (farm.fields().empty())
+                continue;
+            sink_(fmt::format("<h4>{}, {}</h4>\n", nameOr(grower.name(), "Grower without a name"),
+                              nameOr(farm.name(), "farm without a name")));
+            for (QenField& field : farm.fields()) {
+                if (fields_ < mostFields && recs_ < mostRecs)
+                    write(field);
+            }
+        }
+    }
+
+    void write(QenField& field) {
+        ++fields_;
+        sink_(fmt::format("<h5>{}</h5>\n<p class=\"quiet\">{}</p>\n",
+                          nameOr(field.name(), "Field without a name"), places(field)));
+        if (field.recs().empty()) {
+            sink_("<p>No recs.</p>\n");
+            return;
+        }
+        const std::map<std::string, RateScale> scales = rateScales(field);
+        sink_(fmt::format("<details{}>\n<summary>{}</summary>\n<ul class=\"recs\">\n",
+                          counts_.recs <= recsShownAtOnce ? " open" : "",
+                          count(field.recs().size(), "rec")));
+        for (QenRec& rec : field.recs()) {
+            if (recs_ < mostRecs)
+                write(rec, scales.at(rates(rec).unit));
+        }
+        sink_("</ul>\n</details>\n");
+    }
+
+    /// Where a field is.
+    static std::string places(QenField& field) {
+        std::string text = identifier(field.id());
+        for (QenFieldGeometry& geometry : field.geometries()) {
+            const LLA centroid = geometry.centroid();
+            if (isPlace(centroid))
+                text += fmt::format("<br>Centroid: latitude {}, longitude {}",
+                                    numberText(centroid.latitude), numberText(centroid.longitude));
+        }
+        return text;
+    }
+
+    static Rates rates(QenRec& rec) {
+        return {rec.minimumRate(), rec.averageRate(), rec.maximumRate(),
+                textOrCode(rec.rateUom(), rec.rateUomId())};
+    }
+
+    /// The bars of a field's recs in the same unit have the same scale.
+    static std::map<std::string, RateScale> rateScales(QenField& field) {
+        std::map<std::string, RateScale> scales;
+        for (QenRec& rec : field.recs())
+            scales[rates(rec).unit].include(rates(rec));
+        return scales;
+    }
+
+    void write(QenRec& rec, const RateScale& scale) {
+        ++recs_;
+        const Rates values = rates(rec);
+        sink_(fmt::format("<li><h6>{}</h6>\n", nameOr(rec.name(), "Rec without a name")));
+        writeProduct(rec.recData());
+        sink_(rateBar(values, scale));
+        sink_("<dl class=\"facts\">\n");
+        writeFact("Rates", values.unit.empty() && scale.from == scale.to ? "" : ratesText(values));
+        writeFact("Total", quantity(rec.total(), textOrCode(rec.totalUom(), rec.totalUomId())));
+        writeFact("Area", quantity(rec.area(), textOrCode(rec.areaUom(), rec.areaUomId())));
+        writeFact("Operation", rec.operationName());
+        writeFact("Season", textOrCode(rec.seasonName(), rec.seasonId()));
+        writeFact("Created", rec.creationDate());
+        writeFact("Edited", rec.editDate());
+        writeFact("Column", rec.recDbfCol());
+        sink_(fmt::format("<dt>ID</dt><dd>{}</dd>\n</dl></li>\n", identifier(rec.id())));
+    }
+
+    void writeProduct(QenRecData* data) {
+        if (data == nullptr) {
+            sink_("<p class=\"warning\"><strong>No product data</strong></p>\n");
+            return;
+        }
+        const std::string name = productName(data);
+        sink_(fmt::format("<p>{}{}{}</p>\n", productKind(data), name.empty() ? "" : ": ",
+                          htmlName(name)));
+        if (data->recType() == RecTypeCustomFertilizer)
+            sink_(fmt::format("<p class=\"quiet\">{}</p>\n",
+                              html(blendContent(static_cast<CustomFertilizerRec&>(*data)))));
+    }
+
+    /// A quantity with its unit; empty when both are missing.
+    static std::string quantity(double value, const std::string& unit) {
+        return value == 0.0 && unit.empty() ? "" : numberText(value) + " " + unit;
+    }
+
+    /// @param value not escaped; nothing is written for an empty one
+    void writeFact(const char* what, const std::string& value) {
+        if (!value.empty())
+            sink_(fmt::format("<dt>{}</dt><dd>{}</dd>\n", what, htmlName(value)));
+    }
+
+    std::vector<ReportPackage>& packages_;
+    const TextSink& sink_;
+    RecordCounts counts_;
+    ProductTotals totals_;
+    std::vector<MapPoint> points_;
+    std::size_t withoutPlace_ = 0;
+    std::size_t fields_ = 0; // written so far
+    std::size_t recs_ = 0;   // written so far
+};
+
+} // namespace
+
+void writeReport(std::vector<ReportPackage>& packages, const TextSink& sink) {
+    PageWriter(packages, sink).write();
+}
