@@ -11,8 +11,9 @@
 
 class QenRec;
 
-namespace qenxml {
-QenRec& appendEmptyRec(std::vector<QenRec>& recs); // not part of the public interface
+namespace qenxml { // not part of the public interface
+class RecElement;
+QenRec& appendEmptyRec(std::vector<QenRec>& recs);
 } // namespace qenxml
 
 /// One recommendation (prescription) of a field: what to apply, at which rates, in which zone and
@@ -168,8 +169,9 @@ public:
     void setXmlFileName(boost::uuids::uuid xmlFileName); ///< Sets xmlFileName().
 
 private:
-    // They take recs over, and read const ones, without copying them.
+    // They take recs over, read const ones and fill new ones, without copying.
     friend class QenField;
+    friend class qenxml::RecElement;
     friend QenRec& qenxml::appendEmptyRec(std::vector<QenRec>& recs);
 
     /// All that a rec holds beside its product data, as one value that copies and moves by itself.

