@@ -38,7 +38,7 @@ struct IdentifierPlace {
     std::size_t hash(unsigned bits) const {
         constexpr std::uint64_t odd = 0x9E3779B97F4A7C15;
         constexpr std::uint64_t otherOdd = 0xC2B2AE3D27D4EB4F;
-        return (halves[0] * odd + halves[1] * otherOdd) >> (64 - bits);
+        return static_cast<std::size_t>((halves[0] * odd + halves[1] * otherOdd) >> (64 - bits));
     }
 
     std::array<std::uint64_t, 2> halves{};

@@ -47,7 +47,8 @@ void reserveForItems(std::vector<Child>& children, pugi::xml_node firstItem) {
         const std::size_t itemText = std::max<std::size_t>(textBetween(firstItem, node) / count, 1);
         const std::size_t listText = textBetween(firstItem, firstItem.parent().last_child());
         const std::size_t estimate = listText / itemText;
-        const std::size_t limit = listText * bytesPerByteOfText / sizeof(Child);
+        // In this order, in which gigabytes of text do not overflow a size of 32 bits.
+        const std::size_t limit = listText / sizeof(Child) * bytesPerByteOfText;
         count = std::max(count, std::min(estimate + estimate / 16, limit));
     }
     children.reserve(count);

@@ -22,10 +22,10 @@ namespace {
 
 // The limit: so many bytes per byte of the file, and so many for any file. The first is what the
 // XML library takes for the smallest nodes; the second is room reserved for the children that a
-// list seems to have, before any of them is read.
-constexpr std::size_t bytesPerByte = 34;
+// list seems to have, before any of them is read. Nodes are mostly pointers.
+static_assert(sizeof(void*) == 8 || sizeof(void*) == 4, "the figures are those of such machines");
+constexpr std::size_t bytesPerByte = sizeof(void*) == 8 ? 34 : 18;
 constexpr std::size_t bytesForAnyFile = 1'000'000;
-static_assert(sizeof(void*) == 8, "the figures are those of 64-bit machines");
 
 /// 32 digits, the shortest identifier.
 std::string digits(std::size_t number) {
