@@ -1,16 +1,23 @@
 # Sourced by the other scripts: installs what they need from Debian.
 
 # Debian packages per purpose.
-packages_run="g++ cmake ninja-build libpugixml-dev libboost-dev libboost-system-dev libcli11-dev libfmt-dev nlohmann-json3-dev"
-packages_test="$packages_run libgtest-dev librapidcheck-dev binutils libxml2-utils pkgconf python3-jsonschema tidy mandoc"
+libraries_run="libpugixml-dev libboost-dev libboost-system-dev libcli11-dev libfmt-dev nlohmann-json3-dev"
+libraries_test="$libraries_run libgtest-dev librapidcheck-dev"
+packages_run="g++ cmake ninja-build $libraries_run"
+packages_test="$packages_run $libraries_test binutils libxml2-utils pkgconf python3-jsonschema tidy mandoc"
 packages_bench="$packages_run libbenchmark-dev python3 valgrind"
 packages_reference="$packages_run doxygen"
 packages_check="$packages_test $packages_reference clang clang-tidy clang-format libclang-rt-14-dev cppcheck valgrind gcovr git zsh fish"
+packages_full_check="$packages_test clang libc++-dev libc++abi-dev googletest dpkg-dev"
+packages_cross="cmake ninja-build qemu-user" # and the compiler for the processor
 packages_abi="$packages_run abigail-tools"
 packages_debian="build-essential dpkg-dev debhelper lintian"
 packages_release="$packages_run git xz-utils"
 packages_reproducible="$packages_debian diffoscope-minimal faketime locales"
 packages_debian_test="$packages_debian debootstrap"
+
+# What a compiler for another processor brings along under other names.
+packages_of_compiler="libc6 libc6-dev libgcc-s1 libstdc++6 libstdc++-12-dev"
 
 # install_packages PACKAGE...: installs those that are missing, and says so.
 install_packages() {

@@ -124,15 +124,15 @@ RunResult runCommand(const std::vector<std::string>& arguments, const RunOptions
         &actions, together ? errors.writer.number() : output.writer.number(), STDOUT_FILENO);
     posix_spawn_file_actions_adddup2(&actions, errors.writer.number(), STDERR_FILENO);
 
-    std::vector<std::string> words = {QENXML_COMMAND};
+    std::vector<std::string> words = {QENXML_COMMAND}; // behind the emulator, if there is one
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<std::string> environment = options.environment;
     pid_t process = 0;
-    const int failure = posix_spawn(&process, QENXML_COMMAND, &actions, nullptr,
-                                    pointers(words).data(), pointers(environment).data());
+    const int failure = posix_spawnp(&process, words.front().c_str(), &actions, nullptr,
+                                     pointers(words).data(), pointers(environment).data());
     posix_spawn_file_actions_destroy(&actions);
     if (failure != 0)
-        throw std::system_error(failure, std::generic_category(), QENXML_COMMAND);
+        throw std::system_error(failure, std::generic_category(), words.front());
 
     output.writer.reset();
     errors.writer.reset();

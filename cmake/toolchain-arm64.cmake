@@ -1,0 +1,5 @@
+set(debian_architecture arm64)
+set(processor aarch64)
+set(triplet aarch64-linux-gnu)
+set(emulator qemu-aarch64)
+include(${CMAKE_CURRENT_LIST_DIR}/CrossToolchain.cmake)

@@ -1,0 +1,5 @@
+set(debian_architecture armhf)
+set(processor armv7l)
+set(triplet arm-linux-gnueabihf)
+set(emulator qemu-arm)
+include(${CMAKE_CURRENT_LIST_DIR}/CrossToolchain.cmake)

@@ -1,0 +1,5 @@
+set(debian_architecture s390x)
+set(processor s390x)
+set(triplet s390x-linux-gnu)
+set(emulator qemu-s390x)
+include(${CMAKE_CURRENT_LIST_DIR}/CrossToolchain.cmake)
