@@ -54,8 +54,9 @@ public:
             "source", "LC_NUMERIC\ndecimal_point \",\"\nthousands_sep \".\"\ngrouping 3;3\n"
                       "END LC_NUMERIC\n");
         const std::string log = folder_.path("log");
-        const std::string command = "localedef --force --charmap='" + charmap + "' --inputfile='" +
-                                    source + "' '" + folder_.path(name) + "' > '" + log + "' 2>&1";
+        const std::string command = "localedef --force " + byteOrder() + " --charmap='" + charmap +
+                                    "' --inputfile='" + source + "' '" + folder_.path(name) +
+                                    "' > '" + log + "' 2>&1";
         // Its exit status says nothing: it complains about all the categories that it fills itself.
         std::system(command.c_str()); // NOLINT(cert-env33-c,concurrency-mt-unsafe)
 
@@ -81,6 +82,11 @@ public:
     locale_t get() const { return locale_; }
 
 private:
+    /// The option for the byte order of this program: under an emulator, localedef has another.
+    static std::string byteOrder() {
+        return __BYTE_ORDER__ == __ORDER_BIG_ENDIAN__ ? "--big-endian" : "--little-endian";
+    }
+
     static std::string hex(unsigned number) {
         constexpr const char* digits = "0123456789abcdef";
         return {digits[number / 16], digits[number % 16]};

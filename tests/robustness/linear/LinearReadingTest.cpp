@@ -5,9 +5,9 @@
 // Work is counted, not timed: executed basic blocks of the library, allocations and their bytes.
 
 #include <algorithm>
-#include <chrono>
 #include <cstddef>
 #include <cstdio>
+#include <ctime>
 #include <functional>
 #include <map>
 #include <ostream>
@@ -157,7 +157,7 @@ std::string testName(const testing::TestParamInfo<LinearReading::ParamType>& tes
 
 TEST_P(LinearReading, TakesAtMostTwiceTheWorkPerChildAmongManyMoreSiblings) {
     const auto& [list, ids] = GetParam();
-    const auto start = std::chrono::steady_clock::now();
+    const std::clock_t start = std::clock();
     const Work few = read(list, ids, fewChildren);
     // A reader that searches is found out here, before it takes hours.
     ASSERT_GE(2.0, read(list, ids, 5 * fewChildren).blocks / few.blocks);
@@ -171,8 +171,9 @@ TEST_P(LinearReading, TakesAtMostTwiceTheWorkPerChildAmongManyMoreSiblings) {
     EXPECT_GE(2.0, many.blocks / few.blocks);
     EXPECT_GE(2.0, many.allocations / few.allocations);
     EXPECT_GE(2.0, many.bytes / few.bytes);
-    // A guard for work that is not counted; it takes a second or two.
-    EXPECT_GT(std::chrono::seconds(60), std::chrono::steady_clock::now() - start);
+    // A guard for work that is not counted. It takes a second or two of the processor, which do not
+    // depend on what else the machine does, and more under an emulator.
+    EXPECT_GT(60 * CLOCKS_PER_SEC, std::clock() - start);
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, LinearReading,
