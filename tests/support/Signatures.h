@@ -28,12 +28,19 @@ constexpr bool hasType(Actual) {
     return std::is_same_v<Expected, Actual>;
 }
 
+// Calls of an operator != by its name, as a member or not.
+template <class Type>
+auto notEqual(const Type& a, int) -> decltype(a.operator!=(a));
+template <class Type>
+auto notEqual(const Type& a, long) -> decltype(operator!=(a, a));
+
+/// True when a class has an operator != of its own; since C++20, a != b makes do with operator ==.
 template <class Type, class = void>
 constexpr bool hasNotEqual = false;
 
 template <class Type>
-constexpr bool hasNotEqual<
-    Type, std::void_t<decltype(std::declval<const Type&>() != std::declval<const Type&>())>> = true;
+constexpr bool hasNotEqual<Type, std::void_t<decltype(notEqual(std::declval<const Type&>(), 0))>> =
+    true;
 
 } // namespace test
 
