@@ -44,7 +44,8 @@ void reserveForItems(std::vector<Child>& children, pugi::xml_node firstItem) {
     for (; node && count < countedItems; node = node.next_sibling())
         ++count;
     if (node) {
-        const std::size_t itemText = std::max<std::size_t>(textBetween(firstItem, node) / count, 1);
+        const std::size_t itemText =
+            std::max<std::size_t>(textBetween(firstItem, node) / countedItems, 1);
         const std::size_t listText = textBetween(firstItem, firstItem.parent().last_child());
         const std::size_t estimate = listText / itemText;
         // In this order, in which gigabytes of text do not overflow a size of 32 bits.
