@@ -4,7 +4,6 @@
 #include <chrono>
 #include <cstddef>
 #include <memory>
-#include <new>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,12 +11,13 @@
 #include <fmt/format.h>
 
 #include "tools/Escape.h"
+#include "tools/InputCheck.h"
 #include "tools/PackageFiles.h"
+#include "tools/PackageInput.h"
 #include "tools/ProgressLine.h"
 #include "tools/check/FindingJson.h"
 #include "tools/check/FindingSummary.h"
 #include "tools/check/NameSuggestion.h"
-#include "tools/check/PackageCheck.h"
 
 namespace {
 
@@ -25,13 +25,14 @@ constexpr const char* examples =
     "  qenxml check 00112233-4455-6677-8899-aabbccddeeff.xml\n"
     "  qenxml check --strict outgoing/            all packages in a folder; warnings fail, too\n"
     "  qenxml check --ignore empty-name *.xml     leave a kind of findings out\n"
-    "  qenxml check --json *.xml                  for other programs\n";
+    "  qenxml check --json *.xml                  for other programs\n"
+    "  unzip -p all.zip a.xml | qenxml check --uuid 00112233-4455-6677-8899-aabbccddeeff -\n";
 
 struct CheckOptions {
     bool json = false;
     bool strict = false;
     std::vector<std::string> ignored;
-    std::vector<std::string> files;
+    PackageOptions packages;
 };
 
 /// What is wrong with an argument that shall be a code; empty when nothing is.
@@ -107,28 +108,14 @@ private:
     FindingCounts counts_;
 };
 
-/// Checks a file; a lack of memory is one more finding about it.
-void checkInto(const std::string& path, FindingSink& sink) {
-    try {
-        checkPackage(path, sink);
-    } catch (const std::bad_alloc&) {
-        if (!sink.wants(FindingCode::Unreadable))
-            return;
-        Finding finding;
-        finding.code = kindOf(FindingCode::Unreadable).code;
-        finding.found = "there is not enough memory to check the file";
-        finding.consequence = "the check ends here";
-        sink.add(finding);
-    }
-}
-
-FindingCounts writeText(const std::vector<std::string>& files, const Wanted& wanted,
+FindingCounts writeText(const PackageOptions& packages, const Wanted& wanted,
                         ProgressLine& progress, Console& console) {
+    const std::vector<std::string>& files = packages.files;
     FindingCounts sum;
     for (const std::string& path : files) {
         progress.beginFile(path);
         SummarySink sink(wanted, progress);
-        checkInto(path, sink);
+        checkInput(PackageInput(path, packages), sink);
         const FindingCounts& counts = sink.summary().counts();
         console.print(sink.summary().text(escape(path), console.style()));
         console.print(fmt::format("{}: {}\n", escape(path), describe(counts)));
@@ -146,8 +133,9 @@ std::string countsJson(const FindingCounts& counts) {
                        counts.warnings, counts.notes);
 }
 
-FindingCounts writeJson(const std::vector<std::string>& files, const Wanted& wanted,
+FindingCounts writeJson(const PackageOptions& packages, const Wanted& wanted,
                         ProgressLine& progress, Console& console) {
+    const std::vector<std::string>& files = packages.files;
     FindingCounts sum;
     console.print("{\"files\": [");
     for (const std::string& path : files) {
@@ -155,7 +143,7 @@ FindingCounts writeJson(const std::vector<std::string>& files, const Wanted& wan
         console.print(fmt::format("{}\n  {{\"file\": {}, \"findings\": [",
                                   &path == &files.front() ? "" : ",", toJson(escape(path))));
         JsonSink sink(wanted, progress, console);
-        checkInto(path, sink);
+        checkInput(PackageInput(path, packages), sink);
         console.print(fmt::format("],\n   {}}}", countsJson(sink.counts())));
         sum += sink.counts();
     }
@@ -165,13 +153,14 @@ FindingCounts writeJson(const std::vector<std::string>& files, const Wanted& wan
 
 ExitCode check(const CheckOptions& options, Console& console) {
     constexpr std::chrono::seconds untilProgress(2);
-    const PackageFiles files = packageFiles(options.files);
+    requireUsable(options.packages);
+    const PackageFiles files = packageFiles(options.packages.files);
     for (const std::string& complaint : files.complaints)
         console.complain(complaint);
     const Wanted wanted = wantedCodes(options);
     ProgressLine progress(console, files.paths.size(), untilProgress);
-    const FindingCounts counts =
-        (options.json ? writeJson : writeText)(files.paths, wanted, progress, console);
+    const FindingCounts counts = (options.json ? writeJson : writeText)(
+        {files.paths, options.packages.uuid}, wanted, progress, console);
     console.clearProgress();
     const bool failed = counts.errors > 0 || (options.strict && counts.warnings > 0);
     return failed || !files.complaints.empty() ? ExitCode::Failure : ExitCode::Success;
@@ -193,9 +182,7 @@ Command addCheck(CLI::App& application) {
         ->option_text("CODE")
         ->allow_extra_args(false)
         ->check(CLI::Validator(describeWrongCode, ""));
-    parser
-        ->add_option("FILE", options->files, "Package files, named UUID.xml, and folders with such")
-        ->required()
-        ->option_text(" ");
+    addPackageOptions(*parser, options->packages,
+                      "Package files, named UUID.xml, and folders with such");
     return {parser, [options](Console& console) { return check(*options, console); }};
 }

@@ -10,6 +10,7 @@
 
 #include "tools/Escape.h"
 #include "tools/FileContent.h"
+#include "tools/PackageInput.h"
 
 namespace fs = std::filesystem;
 
@@ -44,7 +45,7 @@ PackageFiles packageFiles(const std::vector<std::string>& arguments) {
     PackageFiles files;
     for (const std::string& argument : arguments) {
         std::error_code ignored;
-        if (fs::is_directory(argument, ignored))
+        if (!isStandardInput(argument) && fs::is_directory(argument, ignored))
             addFolder(argument, files);
         else
             files.paths.push_back(argument);

@@ -10,8 +10,8 @@ struct PackageFiles {
     std::vector<std::string> complaints; ///< About folders; safe to print.
 };
 
-/// Takes files as they are, whether they exist or not, and of folders all files in them and in
-/// their folders that end in ".xml", whatever the case, sorted by path.
+/// Takes files as they are, whether they exist or not, the standard input too, and of folders all
+/// files in them and in their folders that end in ".xml", whatever the case, sorted by path.
 PackageFiles packageFiles(const std::vector<std::string>& arguments);
 
 #endif

@@ -17,8 +17,6 @@
 
 namespace {
 
-constexpr const char* standardInput = "-";
-
 /// In words, why no copy of the standard input could be made.
 std::string describeCopyError(int error) {
     return fmt::format("cannot be copied to a temporary file: {}",
@@ -70,10 +68,12 @@ bool isSameFile(const std::string& a, const std::string& b) {
 
 } // namespace
 
-void addPackageOptions(CLI::App& parser, PackageOptions& options) {
-    parser
-        .add_option("FILE", options.files,
-                    "Package files, named UUID.xml; \"-\" is the standard input")
+bool isStandardInput(const std::string& file) {
+    return file == "-";
+}
+
+void addPackageOptions(CLI::App& parser, PackageOptions& options, const std::string& files) {
+    parser.add_option("FILE", options.files, files + "; \"-\" is the standard input")
         ->required()
         ->option_text(" ");
     parser.add_option("--uuid", options.uuid, "UUID of the package on the standard input")
@@ -82,7 +82,7 @@ void addPackageOptions(CLI::App& parser, PackageOptions& options) {
 }
 
 void requireUsable(const PackageOptions& options, const std::string& output) {
-    const auto count = std::count(options.files.begin(), options.files.end(), standardInput);
+    const auto count = std::count_if(options.files.begin(), options.files.end(), isStandardInput);
     if (count > 1)
         throw CLI::ValidationError("\"-\" is given more than once");
     if (count == 1 && options.uuid.empty())
@@ -91,7 +91,7 @@ void requireUsable(const PackageOptions& options, const std::string& output) {
     if (count == 0 && !options.uuid.empty())
         throw CLI::ValidationError("--uuid is for the standard input, which no \"-\" asks for");
     for (const std::string& file : options.files) {
-        if (file != standardInput && isSameFile(file, output))
+        if (!isStandardInput(file) && isSameFile(file, output))
             throw CLI::ValidationError("the output would replace a package that is to be read");
     }
 }
@@ -100,7 +100,7 @@ PackageInput::PackageInput(std::string path) : name_(path), path_(std::move(path
 
 PackageInput::PackageInput(const std::string& file, const PackageOptions& options)
     : name_(file), path_(file) {
-    if (file == standardInput)
+    if (isStandardInput(file))
         copyStandardInput(options.uuid);
 }
 

@@ -16,7 +16,13 @@ struct PackageOptions {
 };
 
 /// Adds FILE and `--uuid`.
-void addPackageOptions(CLI::App& parser, PackageOptions& options);
+///
+/// @param files what may be given for FILE beside "-"
+void addPackageOptions(CLI::App& parser, PackageOptions& options,
+                       const std::string& files = "Package files, named UUID.xml");
+
+/// Whether an argument stands for the standard input and not for a file.
+bool isStandardInput(const std::string& file);
 
 /// Refuses what is no way to name packages, such as "-" without `--uuid`; and to write the result,
 /// if it has a name, over one of them.

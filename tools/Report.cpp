@@ -3,13 +3,12 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
+#include "tools/InputCheck.h"
 #include "tools/Output.h"
 #include "tools/PackageInput.h"
 #include "tools/PackageReading.h"
-#include "tools/check/PackageCheck.h"
 #include "tools/report/ReportData.h"
 #include "tools/report/ReportPage.h"
 
@@ -36,27 +35,11 @@ private:
     ReportFindings& findings_;
 };
 
-/// What is wrong with a package. Without a file to check that is the reason for it.
-ReportFindings findingsOf(const PackageInput& input) {
-    ReportFindings findings;
-    if (!input.failure()) {
-        ReportSink sink(findings);
-        checkPackage(input.path(), sink);
-        return findings;
-    }
-    Finding finding;
-    finding.code = kindOf(FindingCode::Unreadable).code;
-    finding.found = *input.failure();
-    finding.consequence = "the package is not read";
-    if (findings.count(FindingCode::Unreadable))
-        findings.keep(std::move(finding));
-    return findings;
-}
-
 ReportPackage examine(const PackageInput& input, Console& console) {
     ReportPackage package;
     package.reading = readAndComplain(input, "reported", console);
-    package.findings = findingsOf(input);
+    ReportSink sink(package.findings);
+    checkInput(input, sink);
     package.counts = countRecords(package.reading.growers);
     return package;
 }

@@ -40,4 +40,15 @@ TEST(PackageFiles, ComplainsOfAFolderWithoutPackages) {
               (std::vector<std::string>{folder.path("empty") + "\\n: no file in it ends in .xml"}));
 }
 
+TEST(PackageFiles, LeavesTheStandardInputToItsReader) {
+    const test::TemporaryFolder folder;
+    fs::create_directory(folder.path("-"));
+    const fs::path before = fs::current_path();
+    fs::current_path(folder.path(""));
+    const PackageFiles files = packageFiles({"-"});
+    fs::current_path(before);
+    EXPECT_EQ(files.paths, std::vector<std::string>{"-"});
+    EXPECT_EQ(files.complaints, std::vector<std::string>{});
+}
+
 } // namespace

@@ -12,7 +12,7 @@ complete -c qenxml -n "not __fish_seen_subcommand_from $commands" -a report -d '
 
 complete -c qenxml -n "__fish_seen_subcommand_from $commands" -k -a '(__fish_complete_suffix .xml)'
 complete -c qenxml -n '__fish_seen_subcommand_from show export' -l merge -d 'Merge the growers of all packages'
-complete -c qenxml -n '__fish_seen_subcommand_from show export report' -l uuid -x -d 'UUID of the package on the standard input'
+complete -c qenxml -n "__fish_seen_subcommand_from $commands" -l uuid -x -d 'UUID of the package on the standard input'
 complete -c qenxml -n '__fish_seen_subcommand_from export report' -s o -l output -r -F -d 'Write to this file'
 complete -c qenxml -n '__fish_seen_subcommand_from export' -l format -x -a 'json csv geojson' -d 'The format'
 complete -c qenxml -n '__fish_seen_subcommand_from check' -l json -d 'Write all findings as one JSON document'
