@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "tests/support/TemporaryFolder.h"
 
@@ -37,7 +38,8 @@ TEST(PackageFiles, ComplainsOfAFolderWithoutPackages) {
     const PackageFiles files = packageFiles({folder.path("empty\n")});
     EXPECT_EQ(files.paths, std::vector<std::string>{});
     EXPECT_EQ(files.complaints,
-              (std::vector<std::string>{folder.path("empty") + "\\n: no file in it ends in .xml"}));
+              (std::vector<std::string>{folder.path("empty") +
+                                        "\\n: no file in it ends in .xml; nothing is checked"}));
 }
 
 TEST(PackageFiles, LeavesTheStandardInputToItsReader) {
@@ -49,6 +51,34 @@ TEST(PackageFiles, LeavesTheStandardInputToItsReader) {
     fs::current_path(before);
     EXPECT_EQ(files.paths, std::vector<std::string>{"-"});
     EXPECT_EQ(files.complaints, std::vector<std::string>{});
+}
+
+TEST(PackageFiles, ComplainsOfEachFolderThatItMayNotList) {
+    const test::TemporaryFolder folder;
+    fs::create_directories(folder.path("a/locked"));
+    folder.write("a/b.xml", "");
+    fs::permissions(folder.path("a/locked"), fs::perms::none);
+    const uid_t user = geteuid();
+    // Root may list everything, so it has to become somebody else meanwhile.
+    const uid_t nobody = 65534;
+    fs::permissions(folder.path(""), fs::perms::all);
+    ASSERT_EQ(seteuid(user == 0 ? nobody : user), 0);
+    const PackageFiles files = packageFiles({folder.path("a")});
+    ASSERT_EQ(seteuid(user), 0);
+    fs::permissions(folder.path("a/locked"), fs::perms::owner_all);
+    EXPECT_EQ(files.paths, std::vector<std::string>{folder.path("a/b.xml")});
+    EXPECT_EQ(files.complaints,
+              std::vector<std::string>{folder.path("a/locked") +
+                                       ": permission denied; packages in it are left out"});
+}
+
+TEST(PackageFiles, FollowsNoLinksToFolders) {
+    const test::TemporaryFolder folder;
+    fs::create_directories(folder.path("a"));
+    folder.write("a/b.xml", "");
+    fs::create_directory_symlink(folder.path("a"), folder.path("a/again"));
+    EXPECT_EQ(packageFiles({folder.path("a")}).paths,
+              std::vector<std::string>{folder.path("a/b.xml")});
 }
 
 } // namespace
