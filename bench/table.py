@@ -91,8 +91,7 @@ def reading(programs, paths, operations, limits):
 
 
 def small_packages(programs):
-    """Several, because a processor that reads a small package over and over learns its branches,
-    one package better than the other: the ratios of single packages lie up to 4 % apart."""
+    """Several, because the ratios of single packages lie up to 4 % apart."""
     return [programs.package(SMALL, seed=seed) for seed in range(1, 9)]
 
 
