@@ -1,5 +1,7 @@
 #include "parser/RecElement.h"
 
+#include <string>
+
 #include "model/QenRecData.h"
 #include "parser/Identifier.h"
 #include "parser/QenXmlParser.h"
@@ -17,7 +19,8 @@ boost::uuids::uuid identifierAttribute(pugi::xml_node node, const char* name) {
     return qenxml::uuidFromText(node.attribute(name).as_string());
 }
 
-// Templates, because the type of the values is private to QenRec.
+// Templates, because the type of the values is private to QenRec. Texts are moved in as strings of
+// their own: assigning characters to an empty string reserves more memory than they take.
 
 template <class Values>
 void readOperation(pugi::xml_node operation, Origin origin, Values& values) {
@@ -27,7 +30,7 @@ void readOperation(pugi::xml_node operation, Origin origin, Values& values) {
     if (id.is_nil()) // A nil operation is none at all, so its name is dropped with it.
         return;
     values.operationId = id;
-    values.operationName = ValueChildren(operation, origin).text(tag::OpName);
+    values.operationName = std::string(ValueChildren(operation, origin).text(tag::OpName));
 }
 
 template <class Values>
@@ -38,7 +41,7 @@ void readSeason(pugi::xml_node season, Origin origin, Values& values) {
     if (id < 0) // A negative season is none at all, so its name is dropped with it.
         return;
     values.seasonId = id;
-    values.seasonName = ValueChildren(season, origin).text(tag::SeasonName);
+    values.seasonName = std::string(ValueChildren(season, origin).text(tag::SeasonName));
 }
 
 /// Without the element the statistics read as zeros: the unit codes become 0, unlike the -1 of a
@@ -50,13 +53,13 @@ void readStatistics(pugi::xml_node statistics, Origin origin, Values& values) {
     values.maximumRate = child.number(tag::MaximumRate);
     values.averageRate = child.number(tag::AverageRate);
     values.rateUomId = child.integer(tag::RateUOMID);
-    values.rateUom = child.text(tag::RateUOM);
+    values.rateUom = std::string(child.text(tag::RateUOM));
     values.total = child.number(tag::Total);
     values.totalUomId = child.integer(tag::TotalUOMID);
-    values.totalUom = child.text(tag::TotalUOM);
+    values.totalUom = std::string(child.text(tag::TotalUOM));
     values.area = child.number(tag::Area);
     values.areaUomId = child.integer(tag::AreaUOMID);
-    values.areaUom = child.text(tag::AreaUOM);
+    values.areaUom = std::string(child.text(tag::AreaUOM));
 }
 
 } // namespace
@@ -69,12 +72,12 @@ void qenxml::RecElement::readInto(QenRec& rec, const boost::uuids::uuid& fieldId
 
     values.fieldId = fieldId;
     values.fieldGeometryId = fieldGeometryId;
-    values.name = child.element(tag::RecName).child_value();
+    values.name = std::string(child.element(tag::RecName).child_value());
     values.id = identifierAttribute(node_, tag::RecID);
     values.recGeometry = uuidFromText(child.text(tag::RecGeometry));
-    values.creationDate = child.text(tag::CreationDate);
-    values.editDate = child.text(tag::EditDate);
-    values.recDbfCol = child.text(tag::RecDBFCol);
+    values.creationDate = std::string(child.text(tag::CreationDate));
+    values.editDate = std::string(child.text(tag::EditDate));
+    values.recDbfCol = std::string(child.text(tag::RecDBFCol));
     readOperation(child.element(tag::Operation), origin_, values);
     readSeason(child.element(tag::Season), origin_, values);
     // The management zone alone may be empty: most recs have none.
