@@ -13,6 +13,7 @@
 
 #include "tests/support/PackageText.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/Uuids.h"
 #include "tests/support/Xml.h"
 
 namespace {
@@ -94,6 +95,17 @@ INSTANTIATE_TEST_SUITE_P(Of, ListWalk, ::testing::ValuesIn(lists),
 
 TEST_P(ListWalk, ReadsAllItemsInTheirOrder) {
     EXPECT_EQ((Numbers{33, 31, 32}), read(item(33) + item(31) + item(32)));
+}
+
+// Room for the items of a long list is estimated from its text.
+TEST_P(ListWalk, ReadsAllItemsOfALongListOfUnequalItems) {
+    std::string list;
+    for (unsigned i = 0; i < 3'000; ++i)
+        list += GetParam().element(i, std::string(i % 1'500 == 0 ? 100'000 : 0, ' '));
+    Numbers expected(3'000);
+    for (unsigned i = 0; i < 3'000; ++i)
+        expected[i] = number(test::uuid(i));
+    EXPECT_EQ(expected, read(list));
 }
 
 TEST_P(ListWalk, OfNothingReadsNothing) {
