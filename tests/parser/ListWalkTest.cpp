@@ -173,3 +173,37 @@ TEST(ListWalkOfAHostsDocument, ReadsEvenACommentAsOneMoreItem) {
     grower.append_child(pugi::node_comment).set_value("after");
     EXPECT_THROW(QenXmlParser().parseGrowerNode(grower), std::runtime_error);
 }
+
+// Such a document does not know where in a text its elements stood, or they have changed places.
+
+TEST(ListWalkOfAHostsDocument, ReadsALongListThatTheHostMade) {
+    pugi::xml_document document;
+    pugi::xml_node grower = document.append_child("Grower");
+    grower.append_attribute("GrowerID").set_value(test::uuidText(1).c_str());
+    for (unsigned i = 0; i < 3'000; ++i)
+        grower.append_child("Farm").append_attribute("FarmID").set_value(test::uuidText(i).c_str());
+
+    QenGrower read = QenXmlParser().parseGrowerNode(grower);
+
+    ASSERT_EQ(3'000U, read.farms().size());
+    for (unsigned i = 0; i < 3'000; ++i)
+        EXPECT_EQ(test::uuid(i), read.farms()[i].id());
+}
+
+TEST(ListWalkOfAHostsDocument, ReadsALongListWhoseLastItemsWereMovedToItsFront) {
+    std::string farms;
+    for (unsigned i = 0; i < 3'000; ++i)
+        farms += test::farm(i);
+    const test::Xml xml(test::grower(1, farms));
+    pugi::xml_node grower = xml.root();
+    for (unsigned i = 0; i < 1'500; ++i)
+        grower.prepend_move(grower.last_child());
+
+    QenGrower read = QenXmlParser().parseGrowerNode(grower);
+
+    ASSERT_EQ(3'000U, read.farms().size());
+    for (unsigned i = 0; i < 1'500; ++i) {
+        EXPECT_EQ(test::uuid(1'500 + i), read.farms()[i].id());
+        EXPECT_EQ(test::uuid(i), read.farms()[1'500 + i].id());
+    }
+}
