@@ -43,7 +43,6 @@ TEST(CommandLine, TakesTheShortAndTheLongOptionForHelp) {
 
 TEST(CommandLine, PrintsTheVersion) {
     const RunResult result = runCommand({"--version"});
-    EXPECT_EQ(result.output, "qenxml 1.0.0\n");
     EXPECT_EQ(result.output, "qenxml " QENXML_VERSION "\n");
     EXPECT_EQ(result.errors, "");
     EXPECT_EQ(result.exitCode, 0);
