@@ -2,8 +2,13 @@
 
 include(GNUInstallDirs)
 
-find_package(pugixml REQUIRED)
-find_package(Boost 1.55 REQUIRED OPTIONAL_COMPONENTS system)
+# A project around this one may bring its own.
+if(NOT TARGET pugixml::pugixml)
+    find_package(pugixml REQUIRED)
+endif()
+if(NOT TARGET Boost::headers)
+    find_package(Boost 1.55 REQUIRED OPTIONAL_COMPONENTS system)
+endif()
 
 file(GLOB qenxml_sources CONFIGURE_DEPENDS model/*.cpp parser/*.cpp)
 file(GLOB qenxml_model_headers CONFIGURE_DEPENDS model/*.h)
@@ -37,6 +42,10 @@ if(BUILD_SHARED_LIBS)
     # Calls of pugixml directly instead of by way of a stub: 6 % less time for a small package.
     target_compile_options(qenxml PRIVATE -fno-plt)
     set(export_map ${CMAKE_CURRENT_SOURCE_DIR}/libqenxml.map)
-    target_link_options(qenxml PRIVATE LINKER:--version-script=${export_map} LINKER:--no-undefined)
+    target_link_options(qenxml PRIVATE LINKER:--version-script=${export_map})
+    if(NOT QENXML_SANITIZERS AND NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize")
+        # With clang, the functions of the sanitizers are in the program.
+        target_link_options(qenxml PRIVATE LINKER:--no-undefined)
+    endif()
     set_property(TARGET qenxml APPEND PROPERTY LINK_DEPENDS ${export_map})
 endif()

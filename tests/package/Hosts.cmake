@@ -79,8 +79,15 @@ build(fetched ${CMAKE_CURRENT_LIST_DIR}/fetched_host
     ${kind_option})
 expect_host_output(${WORK_DIR}/fetched/host)
 
+# Together with a pugixml of the host's own, and built with a sanitizer as the host is.
+build(own_pugixml ${CMAKE_CURRENT_LIST_DIR}/subdirectory_host
+    -D QENXML_SOURCE=${SOURCE_DIR} ${kind_option}
+    -D QENXML_INSTALL=OFF -D OWN_PUGIXML=ON -D CMAKE_DISABLE_FIND_PACKAGE_pugixml=ON
+    "-DCMAKE_CXX_FLAGS=${warning_flags} -fsanitize=address")
+expect_host_output(${WORK_DIR}/own_pugixml/host)
+
 # They are what was asked for.
-foreach(host find_package/host pkg_config_host subdirectory/host fetched/host)
+foreach(host find_package/host pkg_config_host subdirectory/host fetched/host own_pugixml/host)
     execute_process(COMMAND objdump -p ${WORK_DIR}/${host}
         OUTPUT_VARIABLE headers COMMAND_ERROR_IS_FATAL ANY)
     string(FIND "${headers}" "libqenxml.so.1" position)
