@@ -7,7 +7,9 @@ include(CheckPIESupported)
 option(QENXML_HARDENING "Protect the stack, the calls and the loader's tables" ON)
 
 check_cxx_compiler_flag(-fstack-protector-strong QENXML_STACK_PROTECTOR)
-check_cxx_compiler_flag(-fcf-protection QENXML_CONTROL_FLOW_PROTECTION) # x86 only
+# Where the processor's kind has it.
+check_cxx_compiler_flag(-fcf-protection QENXML_CONTROL_FLOW_PROTECTION)              # x86
+check_cxx_compiler_flag(-mbranch-protection=standard QENXML_BRANCH_PROTECTION)       # 64-bit ARM
 check_pie_supported(LANGUAGES CXX)
 
 function(qenxml_harden target)
@@ -16,7 +18,8 @@ function(qenxml_harden target)
     endif()
     target_compile_options(${target} PRIVATE
         $<$<BOOL:${QENXML_STACK_PROTECTOR}>:-fstack-protector-strong>
-        $<$<BOOL:${QENXML_CONTROL_FLOW_PROTECTION}>:-fcf-protection>)
+        $<$<BOOL:${QENXML_CONTROL_FLOW_PROTECTION}>:-fcf-protection>
+        $<$<BOOL:${QENXML_BRANCH_PROTECTION}>:-mbranch-protection=standard>)
     if(NOT CMAKE_CXX_FLAGS MATCHES "_FORTIFY_SOURCE") # who packages it may have decided
         # Needs optimisation.
         target_compile_options(${target} PRIVATE

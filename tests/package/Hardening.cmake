@@ -37,6 +37,10 @@ function(expect_landing_pads binary symbol)
     if(PROCESSOR MATCHES "^(x86_64|AMD64|amd64)$")
         output_of(code objdump -d --no-show-raw-insn --disassemble=${symbol} ${binary})
         expect_match("Calls of ${symbol} land" "${code}" "<${symbol}(@@[A-Z0-9_]+)?>:\n[^\n]*endbr64")
+    elseif(PROCESSOR MATCHES "^(aarch64|arm64)$")
+        output_of(code objdump -d --no-show-raw-insn --disassemble=${symbol} ${binary})
+        expect_match("Calls of ${symbol} land" "${code}"
+            "<${symbol}(@@[A-Z0-9_]+)?>:\n[^\n]*(bti|paciasp)")
     endif()
 endfunction()
 
