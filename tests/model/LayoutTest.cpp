@@ -33,6 +33,9 @@ const Member& at(const Object& object, Member Layout::*member) {
     return *reinterpret_cast<const Member*>(reinterpret_cast<const char*>(&object) + offset);
 }
 
+// Everything below, and with it every host, counts on that.
+static_assert(sizeof(uuid) == 16 && alignof(uuid) == 1);
+
 struct GrowerLayout {
     string name;
     uuid id;
