@@ -1,5 +1,5 @@
-# scripts/sbom writes what CycloneDX asks for, names what the library and the command are built with,
-# and refers to nothing that it does not name.
+# scripts/sbom writes what CycloneDX asks for, names what the library and the command are built with
+# and are linked with, by the packages that hold it, and refers to nothing that it does not name.
 
 include(${CMAKE_CURRENT_LIST_DIR}/Common.cmake)
 
@@ -20,7 +20,8 @@ expect_member(${VERSION} metadata component version)
 expect_member(libqenxml metadata component components 0 name)
 expect_member(${VERSION} metadata component components 0 version)
 
-# Everything that is built with has a version, an address and a licence.
+# Everything that is built with has a version, an address, which names the source package, and a
+# licence.
 set(named qenxml libqenxml)
 string(JSON count LENGTH "${sbom}" components)
 math(EXPR last "${count} - 1")
@@ -33,9 +34,17 @@ foreach(i RANGE ${last})
     execute_process(COMMAND dpkg-query -W -f "\${Version}" ${name}
         OUTPUT_VARIABLE installed COMMAND_ERROR_IS_FATAL ANY)
     expect_same("The version of ${name}" "${version}" "${installed}")
+    execute_process(COMMAND dpkg-query -W -f "\${source:Package}@\${source:Version}" ${name}
+        OUTPUT_VARIABLE upstream COMMAND_ERROR_IS_FATAL ANY)
+    foreach(part version upstream)
+        string(REPLACE "+" "%2B" ${part} "${${part}}")
+        string(REPLACE "@" "%40" ${part} "${${part}}")
+    endforeach()
     string(JSON address GET "${sbom}" components ${i} purl)
-    if(NOT address MATCHES "^pkg:deb/[a-z]+/${name}@[^ +/]+\\?distro=[a-z0-9.-]+$" OR license STREQUAL "")
-        message(FATAL_ERROR "${name} has the address ${address} and the licence ${license}")
+    string(REGEX REPLACE "^pkg:deb/[a-z]+/|distro=[a-z0-9.-]+&" "" address "${address}")
+    expect_same("The address of ${name}" "${address}" "${name}@${version}?upstream=${upstream}")
+    if(license STREQUAL "")
+        message(FATAL_ERROR "${name} has no licence")
     endif()
     list(APPEND named ${name})
 endforeach()
@@ -61,12 +70,48 @@ list(SORT named)
 list(SORT referring)
 expect_same("What lists its dependencies" "${referring}" "${named}")
 
-# What the library is built with is what its development package brings.
+# owner_of(VARIABLE FILE): the package that holds a file, which may be a pattern.
+function(owner_of variable file)
+    execute_process(COMMAND dpkg -S ${file} OUTPUT_VARIABLE owner COMMAND_ERROR_IS_FATAL ANY)
+    string(REGEX REPLACE ":.*" "" owner "${owner}")
+    set(${variable} ${owner} PARENT_SCOPE)
+endfunction()
+
+# The packages that hold the headers, and not those that only depend on one of the present version.
+owner_of(boost /usr/include/boost/uuid/uuid.hpp)
+owner_of(pugixml_library */libpugixml.so.1)
+set(expected ${boost} libpugixml-dev ${pugixml_library})
+list(SORT expected)
 list(SORT dependencies_of_libqenxml)
-expect_same("What the library depends on" "${dependencies_of_libqenxml}"
-    "libboost-dev;libboost-system-dev;libpugixml-dev")
-foreach(package libqenxml libcli11-dev libfmt-dev)
+expect_same("What the library depends on" "${dependencies_of_libqenxml}" "${expected}")
+foreach(package libqenxml ${boost} libcli11-dev libfmt-dev nlohmann-json3-dev)
     if(NOT package IN_LIST dependencies_of_qenxml)
         message(FATAL_ERROR "qenxml does not depend on ${package}")
     endif()
 endforeach()
+
+# expect_linked_named(PROGRAM REFERENCE): the shared libraries that a binary asks for are among the
+# dependencies of what it is called here, but for those of the compiler.
+function(expect_linked_named program reference)
+    execute_process(COMMAND readelf -d ${program} OUTPUT_VARIABLE section COMMAND_ERROR_IS_FATAL ANY)
+    string(REGEX MATCHALL "\\(NEEDED\\)[^\n]*" needed "${section}")
+    if(NOT needed MATCHES "libpugixml")
+        message(FATAL_ERROR "readelf has not found what ${program} is linked with:\n${section}")
+    endif()
+    foreach(line IN LISTS needed)
+        string(REGEX REPLACE ".*: .(.*)\\]" "\\1" file "${line}")
+        if(file MATCHES "^lib(qenxml|c|m|gcc_s|stdc\\+\\+|c\\+\\+|c\\+\\+abi|asan|tsan|ubsan)\\.so|^ld-linux")
+            continue()
+        endif()
+        owner_of(package */${file})
+        if(NOT package IN_LIST dependencies_of_${reference})
+            message(FATAL_ERROR "${reference} is linked with ${package}, which it does not name")
+        endif()
+    endforeach()
+endfunction()
+if(SHARED)
+    expect_linked_named(${LIBRARY} libqenxml)
+endif()
+if(COMMAND)
+    expect_linked_named(${COMMAND} qenxml)
+endif()
