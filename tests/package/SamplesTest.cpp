@@ -465,4 +465,33 @@ TEST(PackageFormat, TheGoodListReadsAndTheBadOneDoesNot) {
     EXPECT_EQ(readText("<RecPackage>" + bad[0] + "</RecPackage>"), invalid);
 }
 
+// Schema.cmake tests that the schema accepts these.
+TEST(PackageFormat, WhatTheSchemaDoesNotSeeIsAnErrorOrLost) {
+    const std::vector<std::string> minimal = formatExamples({"<RecPackage"});
+    const std::vector<std::string> full = formatExamples({"<?xml"});
+    ASSERT_EQ(minimal.size(), 1U);
+    ASSERT_EQ(full.size(), 1U);
+    const auto changed = [](std::string text, const std::string& from, const std::string& to) {
+        return text.replace(text.find(from), from.size(), to);
+    };
+    for (const char* split : {"<!-- -->30bf", "<?split?>30bf", "<![CDATA[30bf]]>"})
+        EXPECT_EQ(readText(changed(minimal[0], "30bf", split)), invalid) << split;
+    EXPECT_EQ(readText(changed(minimal[0], "a97c", "<![CDATA[]]>a97c")), invalid);
+
+    // The growers before the broken one are kept: here the one that has been read.
+    EXPECT_EQ(readText(changed(minimal[0], "</Grower>", "</Grower>&#32;")),
+              "\n  \n    \n      \n" + invalid);
+    for (const char* item : {"</Farm>", "</Field>", "</Rec>"})
+        EXPECT_EQ(readText(changed(minimal[0], item, item + std::string("&#32;"))), invalid)
+            << item;
+
+    const test::TemporaryFolder folder;
+    QenXmlParser parser;
+    ASSERT_TRUE(
+        parser.parseFile(folder.writePackage(changed(full[0], "<Planting>", "&#32;<Planting>"))));
+    QenGrower grower = parser.getGrowers().at(0);
+    EXPECT_EQ(grower.farms().at(0).fields().at(0).recs().at(0).recData(), nullptr);
+    EXPECT_NE(grower.farms().at(0).fields().at(0).recs().at(1).recData(), nullptr);
+}
+
 } // namespace
