@@ -7,9 +7,11 @@ include(CheckPIESupported)
 option(QENXML_HARDENING "Protect the stack, the calls and the loader's tables" ON)
 
 check_cxx_compiler_flag(-fstack-protector-strong QENXML_STACK_PROTECTOR)
-# Where the processor's kind has it.
-check_cxx_compiler_flag(-fcf-protection QENXML_CONTROL_FLOW_PROTECTION)              # x86
-check_cxx_compiler_flag(-mbranch-protection=standard QENXML_BRANCH_PROTECTION)       # 64-bit ARM
+# Where the processor's kind has it. Elsewhere clang takes the options, too, and warns.
+set(CMAKE_REQUIRED_FLAGS -Werror)
+check_cxx_compiler_flag(-fcf-protection QENXML_CONTROL_FLOW_PROTECTION)        # x86
+check_cxx_compiler_flag(-mbranch-protection=standard QENXML_BRANCH_PROTECTION) # 64-bit ARM
+unset(CMAKE_REQUIRED_FLAGS)
 check_pie_supported(LANGUAGES CXX)
 
 function(qenxml_harden target)
