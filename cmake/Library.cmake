@@ -42,7 +42,8 @@ if(BUILD_SHARED_LIBS)
     # Calls of pugixml directly instead of by way of a stub: 6 % less time for a small package.
     target_compile_options(qenxml PRIVATE -fno-plt)
     set(export_map ${CMAKE_CURRENT_SOURCE_DIR}/libqenxml.map)
-    target_link_options(qenxml PRIVATE LINKER:--version-script=${export_map})
+    # --as-needed: nothing that it does not use, Boost.System, which is all in headers, before all.
+    target_link_options(qenxml PRIVATE LINKER:--version-script=${export_map} LINKER:--as-needed)
     if(NOT QENXML_SANITIZERS AND NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize")
         # With clang, the functions of the sanitizers are in the program.
         target_link_options(qenxml PRIVATE LINKER:--no-undefined)
