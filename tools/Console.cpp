@@ -31,9 +31,10 @@ void Console::complain(std::string_view message) {
 
 void Console::complainOnly(std::string_view message) {
     clearProgress();
-    const std::string line = fmt::format("qenxml: {}\n", message);
-    // In one piece, so that it stays whole beside the output of other programs. Nobody is left to
-    // tell when it fails.
+    // In one piece, so that it stays whole beside the output of other programs, and short ones
+    // without memory, of which there may be none. Nobody is left to tell when it fails.
+    fmt::memory_buffer line;
+    fmt::format_to(fmt::appender(line), "qenxml: {}\n", message);
     std::fwrite(line.data(), 1, line.size(), messages_);
     std::fflush(messages_);
 }

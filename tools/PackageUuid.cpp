@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <locale>
+#include <new>
 #include <stdexcept>
 
 #include <boost/algorithm/string/predicate.hpp>
@@ -15,7 +16,8 @@ std::optional<boost::uuids::uuid> uuidOf(const std::string& text) {
     // The library converts identifiers only while it reads an element, so it gets one to read.
     pugi::xml_document document;
     pugi::xml_node grower = document.append_child(qenxml::tag::Grower);
-    grower.append_attribute(qenxml::tag::GrowerID).set_value(text.c_str());
+    if (!grower.append_attribute(qenxml::tag::GrowerID).set_value(text.c_str()))
+        throw std::bad_alloc(); // Nothing else fails here.
     try {
         return QenXmlParser().parseGrowerNode(grower).id();
     } catch (const std::runtime_error&) {

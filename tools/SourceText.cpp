@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <new>
 #include <string_view>
 #include <utility>
 
@@ -20,7 +21,11 @@ pugi::xml_encoding encodingOf(const std::string& bytes) {
     std::size_t size = firstBytes;
     if (bytes.compare(0, 5, "<?xml") == 0)
         size = std::max(size, bytes.find("?>", 5)) + 2;
-    return pugi::xml_document().load_buffer(bytes.data(), std::min(size, bytes.size())).encoding;
+    const pugi::xml_parse_result loaded =
+        pugi::xml_document().load_buffer(bytes.data(), std::min(size, bytes.size()));
+    if (loaded.status == pugi::status_out_of_memory)
+        throw std::bad_alloc();
+    return loaded.encoding;
 }
 
 /// One number of @p size bytes.

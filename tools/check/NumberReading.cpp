@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <new>
 
 #include <fmt/format.h>
 #include <pugixml.hpp>
@@ -42,7 +43,8 @@ std::size_t integerLength(const char* text) {
 int integerOf(const char* text) {
     pugi::xml_document document;
     pugi::xml_attribute attribute = document.append_child("n").append_attribute("n");
-    attribute.set_value(text);
+    if (!attribute.set_value(text))
+        throw std::bad_alloc(); // Nothing else fails here.
     return attribute.as_int();
 }
 
