@@ -51,7 +51,7 @@ ExitCode report(const ReportOptions& options, Console& console) {
     std::vector<ReportPackage> packages;
     for (const std::string& file : options.packages.files) {
         packages.push_back(examine(PackageInput(file, options.packages), console));
-        if (packages.back().reading.failure)
+        if (!isWhole(packages.back()))
             result = ExitCode::Failure;
     }
     writeReport(packages, [&output](std::string_view text) { output.write(text); });

@@ -39,6 +39,11 @@ std::size_t ReportFindings::number() const {
     return std::accumulate(counts_.begin(), counts_.end(), std::size_t{0});
 }
 
+bool isWhole(const ReportPackage& package) {
+    // Where reading succeeds, the check finds no error, unless it could not read the file.
+    return !package.reading.failure && package.findings.number(Severity::Error) == 0;
+}
+
 void ProductTotals::add(std::vector<QenGrower>& growers) {
     for (QenGrower& grower : growers)
         for (QenFarm& farm : grower.farms())

@@ -51,6 +51,9 @@ struct ReportPackage {
     RecordCounts counts;
 };
 
+/// Whether all of it was read and checked.
+bool isWhole(const ReportPackage& package);
+
 /// A product, and the unit in which its total is given.
 struct ProductUnit {
     std::string kind; ///< Empty for recs without product data.
