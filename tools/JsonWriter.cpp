@@ -29,12 +29,12 @@ void JsonWriter::beginArray(std::string_view key) {
 
 void JsonWriter::element(const nlohmann::ordered_json& value) {
     startItem();
-    this->value(value);
+    text_ += value.dump();
 }
 
 void JsonWriter::member(std::string_view key, const nlohmann::ordered_json& value) {
     startItem(key);
-    this->value(value);
+    text_ += value.dump();
 }
 
 void JsonWriter::endDocument() {
@@ -77,18 +77,6 @@ void JsonWriter::startItem(std::string_view key) {
 void JsonWriter::startLine() {
     text_ += '\n';
     text_.append(depth_ * indentPerLevel, ' ');
-}
-
-void JsonWriter::value(const nlohmann::ordered_json& value) {
-    // Line feeds stand between items only: those of texts are escaped.
-    const std::string dumped = value.dump(static_cast<int>(indentPerLevel));
-    std::string_view rest = dumped;
-    for (std::size_t end = 0; (end = rest.find('\n')) != std::string_view::npos;) {
-        text_ += rest.substr(0, end);
-        startLine();
-        rest.remove_prefix(end + 1);
-    }
-    text_ += rest;
 }
 
 void JsonWriter::flush() {

@@ -10,6 +10,9 @@
 
 /// A JSON document written from its beginning to its end, so that not all of it is in memory at
 /// once. Members are indented and come in the order in which they are written.
+///
+/// Values are texts, numbers, truth values and null. An object or an array of the JSON library is
+/// none: it needs memory to go away, and ends the process where there is none left.
 class JsonWriter {
 public:
     explicit JsonWriter(TextSink sink) : sink_(std::move(sink)) {}
@@ -35,7 +38,6 @@ private:
     void startItem();
     void startItem(std::string_view key);
     void startLine();
-    void value(const nlohmann::ordered_json& value);
     void flush();
 
     TextSink sink_;

@@ -17,7 +17,13 @@ TEST(JsonWriter, WritesItemsIndentedAndInOrder) {
     writer.beginObject();
     writer.member("b", 1);
     writer.beginArray("a");
-    writer.element({{"x", "line\nfeed"}, {"list", {1, 2}}});
+    writer.beginObject();
+    writer.member("x", "line\nfeed");
+    writer.beginArray("list");
+    writer.element(1);
+    writer.element(2);
+    writer.endArray();
+    writer.endObject();
     writer.beginObject();
     writer.endObject();
     writer.endArray();

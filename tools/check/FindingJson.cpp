@@ -1,5 +1,6 @@
 #include "tools/check/FindingJson.h"
 
+#include <fmt/format.h>
 #include <nlohmann/json.hpp>
 
 namespace {
@@ -12,17 +13,18 @@ const char* word(Severity severity) {
 
 } // namespace
 
+// Put together by hand: an object of the JSON library needs memory to go away, and ends the process
+// where there is none left.
 std::string toJson(const Finding& finding) {
-    nlohmann::ordered_json json = {{"code", finding.code}, {"severity", word(finding.severity)}};
-    if (finding.position) {
-        json["line"] = finding.position->line;
-        json["column"] = finding.position->column;
-    }
-    json["path"] = finding.path;
-    json["records"] = finding.records;
-    json["found"] = finding.found;
-    json["consequence"] = finding.consequence;
-    return json.dump();
+    std::string json =
+        fmt::format(R"({{"code":{},"severity":"{}")", toJson(finding.code), word(finding.severity));
+    if (finding.position)
+        json += fmt::format(R"(,"line":{},"column":{})", finding.position->line,
+                            finding.position->column);
+    json += fmt::format(R"(,"path":{},"records":{},"found":{},"consequence":{}}})",
+                        toJson(finding.path), toJson(finding.records), toJson(finding.found),
+                        toJson(finding.consequence));
+    return json;
 }
 
 std::string toJson(const std::string& text) {

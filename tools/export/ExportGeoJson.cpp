@@ -11,8 +11,6 @@
 #include "tools/JsonWriter.h"
 #include "tools/export/RecordJson.h"
 
-using Json = nlohmann::ordered_json;
-
 namespace {
 
 /// The records around a feature.
@@ -21,13 +19,6 @@ struct Place {
     QenFarm& farm;
     QenField& field;
 };
-
-Json pointJson(const LLA& centroid) {
-    if (!isPlace(centroid))
-        return nullptr;
-    return {{"type", "Point"},
-            {"coordinates", Json::array({centroid.longitude, centroid.latitude})}};
-}
 
 class GeoJsonExport : public ExportFormat {
 public:
@@ -82,7 +73,7 @@ private:
         withoutPoint_ += isPlace(centroid) ? 0 : 1;
         writer_.beginObject();
         writer_.member("type", "Feature");
-        writer_.member("geometry", pointJson(centroid));
+        writePoint(centroid);
         writer_.beginObject("properties");
         // The first one is what maps show beside a point.
         writer_.member("name", jsonText(place.field.name()));
@@ -93,11 +84,23 @@ private:
         writer_.member("growerId", jsonIdentifier(place.grower.id()));
         if (package_)
             writer_.member("package", jsonIdentifier(*package_));
-        const Json boundary = geometryJson(geometry);
-        for (const auto& [key, value] : boundary.items())
-            writer_.member(key, value);
+        writeMembers(writer_, geometry);
         writeRecs(place.field, geometry.geometryId());
         writer_.endObject();
+        writer_.endObject();
+    }
+
+    void writePoint(const LLA& centroid) {
+        if (!isPlace(centroid)) {
+            writer_.member("geometry", nullptr);
+            return;
+        }
+        writer_.beginObject("geometry");
+        writer_.member("type", "Point");
+        writer_.beginArray("coordinates");
+        writer_.element(centroid.longitude);
+        writer_.element(centroid.latitude);
+        writer_.endArray();
         writer_.endObject();
     }
 
@@ -105,9 +108,15 @@ private:
         writer_.beginArray("recs");
         for (QenRec& rec : field.recs()) {
             if (rec.fieldGeometryId() == geometryId)
-                writer_.element(recJson(rec));
+                writeElement(rec);
         }
         writer_.endArray();
+    }
+
+    void writeElement(QenRec& rec) {
+        writer_.beginObject();
+        writeMembers(writer_, rec);
+        writer_.endObject();
     }
 
     JsonWriter writer_;

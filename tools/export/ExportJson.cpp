@@ -9,17 +9,6 @@ using Json = nlohmann::ordered_json;
 
 namespace {
 
-Json failureJson(const std::optional<ReadFailure>& failure) {
-    if (!failure)
-        return nullptr;
-    Json json = {{"reason", jsonText(failure->reason)}, {"line", nullptr}, {"column", nullptr}};
-    if (failure->position) {
-        json["line"] = failure->position->line;
-        json["column"] = failure->position->column;
-    }
-    return json;
-}
-
 class JsonExport : public ExportFormat {
 public:
     explicit JsonExport(TextSink sink) : writer_(std::move(sink)) {}
@@ -34,7 +23,7 @@ public:
         writer_.beginObject();
         writer_.member("file", jsonText(reading.name));
         writer_.member("uuid", reading.uuid ? jsonIdentifier(*reading.uuid) : Json());
-        writer_.member("failure", failureJson(reading.failure));
+        write(reading.failure);
         if (!merged_)
             write(reading.growers);
         writer_.endObject();
@@ -55,6 +44,18 @@ public:
     }
 
 private:
+    void write(const std::optional<ReadFailure>& failure) {
+        if (!failure) {
+            writer_.member("failure", nullptr);
+            return;
+        }
+        writer_.beginObject("failure");
+        writer_.member("reason", jsonText(failure->reason));
+        writer_.member("line", failure->position ? Json(failure->position->line) : Json());
+        writer_.member("column", failure->position ? Json(failure->position->column) : Json());
+        writer_.endObject();
+    }
+
     void write(std::vector<QenGrower>& growers) {
         writer_.beginArray("growers");
         for (QenGrower& grower : growers)
@@ -93,12 +94,19 @@ private:
         writer_.member("farmId", jsonIdentifier(field.farmId()));
         writer_.beginArray("geometries");
         for (QenFieldGeometry& geometry : field.geometries())
-            writer_.element(geometryJson(geometry));
+            writeElement(geometry);
         writer_.endArray();
         writer_.beginArray("recs");
         for (QenRec& rec : field.recs())
-            writer_.element(recJson(rec));
+            writeElement(rec);
         writer_.endArray();
+        writer_.endObject();
+    }
+
+    template <class Record>
+    void writeElement(Record& record) {
+        writer_.beginObject();
+        writeMembers(writer_, record);
         writer_.endObject();
     }
 

@@ -6,132 +6,131 @@
 #include "model/CustomFertilizerRec.h"
 #include "model/PesticideRec.h"
 #include "model/PlantingRec.h"
-#include "tools/JsonWriter.h"
-
-using Json = nlohmann::ordered_json;
 
 namespace {
 
-Json plantingJson(PlantingRec& planting) {
-    return {{"kind", "planting"},
-            {"cropId", planting.cropId()},
-            {"cropName", jsonText(planting.cropName())},
-            {"companyId", planting.companyId()},
-            {"companyName", jsonText(planting.companyName())},
-            {"varietyId", planting.varietyId()},
-            {"varietyName", jsonText(planting.varietyName())},
-            {"uomId", planting.uomId()},
-            {"uom", jsonText(planting.uom())}};
+void writeMembers(JsonWriter& writer, PlantingRec& planting) {
+    writer.member("kind", "planting");
+    writer.member("cropId", planting.cropId());
+    writer.member("cropName", jsonText(planting.cropName()));
+    writer.member("companyId", planting.companyId());
+    writer.member("companyName", jsonText(planting.companyName()));
+    writer.member("varietyId", planting.varietyId());
+    writer.member("varietyName", jsonText(planting.varietyName()));
+    writer.member("uomId", planting.uomId());
+    writer.member("uom", jsonText(planting.uom()));
 }
 
-Json fertilizerJson(CommercialFertilizerRec& fertilizer) {
-    return {{"kind", "commercialFertilizer"},
-            {"productId", fertilizer.productId()},
-            {"productName", jsonText(fertilizer.productName())},
-            {"uomId", fertilizer.uomId()},
-            {"uom", jsonText(fertilizer.uom())}};
+void writeMembers(JsonWriter& writer, CommercialFertilizerRec& fertilizer) {
+    writer.member("kind", "commercialFertilizer");
+    writer.member("productId", fertilizer.productId());
+    writer.member("productName", jsonText(fertilizer.productName()));
+    writer.member("uomId", fertilizer.uomId());
+    writer.member("uom", jsonText(fertilizer.uom()));
 }
 
-Json blendJson(CustomFertilizerRec& blend) {
-    return {{"kind", "customFertilizer"},
-            {"productId", jsonIdentifier(blend.productId())},
-            {"productName", jsonText(blend.productName())},
-            {"uomId", blend.uomId()},
-            {"uom", jsonText(blend.uom())},
-            {"sFertT_ID", blend.sFertT_ID()},
-            {"spGravity", jsonNumber(blend.spGravity())},
-            {"pct_N", jsonNumber(blend.pct_N())},
-            {"pct_P", jsonNumber(blend.pct_P())},
-            {"pct_K", jsonNumber(blend.pct_K())},
-            {"pct_Ca", jsonNumber(blend.pct_Ca())},
-            {"pct_Mg", jsonNumber(blend.pct_Mg())},
-            {"pct_S", jsonNumber(blend.pct_S())},
-            {"pct_Fe", jsonNumber(blend.pct_Fe())},
-            {"pct_Mn", jsonNumber(blend.pct_Mn())},
-            {"pct_Zn", jsonNumber(blend.pct_Zn())},
-            {"pct_Cu", jsonNumber(blend.pct_Cu())},
-            {"pct_B", jsonNumber(blend.pct_B())},
-            {"pct_Mo", jsonNumber(blend.pct_Mo())},
-            {"pct_Cl", jsonNumber(blend.pct_Cl())}};
+void writeMembers(JsonWriter& writer, CustomFertilizerRec& blend) {
+    writer.member("kind", "customFertilizer");
+    writer.member("productId", jsonIdentifier(blend.productId()));
+    writer.member("productName", jsonText(blend.productName()));
+    writer.member("uomId", blend.uomId());
+    writer.member("uom", jsonText(blend.uom()));
+    writer.member("sFertT_ID", blend.sFertT_ID());
+    writer.member("spGravity", jsonNumber(blend.spGravity()));
+    writer.member("pct_N", jsonNumber(blend.pct_N()));
+    writer.member("pct_P", jsonNumber(blend.pct_P()));
+    writer.member("pct_K", jsonNumber(blend.pct_K()));
+    writer.member("pct_Ca", jsonNumber(blend.pct_Ca()));
+    writer.member("pct_Mg", jsonNumber(blend.pct_Mg()));
+    writer.member("pct_S", jsonNumber(blend.pct_S()));
+    writer.member("pct_Fe", jsonNumber(blend.pct_Fe()));
+    writer.member("pct_Mn", jsonNumber(blend.pct_Mn()));
+    writer.member("pct_Zn", jsonNumber(blend.pct_Zn()));
+    writer.member("pct_Cu", jsonNumber(blend.pct_Cu()));
+    writer.member("pct_B", jsonNumber(blend.pct_B()));
+    writer.member("pct_Mo", jsonNumber(blend.pct_Mo()));
+    writer.member("pct_Cl", jsonNumber(blend.pct_Cl()));
 }
 
 /// Packages give no pesticide mixes; the lines of one are left out.
-Json pesticideJson(PesticideRec& mix) {
-    return {{"kind", "pesticide"},
-            {"pesticideMixName", jsonText(mix.pesticideMixName())},
-            {"uomId", mix.uomId()},
-            {"uom", jsonText(mix.uom())}};
+void writeMembers(JsonWriter& writer, PesticideRec& mix) {
+    writer.member("kind", "pesticide");
+    writer.member("pesticideMixName", jsonText(mix.pesticideMixName()));
+    writer.member("uomId", mix.uomId());
+    writer.member("uom", jsonText(mix.uom()));
 }
 
-Json productJson(QenRecData* data) {
-    const RecType type = data == nullptr ? RecTypeNone : data->recType();
-    switch (type) {
+void writeMembers(JsonWriter& writer, QenRecData& data) {
+    switch (data.recType()) {
     case RecTypePlanting:
-        return plantingJson(static_cast<PlantingRec&>(*data));
+        return writeMembers(writer, static_cast<PlantingRec&>(data));
     case RecTypeCommercialFertilizer:
-        return fertilizerJson(static_cast<CommercialFertilizerRec&>(*data));
+        return writeMembers(writer, static_cast<CommercialFertilizerRec&>(data));
     case RecTypeCustomFertilizer:
-        return blendJson(static_cast<CustomFertilizerRec&>(*data));
+        return writeMembers(writer, static_cast<CustomFertilizerRec&>(data));
     case RecTypePesticide:
-        return pesticideJson(static_cast<PesticideRec&>(*data));
+        return writeMembers(writer, static_cast<PesticideRec&>(data));
     case RecTypeNone:
         break;
     }
-    return nullptr;
 }
 
-Json recDataJson(QenRecData* data) {
-    Json json = productJson(data);
-    if (!json.is_null()) {
-        json["recType"] = static_cast<int>(data->recType());
-        json["recId"] = jsonIdentifier(data->recId());
+void writeProduct(JsonWriter& writer, QenRecData* data) {
+    if (data == nullptr || data->recType() == RecTypeNone) {
+        writer.member("recData", nullptr);
+        return;
     }
-    return json;
+    writer.beginObject("recData");
+    writeMembers(writer, *data);
+    writer.member("recType", static_cast<int>(data->recType()));
+    writer.member("recId", jsonIdentifier(data->recId()));
+    writer.endObject();
 }
 
 } // namespace
 
-Json jsonIdentifier(const boost::uuids::uuid& id) {
+nlohmann::ordered_json jsonIdentifier(const boost::uuids::uuid& id) {
     return to_string(id);
 }
 
-Json geometryJson(QenFieldGeometry& geometry) {
+void writeMembers(JsonWriter& writer, QenFieldGeometry& geometry) {
     const LLA centroid = geometry.centroid();
-    return {{"geometryId", jsonIdentifier(geometry.geometryId())},
-            {"geometryDate", jsonText(geometry.geometryDate())},
-            {"geometry", jsonIdentifier(geometry.geometry())},
-            {"centroid",
-             {{"latitude", jsonNumber(centroid.latitude)},
-              {"longitude", jsonNumber(centroid.longitude)},
-              {"altitude", jsonNumber(centroid.altitude)}}}};
+    writer.member("geometryId", jsonIdentifier(geometry.geometryId()));
+    writer.member("geometryDate", jsonText(geometry.geometryDate()));
+    writer.member("geometry", jsonIdentifier(geometry.geometry()));
+    writer.beginObject("centroid");
+    writer.member("latitude", jsonNumber(centroid.latitude));
+    writer.member("longitude", jsonNumber(centroid.longitude));
+    writer.member("altitude", jsonNumber(centroid.altitude));
+    writer.endObject();
 }
 
-Json recJson(QenRec& rec) {
-    return {{"name", jsonText(rec.name())},
-            {"id", jsonIdentifier(rec.id())},
-            {"fieldId", jsonIdentifier(rec.fieldId())},
-            {"fieldGeometryId", jsonIdentifier(rec.fieldGeometryId())},
-            {"mgmtZoneId", jsonIdentifier(rec.mgmtZoneId())},
-            {"recGeometry", jsonIdentifier(rec.recGeometry())},
-            {"recDbfCol", jsonText(rec.recDbfCol())},
-            {"creationDate", jsonText(rec.creationDate())},
-            {"editDate", jsonText(rec.editDate())},
-            {"operationName", jsonText(rec.operationName())},
-            {"operationId", jsonIdentifier(rec.operationId())},
-            {"seasonName", jsonText(rec.seasonName())},
-            {"seasonId", rec.seasonId()},
-            {"recData", recDataJson(rec.recData())},
-            {"minimumRate", jsonNumber(rec.minimumRate())},
-            {"averageRate", jsonNumber(rec.averageRate())},
-            {"maximumRate", jsonNumber(rec.maximumRate())},
-            {"rateUomId", rec.rateUomId()},
-            {"rateUom", jsonText(rec.rateUom())},
-            {"total", jsonNumber(rec.total())},
-            {"totalUomId", rec.totalUomId()},
-            {"totalUom", jsonText(rec.totalUom())},
-            {"area", jsonNumber(rec.area())},
-            {"areaUomId", rec.areaUomId()},
-            {"areaUom", jsonText(rec.areaUom())},
-            {"isUsed", rec.isUsed()},
-            {"xmlFileName", jsonIdentifier(rec.xmlFileName())}};
+void writeMembers(JsonWriter& writer, QenRec& rec) {
+    writer.member("name", jsonText(rec.name()));
+    writer.member("id", jsonIdentifier(rec.id()));
+    writer.member("fieldId", jsonIdentifier(rec.fieldId()));
+    writer.member("fieldGeometryId", jsonIdentifier(rec.fieldGeometryId()));
+    writer.member("mgmtZoneId", jsonIdentifier(rec.mgmtZoneId()));
+    writer.member("recGeometry", jsonIdentifier(rec.recGeometry()));
+    writer.member("recDbfCol", jsonText(rec.recDbfCol()));
+    writer.member("creationDate", jsonText(rec.creationDate()));
+    writer.member("editDate", jsonText(rec.editDate()));
+    writer.member("operationName", jsonText(rec.operationName()));
+    writer.member("operationId", jsonIdentifier(rec.operationId()));
+    writer.member("seasonName", jsonText(rec.seasonName()));
+    writer.member("seasonId", rec.seasonId());
+    writeProduct(writer, rec.recData());
+    writer.member("minimumRate", jsonNumber(rec.minimumRate()));
+    writer.member("averageRate", jsonNumber(rec.averageRate()));
+    writer.member("maximumRate", jsonNumber(rec.maximumRate()));
+    writer.member("rateUomId", rec.rateUomId());
+    writer.member("rateUom", jsonText(rec.rateUom()));
+    writer.member("total", jsonNumber(rec.total()));
+    writer.member("totalUomId", rec.totalUomId());
+    writer.member("totalUom", jsonText(rec.totalUom()));
+    writer.member("area", jsonNumber(rec.area()));
+    writer.member("areaUomId", rec.areaUomId());
+    writer.member("areaUom", jsonText(rec.areaUom()));
+    writer.member("isUsed", rec.isUsed());
+    writer.member("xmlFileName", jsonIdentifier(rec.xmlFileName()));
 }

@@ -10,9 +10,12 @@
 #include "model/QenField.h"
 #include "model/QenFieldGeometry.h"
 #include "model/QenRec.h"
+#include "tools/JsonWriter.h"
 
 nlohmann::ordered_json jsonIdentifier(const boost::uuids::uuid& id);
-nlohmann::ordered_json geometryJson(QenFieldGeometry& geometry);
-nlohmann::ordered_json recJson(QenRec& rec);
+
+/// Writes them as members of the object that is being written.
+void writeMembers(JsonWriter& writer, QenFieldGeometry& geometry);
+void writeMembers(JsonWriter& writer, QenRec& rec);
 
 #endif
