@@ -5,7 +5,7 @@
 
 #include <fmt/format.h>
 
-#include "tools/NumberText.h"
+#include "tools/report/GroupedNumber.h"
 #include "tools/report/Html.h"
 
 namespace {
@@ -18,8 +18,8 @@ bool areFinite(const Rates& rates) {
 } // namespace
 
 std::string ratesText(const Rates& rates) {
-    return fmt::format("minimum {}, average {}, maximum {}{}{}", numberText(rates.minimum),
-                       numberText(rates.average), numberText(rates.maximum),
+    return fmt::format("minimum {}, average {}, maximum {}{}{}", groupedText(rates.minimum),
+                       groupedText(rates.average), groupedText(rates.maximum),
                        rates.unit.empty() ? "" : " ", rates.unit);
 }
 
@@ -47,6 +47,6 @@ std::string rateBar(const Rates& rates, const RateScale& scale) {
         "rx=\"3\"/><rect class=\"range\" x=\"{:.1f}\" y=\"3\" width=\"{:.1f}\" height=\"10\" "
         "rx=\"1.5\"/><rect class=\"average\" x=\"{:.1f}\" y=\"0\" width=\"2\" "
         "height=\"16\"/></svg>\n",
-        html(ratesText(rates)), numberText(scale.from), numberText(scale.to), begin, length,
+        html(ratesText(rates)), groupedText(scale.from), groupedText(scale.to), begin, length,
         std::clamp(place(rates.average) - 1.0, 0.0, width - 2.0));
 }

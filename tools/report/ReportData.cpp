@@ -1,10 +1,14 @@
 #include "tools/report/ReportData.h"
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 #include <utility>
 
+#include <fmt/format.h>
+
 #include "tools/ProductText.h"
+#include "tools/report/GroupedNumber.h"
 
 RecordCounts& RecordCounts::operator+=(const RecordCounts& other) {
     growers += other.growers;
@@ -44,6 +48,26 @@ bool isWhole(const ReportPackage& package) {
     return !package.reading.failure && package.findings.number(Severity::Error) == 0;
 }
 
+bool ProductUnit::operator<(const ProductUnit& other) const {
+    const bool none = kind.empty();
+    const bool otherNone = other.kind.empty();
+    return std::tie(none, kind, name, unit) <
+           std::tie(otherNone, other.kind, other.name, other.unit);
+}
+
+void Sum::add(double number) {
+    const double sum = sum_ + number;
+    lost_ += std::abs(sum_) < std::abs(number) ? number - sum + sum_ : sum_ - sum + number;
+    sum_ = sum;
+    ++numbers_;
+}
+
+std::string Sum::text() const {
+    if (numbers_ == 1 || !std::isfinite(sum_))
+        return groupedText(sum_);
+    return grouped(fmt::format("{:.15g}", sum_ + lost_));
+}
+
 void ProductTotals::add(std::vector<QenGrower>& growers) {
     for (QenGrower& grower : growers)
         for (QenFarm& farm : grower.farms())
@@ -60,8 +84,8 @@ void ProductTotals::add(QenRec& rec) {
     const std::string unit = textOrCode(rec.totalUom(), rec.totalUomId());
     ProductTotal& sum = totals_[{productKind(rec.recData()), productName(rec.recData()), unit}];
     ++sum.recs;
-    sum.total += rec.total();
-    sum.areas[textOrCode(rec.areaUom(), rec.areaUomId())] += rec.area();
+    sum.total.add(rec.total());
+    sum.areas[textOrCode(rec.areaUom(), rec.areaUomId())].add(rec.area());
 }
 
 RecordCounts countRecords(std::vector<QenGrower>& growers) {

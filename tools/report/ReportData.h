@@ -60,16 +60,29 @@ struct ProductUnit {
     std::string name;
     std::string unit;
 
-    bool operator<(const ProductUnit& other) const {
-        return std::tie(kind, name, unit) < std::tie(other.kind, other.name, other.unit);
-    }
+    /// By kind, name and unit; recs without product data come last.
+    bool operator<(const ProductUnit& other) const;
+};
+
+/// A sum of numbers as packages give them, which does not gather the errors of its additions.
+class Sum {
+public:
+    void add(double number);
+
+    /// The sum with all digits that are exact; a single number as it was given.
+    std::string text() const;
+
+private:
+    double sum_ = 0.0;
+    double lost_ = 0.0; // by rounding, so far
+    std::size_t numbers_ = 0;
 };
 
 /// What recs say together about a product.
 struct ProductTotal {
     std::size_t recs = 0;
-    double total = 0.0;
-    std::map<std::string, double> areas; ///< By unit.
+    Sum total;
+    std::map<std::string, Sum> areas; ///< By unit.
 };
 
 /// Sums up recs by product and unit. A rec that several packages hold counts once, as it is read

@@ -13,7 +13,10 @@
 #include "tools/NumberText.h"
 #include "tools/PackageUuid.h"
 #include "tools/ProductText.h"
+#include "tools/report/FileNames.h"
+#include "tools/report/GroupedNumber.h"
 #include "tools/report/Html.h"
+#include "tools/report/HtmlTable.h"
 #include "tools/report/RateBar.h"
 #include "tools/report/ReportMap.h"
 #include "tools/report/ReportStyle.h"
@@ -28,30 +31,19 @@ constexpr std::size_t recsShownAtOnce = 200; ///< More of them are folded away, 
 
 /// A number of things: "1 rec", "2 recs".
 std::string count(std::size_t number, std::string_view thing) {
-    return fmt::format("{} {}{}", number, thing, number == 1 ? "" : "s");
+    return fmt::format("{} {}{}", groupedText(number), thing, number == 1 ? "" : "s");
 }
 
-std::string shownName(const PackageReading& reading) {
-    return reading.name == "-" ? "standard input" : htmlName(reading.name);
+bool isStandardInput(const PackageReading& reading) {
+    return reading.name == "-";
 }
 
 std::string identifier(const boost::uuids::uuid& id) {
     return fmt::format("<span class=\"id\">{}</span>", to_string(id));
 }
 
-/// A sum, without the last digits, which are not exact.
-std::string sumText(double sum) {
-    return fmt::format("{:.12g}", sum);
-}
-
 std::string nameOr(const std::string& name, const char* otherwise) {
     return name.empty() ? otherwise : htmlName(name);
-}
-
-/// Which packages, in words.
-std::string title(const std::vector<ReportPackage>& packages) {
-    return packages.size() == 1 ? shownName(packages.front().reading)
-                                : count(packages.size(), "package");
 }
 
 const char* readState(const PackageReading& reading) {
@@ -77,6 +69,8 @@ public:
             counts_ += package.counts;
             totals_.add(package.reading.growers);
             addPoints(package.reading.growers);
+            if (!isStandardInput(package.reading))
+                files_.add(package.reading.name);
         }
     }
 
@@ -104,6 +98,15 @@ private:
                     }
     }
 
+    /// The file of a package as text, not escaped.
+    std::string_view fileName(const PackageReading& reading) const {
+        return isStandardInput(reading) ? "standard input" : files_.name(reading.name);
+    }
+
+    std::string shownName(const PackageReading& reading) const {
+        return isStandardInput(reading) ? "standard input" : htmlName(files_.name(reading.name));
+    }
+
     std::size_t findings(Severity severity) const {
         std::size_t sum = 0;
         for (const ReportPackage& package : packages_)
@@ -114,22 +117,30 @@ private:
     void writeHead() {
         sink_("<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
               "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n");
+        const PackageReading& first = packages_.front().reading;
+        const std::string number = count(packages_.size(), "package");
+        const bool one = packages_.size() == 1;
         // A title holds no elements.
         sink_(fmt::format("<title>Prescription report: {}</title>\n<style>{}</style>\n",
-                          packages_.size() == 1 ? html(packages_.front().reading.name)
-                                                : count(packages_.size(), "package"),
-                          reportStyle));
+                          one ? html(fileName(first)) : number, reportStyle));
         sink_(fmt::format(
-            "</head>\n<body>\n<header>\n<h1>Prescription report</h1>\n<p>{}</p>\n</header>\n"
+            "</head>\n<body>\n<header>\n<h1>Prescription report</h1>\n<p>{}</p>\n{}</header>\n"
             "<nav aria-label=\"Contents\">\n<ul>\n<li><a href=\"#summary\">Summary</a></li>\n"
             "<li><a href=\"#findings\">Findings</a></li>\n<li><a href=\"#map\">Map</a></li>\n"
             "<li><a href=\"#products\">Products</a></li>\n"
             "<li><a href=\"#fields\">Fields and recs</a></li>\n</ul>\n</nav>\n<main>\n",
-            title(packages_)));
+            one ? shownName(first) : number, folderLine()));
+    }
+
+    std::string folderLine() const {
+        const std::string folder = files_.folder();
+        return folder.empty()
+                   ? ""
+                   : fmt::format("<p class=\"quiet\">Folder: {}</p>\n", htmlName(folder));
     }
 
     void writeFigure(const char* what, std::size_t number) {
-        sink_(fmt::format("<li>{} <b>{}</b></li>\n", what, number));
+        sink_(fmt::format("<li>{} <b>{}</b></li>\n", what, groupedText(number)));
     }
 
     void writeSummary() {
@@ -146,42 +157,36 @@ private:
         if (counts_.recsWithoutProduct > 0)
             sink_(fmt::format("<p>{} without product data.</p>\n",
                               count(counts_.recsWithoutProduct, "rec")));
-        beginTable("Packages",
-                   "<th scope=\"col\">File</th><th scope=\"col\">Read</th>"
-                   "<th scope=\"col\" class=\"number\">Growers</th><th scope=\"col\" "
-                   "class=\"number\">Fields</th><th scope=\"col\" class=\"number\">Recs</th>"
-                   "<th scope=\"col\" class=\"number\">Findings</th>");
+        const HtmlTable table("Packages", {{"File"},
+                                           {"Read"},
+                                           {"Growers", true},
+                                           {"Fields", true},
+                                           {"Recs", true},
+                                           {"Findings", true}});
+        sink_(table.begin());
         std::size_t rows = 0;
         for (const ReportPackage& package : packages_) {
             if (rows++ < mostRows)
-                writePackageRow(package);
+                sink_(table.row(cells(package)));
         }
         endTable(packages_.size(), "package");
         sink_("</section>\n");
     }
 
-    void writePackageRow(const ReportPackage& package) {
+    std::vector<std::string> cells(const ReportPackage& package) const {
         // Mostly the UUID is the name of the file.
         const bool saysUuid = !package.reading.uuid || isNamedByUuid(package.reading.name);
-        sink_(fmt::format("<tr><th scope=\"row\">{}{}</th><td>{}</td><td class=\"number\">{}</td>"
-                          "<td class=\"number\">{}</td><td class=\"number\">{}</td>"
-                          "<td class=\"number\">{}</td></tr>\n",
-                          shownName(package.reading),
-                          saysUuid ? "" : "<br>" + identifier(*package.reading.uuid),
-                          readState(package.reading), package.counts.growers, package.counts.fields,
-                          package.counts.recs, package.findings.number()));
-    }
-
-    void beginTable(const char* caption, const char* columns) {
-        // Scrolls where it is too wide, with the keys too.
-        sink_(fmt::format("<div class=\"scroll\" role=\"region\" aria-label=\"{0}\" "
-                          "tabindex=\"0\">\n<table>\n<caption>{0}</caption>\n<thead><tr>{1}</tr>"
-                          "</thead>\n<tbody>\n",
-                          caption, columns));
+        return {shownName(package.reading) +
+                    (saysUuid ? "" : "<br>" + identifier(*package.reading.uuid)),
+                readState(package.reading),
+                groupedText(package.counts.growers),
+                groupedText(package.counts.fields),
+                groupedText(package.counts.recs),
+                groupedText(package.findings.number())};
     }
 
     void endTable(std::size_t rows, std::string_view thing) {
-        sink_("</tbody>\n</table>\n</div>\n");
+        sink_(HtmlTable::end());
         if (rows > mostRows)
             sink_(fmt::format("<p>{} more not shown.</p>\n", count(rows - mostRows, thing)));
     }
@@ -205,7 +210,7 @@ private:
                                   count(hidden, "finding")));
         }
         if (!any)
-            sink_("<p>Nothing was found.</p>\n");
+            sink_("<p>No problems were found.</p>\n");
         sink_("</section>\n");
     }
 
@@ -250,14 +255,13 @@ private:
             sink_("<p>There are no recs.</p>\n</section>\n");
             return;
         }
-        beginTable("Totals by product and unit",
-                   "<th scope=\"col\">Product</th><th scope=\"col\" class=\"number\">Recs</th>"
-                   "<th scope=\"col\" class=\"number\">Total</th>"
-                   "<th scope=\"col\" class=\"number\">Area</th>");
+        const HtmlTable table("Totals by product and unit",
+                              {{"Product"}, {"Recs", true}, {"Total", true}, {"Area", true}});
+        sink_(table.begin());
         std::size_t rows = 0;
         for (const auto& [product, total] : totals_.totals()) {
             if (rows++ < mostRows)
-                write(product, total);
+                sink_(table.row(cells(product, total)));
         }
         endTable(totals_.totals().size(), "row");
         if (totals_.repeated() > 0)
@@ -267,19 +271,18 @@ private:
         sink_("</section>\n");
     }
 
-    void write(const ProductUnit& product, const ProductTotal& total) {
+    static std::vector<std::string> cells(const ProductUnit& product, const ProductTotal& total) {
         std::string areas;
         for (const auto& [unit, area] : total.areas)
             areas +=
-                fmt::format("{}{} {}", areas.empty() ? "" : "<br>", sumText(area), htmlName(unit));
+                fmt::format("{}{} {}", areas.empty() ? "" : "<br>", area.text(), htmlName(unit));
         const std::string name =
             product.kind.empty()
                 ? "no product data"
                 : nameOr(product.name, "without a name") +
                       fmt::format("<br><span class=\"quiet\">{}</span>", product.kind);
-        sink_(fmt::format("<tr><th scope=\"row\">{}</th><td class=\"number\">{}</td>"
-                          "<td class=\"number\">{} {}</td><td class=\"number\">{}</td></tr>\n",
-                          name, total.recs, sumText(total.total), htmlName(product.unit), areas));
+        return {name, groupedText(total.recs),
+                fmt::format("{} {}", total.total.text(), htmlName(product.unit)), areas};
     }
 
     void writeFields() {
@@ -319,7 +322,7 @@ private:
 
     void write(QenField& field) {
         ++fields_;
-        sink_(fmt::format("<h5>{}</h5>\n<p class=\"quiet\">{}</p>\n",
+        sink_(fmt::format("<h5>{}</h5>\n<p class=\"place\">{}</p>\n",
                           nameOr(field.name(), "Field without a name"), places(field)));
         if (field.recs().empty()) {
             sink_("<p>No recs.</p>\n");
@@ -394,7 +397,7 @@ private:
 
     /// A quantity with its unit; empty when both are missing.
     static std::string quantity(double value, const std::string& unit) {
-        return value == 0.0 && unit.empty() ? "" : numberText(value) + " " + unit;
+        return value == 0.0 && unit.empty() ? "" : groupedText(value) + " " + unit;
     }
 
     /// @param value not escaped; nothing is written for an empty one
@@ -405,6 +408,7 @@ private:
 
     std::vector<ReportPackage>& packages_;
     const TextSink& sink_;
+    FileNames files_;
     RecordCounts counts_;
     ProductTotals totals_;
     std::vector<MapPoint> points_;

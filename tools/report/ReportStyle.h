@@ -8,14 +8,16 @@ inline constexpr const char* reportStyle = R"(
 :root {
   color-scheme: light dark;
   --page: #ffffff; --card: #f4f6f3; --line: #c9d1c7; --text: #1d241d; --quiet: #56604f;
-  --accent: #2f6b2f; --range: #4f9a4f; --track: #d8dfd5; --mark: #10240f;
+  --accent: #2f6b2f; --range: #3f8a40; --track: #e3e9e0; --mark: #0b190a;
   --error: #a61b1b; --warning: #8a5300; --note: #2a5a8c; --land: #e9efe4;
+  --outline: #76826f; --shade: #1d241d66;
 }
 @media (prefers-color-scheme: dark) {
   :root {
     --page: #141814; --card: #1f261f; --line: #3d483c; --text: #e6ebe4; --quiet: #a9b5a4;
-    --accent: #8ccf86; --range: #5fae5c; --track: #354035; --mark: #f2f7f0;
+    --accent: #8ccf86; --range: #4f9a4d; --track: #2b342b; --mark: #ffffff;
     --error: #ff9a92; --warning: #f0bb6a; --note: #93c3f2; --land: #232c22;
+    --outline: #8a9685; --shade: #e6ebe466;
   }
 }
 * { box-sizing: border-box; }
@@ -36,16 +38,24 @@ p, ul, dl, figure { margin: .5rem 0; }
 a { color: var(--accent); }
 th .quiet { font-weight: 400; }
 code, .id { font-family: ui-monospace, "DejaVu Sans Mono", monospace; font-size: .85em; }
-.quiet, figcaption { color: var(--quiet); }
+.quiet, .place, figcaption { color: var(--quiet); }
 nav ul { list-style: none; padding: 0; display: flex; flex-wrap: wrap; gap: .25rem 1.25rem; }
 .figures { list-style: none; padding: 0; display: grid; grid-template-columns: repeat(auto-fill, minmax(7.5rem, 1fr)); gap: .5rem; }
 .figures li { background: var(--card); border-radius: .4rem; padding: .5rem .75rem; color: var(--quiet); }
 .figures b { display: block; font-size: 1.5rem; color: var(--text); }
-.scroll { overflow-x: auto; }
+/* A shade at the side on which a table goes on. */
+.scroll {
+  overflow-x: auto;
+  background:
+    linear-gradient(to right, var(--page) 40%, transparent) left / 2.5rem 100% no-repeat local,
+    linear-gradient(to left, var(--page) 40%, transparent) right / 2.5rem 100% no-repeat local,
+    linear-gradient(to right, var(--shade), transparent) left / .9rem 100% no-repeat scroll,
+    linear-gradient(to left, var(--shade), transparent) right / .9rem 100% no-repeat scroll;
+}
 table { border-collapse: collapse; min-width: 100%; }
 caption { text-align: left; color: var(--quiet); padding-bottom: .25rem; }
 th, td { text-align: left; vertical-align: top; padding: .35rem .6rem; border-bottom: 1px solid var(--line); overflow-wrap: normal; }
-tbody th { min-width: 7rem; overflow-wrap: break-word; }
+tbody th { min-width: 12rem; overflow-wrap: anywhere; }
 .number { text-align: right; font-variant-numeric: tabular-nums; white-space: nowrap; }
 .findings, .recs { list-style: none; padding: 0; }
 .findings li { border-left: .3rem solid var(--line); padding: .25rem .75rem; margin: .6rem 0; background: var(--card); }
@@ -71,7 +81,7 @@ summary { cursor: pointer; padding: .25rem 0; }
 .recs > li { background: var(--card); border: 1px solid var(--line); border-radius: .4rem; padding: .75rem; }
 .recs p { margin: .15rem 0; }
 .bar { margin: .5rem 0; max-width: 30rem; }
-.track { fill: var(--track); }
+.track { fill: var(--track); stroke: var(--outline); stroke-width: .75; }
 .range { fill: var(--range); }
 .average { fill: var(--mark); }
 .facts { display: grid; grid-template-columns: auto 1fr; gap: .1rem .75rem; }
@@ -80,21 +90,28 @@ summary { cursor: pointer; padding: .25rem 0; }
 footer { margin-top: 2rem; border-top: 1px solid var(--line); color: var(--quiet); }
 @media (max-width: 37rem) {
   body { padding: .75rem; }
-  th, td { padding: .3rem .25rem; font-size: .9rem; }
+  table, caption, tbody, tbody th { display: block; }
+  thead { display: none; }
+  tbody tr { display: flex; flex-wrap: wrap; gap: 0 1rem; padding: .4rem 0; border-bottom: 1px solid var(--line); }
+  tbody th, tbody td { border: 0; padding: 0; min-width: 0; overflow-wrap: anywhere; }
+  tbody th { flex: 1 0 100%; }
+  tbody .number { text-align: left; white-space: normal; }
+  tbody td::before { content: attr(data-column) " "; color: var(--quiet); }
   svg text { font-size: 21px; }
 }
 @media print {
   :root {
     --page: #ffffff; --card: #ffffff; --line: #999999; --text: #000000; --quiet: #444444;
-    --accent: #1f4d1f; --range: #6da86d; --track: #dddddd; --mark: #000000;
-    --error: #8b0000; --warning: #6b4000; --note: #1f4a75; --land: #ffffff;
+    --accent: #1f4d1f; --range: #4b8f4b; --track: #e6e6e6; --mark: #000000;
+    --error: #8b0000; --warning: #6b4000; --note: #1f4a75; --land: #ffffff; --outline: #666666;
   }
   body { max-width: none; padding: 0; font-size: 10pt; }
   nav { display: none; }
   * { print-color-adjust: exact; -webkit-print-color-adjust: exact; }
-  h2, h3, h4, h5, h6, summary { break-after: avoid; }
+  /* No heading, nor what belongs to it, is left at the end of a page. */
+  h2, h3, h4, h5, h6, caption, .place, summary { break-inside: avoid; break-after: avoid; }
   .recs > li, .findings li, tr, figure { break-inside: avoid; }
-  .scroll { overflow: visible; }
+  .scroll { overflow: visible; background: none; }
   details::details-content { content-visibility: visible; display: block; height: auto; }
 }
 )";

@@ -10,9 +10,9 @@
 #include "model/CommercialFertilizerRec.h"
 #include "tests/support/Uuids.h"
 #include "tools/Centroid.h"
+#include "tools/report/GroupedNumber.h"
 #include "tools/report/RateBar.h"
 #include "tools/report/ReportData.h"
-#include "tools/report/ReportMap.h"
 
 namespace {
 
@@ -21,13 +21,6 @@ const double nan = std::nan("");
 
 bool contains(const std::string& text, const std::string& part) {
     return text.find(part) != std::string::npos;
-}
-
-std::size_t occurrences(const std::string& text, const std::string& part) {
-    std::size_t count = 0;
-    for (std::size_t at = 0; (at = text.find(part, at)) != std::string::npos; ++at)
-        ++count;
-    return count;
 }
 
 TEST(Centroid, IsAPlaceWhenItIsOnEarthAndNotZero) {
@@ -72,55 +65,18 @@ TEST(RateBar, DrawsNegativeRatesAndRatesOutOfOrder) {
     EXPECT_TRUE(contains(bar, "class=\"range\" x=\"0.0\" y=\"3\" width=\"200.0\""));
 }
 
+TEST(RateBar, TellsLargeRatesInGroupsOfDigits) {
+    const Rates rates{28000.0, 32400.5, 36000.0, "seeds/ac"};
+    EXPECT_EQ(ratesText(rates), "minimum 28\u202F000, average 32\u202F400.5, maximum 36\u202F000 "
+                                "seeds/ac");
+    EXPECT_TRUE(contains(rateBar(rates, scaleOf({rates})), "from 0 to 36\u202F000\""));
+}
+
 TEST(RateBar, IsLeftOutWithoutRatesThatCanBeDrawn) {
     for (const Rates& rates : {Rates{0.0, 0.0, 0.0, ""}, Rates{nan, 1.0, 2.0, ""},
                                Rates{0.0, 1.0, infinity, ""}, Rates{-1.7e308, 0.0, 1.7e308, ""}})
         EXPECT_EQ(rateBar(rates, scaleOf({rates})), "");
     EXPECT_EQ(ratesText({nan, 1.0, infinity, ""}), "minimum NaN, average 1, maximum Infinity");
-}
-
-TEST(ReportMap, ShowsASingleFieldInTheMiddleOfAKilometre) {
-    const std::string map = reportMap({{"North <40>", {44.7, -95.0, 0.0}}});
-    EXPECT_TRUE(contains(map, "aria-label=\"Map: one field between 44.695° N and 44.705° N"));
-    EXPECT_TRUE(contains(map, "<circle class=\"field\" cx=\"300.0\" "));
-    EXPECT_TRUE(contains(map, ">North &lt;40&gt;</text>"));
-    EXPECT_TRUE(contains(map, ">200 m</text>"));
-}
-
-TEST(ReportMap, PutsNorthUpAndEastToTheRight) {
-    const std::string map =
-        reportMap({{"south-west", {10.0, 20.0, 0.0}}, {"north-east", {11.0, 21.0, 0.0}}});
-    const auto southWest = map.find("<title>south-west");
-    const auto circleOf = [&](std::size_t title) { return map.rfind("<circle", title); };
-    const auto x = [&](std::size_t circle) {
-        return std::stod(map.substr(map.find("cx=", circle) + 4));
-    };
-    const auto y = [&](std::size_t circle) {
-        return std::stod(map.substr(map.find("cy=", circle) + 4));
-    };
-    const auto northEast = map.find("<title>north-east");
-    EXPECT_LT(x(circleOf(southWest)), x(circleOf(northEast)));
-    EXPECT_GT(y(circleOf(southWest)), y(circleOf(northEast)));
-}
-
-TEST(ReportMap, KeepsFieldsOnBothSidesOfTheDateLineTogether) {
-    const std::string map = reportMap({{"a", {-17.0, 179.9, 0.0}}, {"b", {-17.0, -179.9, 0.0}}});
-    EXPECT_TRUE(contains(map, "179.900° E and 179.900° W"));
-}
-
-TEST(ReportMap, DrawsFieldsThatWouldHideEachOtherAsOnePoint) {
-    const std::string map = reportMap(
-        {{"a", {44.7, -95.0, 0.0}}, {"b", {44.7, -95.0, 0.0}}, {"c", {44.8, -95.0, 0.0}}});
-    EXPECT_EQ(occurrences(map, "<circle"), 2U);
-    EXPECT_TRUE(contains(map, "<title>a and 1 more</title>"));
-}
-
-TEST(ReportMap, StaysSmallForAnyNumberOfFields) {
-    std::vector<MapPoint> points;
-    for (int i = 0; i < 100'000; ++i)
-        points.push_back({"Field " + std::to_string(i),
-                          {-89.0 + i % 1000 * 0.178, -179.0 + i / 1000.0 * 3.58, 0.0}});
-    EXPECT_LT(reportMap(points).size(), 4'000'000U);
 }
 
 QenRec recOf(unsigned number, const std::string& product, double total, const std::string& unit) {
@@ -155,9 +111,9 @@ TEST(ProductTotals, SumUpByProductAndUnit) {
     ASSERT_EQ(totals.totals().size(), 3U);
     const ProductTotal& kilograms = totals.totals().at({"fertilizer", "Urea", "kg"});
     EXPECT_EQ(kilograms.recs, 2U);
-    EXPECT_EQ(kilograms.total, 15.0);
-    EXPECT_EQ(kilograms.areas.at("ha"), 5.0);
-    EXPECT_EQ(totals.totals().at({"fertilizer", "Urea", "lb"}).total, 3.0);
+    EXPECT_EQ(kilograms.total.text(), "15");
+    EXPECT_EQ(kilograms.areas.at("ha").text(), "5");
+    EXPECT_EQ(totals.totals().at({"fertilizer", "Urea", "lb"}).total.text(), "3");
     EXPECT_EQ(totals.totals().at({"", "", "kg"}).recs, 1U);
 }
 
@@ -168,8 +124,44 @@ TEST(ProductTotals, CountARecOfSeveralPackagesOnce) {
         growersWith({recOf(1, "Urea", 99.0, "kg"), recOf(2, "Urea", 5.0, "kg")});
     totals.add(first);
     totals.add(second);
-    EXPECT_EQ(totals.totals().at({"fertilizer", "Urea", "kg"}).total, 15.0);
+    EXPECT_EQ(totals.totals().at({"fertilizer", "Urea", "kg"}).total.text(), "15");
     EXPECT_EQ(totals.repeated(), 1U);
+}
+
+TEST(ProductTotals, PutRecsWithoutProductDataLast) {
+    ProductTotals totals;
+    std::vector<QenGrower> growers =
+        growersWith({recOf(1, "", 1.0, "kg"), recOf(2, "Urea", 1.0, "kg")});
+    totals.add(growers);
+    ASSERT_EQ(totals.totals().size(), 2U);
+    EXPECT_EQ(totals.totals().begin()->first.name, "Urea");
+    EXPECT_EQ(totals.totals().rbegin()->first.kind, "");
+}
+
+std::string sumOf(const std::vector<double>& numbers) {
+    Sum sum;
+    for (const double number : numbers)
+        sum.add(number);
+    return sum.text();
+}
+
+TEST(Sum, ShowsWhatPackagesGiveWithoutTheErrorsOfBinaryFractions) {
+    EXPECT_EQ(sumOf({0.1, 0.2}), "0.3");
+    EXPECT_EQ(sumOf(std::vector<double>(100'000, 0.1)), grouped("10000"));
+    EXPECT_EQ(sumOf({1e15, 0.25, -1e15}), "0.25");
+    EXPECT_EQ(sumOf({0.25, 1e15, -1e15}), "0.25");
+}
+
+TEST(Sum, LeavesNoDigitOut) {
+    EXPECT_EQ(sumOf({1234567890123.0}), grouped("1234567890123"));
+    EXPECT_EQ(sumOf({1234567890123.0, 1.5}), grouped("1234567890124.5"));
+    EXPECT_EQ(sumOf({0.30000000000000004}), "0.30000000000000004");
+}
+
+TEST(Sum, IsNotFiniteWhenANumberIsNot) {
+    EXPECT_EQ(sumOf({infinity, 1.0}), "Infinity");
+    EXPECT_EQ(sumOf({1.0, -infinity, 1.0}), "-Infinity");
+    EXPECT_EQ(sumOf({1.0, nan}), "NaN");
 }
 
 Finding findingOf(FindingCode code) {

@@ -1,0 +1,106 @@
+#include "tools/report/ReportPage.h"
+
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "model/CommercialFertilizerRec.h"
+#include "tests/support/Uuids.h"
+
+namespace {
+
+bool contains(const std::string& text, const std::string& part) {
+    return text.find(part) != std::string::npos;
+}
+
+QenRec recOf(unsigned number, double total, const std::string& product) {
+    QenRec rec;
+    rec.setId(test::uuid(number));
+    rec.setTotal(total);
+    rec.setTotalUom("kg");
+    if (!product.empty())
+        rec.setRecData(new CommercialFertilizerRec(test::uuid(number), 7, product, 1, "kg"));
+    return rec;
+}
+
+QenGrower growerWith(const std::vector<QenRec>& recs) {
+    QenField field("Field", test::uuid(3), test::uuid(1), test::uuid(2));
+    for (const QenRec& rec : recs)
+        field.addRec(rec);
+    QenFarm farm("Farm", test::uuid(2), test::uuid(1));
+    farm.addField(field);
+    QenGrower grower("Grower", test::uuid(1));
+    grower.addFarm(farm);
+    return grower;
+}
+
+ReportPackage packageOf(const std::string& name, const std::vector<QenGrower>& growers) {
+    ReportPackage package;
+    package.reading.name = name;
+    package.reading.growers = growers;
+    package.counts = countRecords(package.reading.growers);
+    return package;
+}
+
+/// The page without its style.
+std::string pageOf(std::vector<ReportPackage> packages) {
+    std::string page;
+    writeReport(packages, [&page](std::string_view text) { page += text; });
+    const std::size_t begin = page.find("<style>");
+    return page.erase(begin, page.find("</style>") - begin);
+}
+
+TEST(ReportPage, NamesTheFolderOnceAndTheFilesWithoutIt) {
+    const std::string page = pageOf({packageOf("season/2026/a&b.xml", {growerWith({})}),
+                                     packageOf("season/2026/c.xml", {growerWith({})})});
+    EXPECT_TRUE(contains(page, "<p>2 packages</p>\n"
+                               "<p class=\"quiet\">Folder: <bdi>season/2026</bdi></p>\n"));
+    EXPECT_TRUE(contains(page, "<th scope=\"row\"><bdi>a&amp;b.xml</bdi></th>"));
+    EXPECT_TRUE(contains(page, "<h3><bdi>c.xml</bdi></h3>"));
+    EXPECT_EQ(page.find("season"), page.rfind("season"));
+}
+
+TEST(ReportPage, CallsASinglePackageByItsFile) {
+    const std::string page = pageOf({packageOf("/media/stick/a.xml", {})});
+    EXPECT_TRUE(contains(page, "<title>Prescription report: a.xml</title>"));
+    EXPECT_TRUE(contains(page, "<p><bdi>a.xml</bdi></p>\n"
+                               "<p class=\"quiet\">Folder: <bdi>/media/stick</bdi></p>\n"));
+}
+
+TEST(ReportPage, SaysNothingOfFoldersWhereThereAreNone) {
+    EXPECT_FALSE(contains(pageOf({packageOf("a.xml", {})}), "Folder"));
+    const std::string page = pageOf({packageOf("-", {}), packageOf("season/a.xml", {})});
+    EXPECT_TRUE(contains(page, "<th scope=\"row\">standard input</th>"));
+    EXPECT_TRUE(contains(page, "Folder: <bdi>season</bdi>"));
+    EXPECT_TRUE(contains(pageOf({packageOf("-", {})}),
+                         "<title>Prescription report: standard input</title>"));
+}
+
+TEST(ReportPage, SumsUpRecsWithoutProductDataInTheLastRow) {
+    const std::string page =
+        pageOf({packageOf("a.xml", {growerWith({recOf(5, 1.0, ""), recOf(6, 2.0, "Urea")})})});
+    EXPECT_LT(page.find("<th scope=\"row\"><bdi>Urea</bdi>"),
+              page.find("<th scope=\"row\">no product data</th>"));
+    EXPECT_TRUE(contains(page, "<th scope=\"row\">no product data</th>"));
+}
+
+TEST(ReportPage, WritesLargeNumbersInGroupsOfDigitsAndWhole) {
+    const std::string page =
+        pageOf({packageOf("a.xml", {growerWith({recOf(5, 1234567890123.5, "Urea")})})});
+    const std::string total = "1\u202F234\u202F567\u202F890\u202F123.5";
+    EXPECT_TRUE(contains(page, ">" + total + " <bdi>kg</bdi></td>"));
+    EXPECT_TRUE(contains(page, "<dt>Total</dt><dd><bdi>" + total + " kg</bdi></dd>"));
+}
+
+TEST(ReportPage, SaysThatThereAreNoProblems) {
+    EXPECT_TRUE(contains(pageOf({packageOf("a.xml", {})}), "<p>No problems were found.</p>"));
+}
+
+// Both are kept together on paper.
+TEST(ReportPage, PutsThePlaceOfAFieldUnderItsHeading) {
+    EXPECT_TRUE(contains(pageOf({packageOf("a.xml", {growerWith({recOf(5, 1.0, "")})})}),
+                         "<h5><bdi>Field</bdi></h5>\n<p class=\"place\"><span class=\"id\">"));
+}
+
+} // namespace
