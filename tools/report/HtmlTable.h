@@ -9,7 +9,7 @@
 class HtmlTable {
 public:
     struct Column {
-        const char* name; ///< Goes into the page as it is.
+        const char* name = ""; ///< Goes into the page as it is.
         bool isNumber = false;
     };
 

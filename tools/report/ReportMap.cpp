@@ -10,50 +10,41 @@
 #include <fmt/format.h>
 
 #include "tools/Utf8.h"
+#include "tools/report/GroupedNumber.h"
 #include "tools/report/Html.h"
+#include "tools/report/MapLettering.h"
+#include "tools/report/MapProjection.h"
 
 namespace {
 
-constexpr double pi = 3.14159265358979323846;
 constexpr double metresPerDegree = 111195.0; // of latitude
-constexpr double width = 600.0;
-constexpr double leastHeight = 260.0;
-constexpr double mostHeight = 520.0;
-constexpr double margin = 48.0;       // above and below the points
-constexpr double sideMargin = 100.0;  // where latitudes and names have room
-constexpr double leastDegrees = 0.01; // what the map shows at least: a kilometre
+constexpr double radius = 6.0;               // of points
 
-struct Range {
-    double from;
-    double to;
-
-    double span() const { return to - from; }
-    double middle() const { return from + span() / 2.0; }
-
-    void widenTo(double least) {
-        const double missing = std::max(0.0, least - span());
-        from -= missing / 2.0;
-        to += missing / 2.0;
-    }
+/// Fields that would hide each other, drawn as one point.
+struct PointGroup {
+    double x;
+    double y;
+    std::string name; ///< That of the first field.
+    std::size_t fields;
 };
 
-/// Part of the map, for what must not overlap.
-struct Box {
-    double left;
-    double top;
-    double right;
-    double bottom;
+/// The smallest of 1, 2, 5, 10, 20, ... and of their fractions that is not below a number.
+double roundUp(double number) {
+    const double power = std::pow(10.0, std::floor(std::log10(number)));
+    const double digit = number / power;
+    return power * (digit <= 1.0 ? 1.0 : digit <= 2.0 ? 2.0 : digit <= 5.0 ? 5.0 : 10.0);
+}
 
-    bool overlaps(const Box& other) const {
-        return left < other.right && other.left < right && top < other.bottom && other.top < bottom;
-    }
-};
-
-/// The largest of 1, 2, 5, 10, 20, ... and of their fractions that is not above a number.
+/// The largest of them that is not above a number.
 double roundDown(double number) {
     const double power = std::pow(10.0, std::floor(std::log10(number)));
     const double digit = number / power;
     return power * (digit >= 5.0 ? 5.0 : digit >= 2.0 ? 2.0 : 1.0);
+}
+
+/// How many decimals a step that is rounded in this way has.
+int decimalsOf(double step) {
+    return std::max(0, static_cast<int>(std::ceil(-std::log10(step) - 1e-9)));
 }
 
 /// All multiples of a number in a range.
@@ -65,224 +56,212 @@ std::vector<double> multiples(double number, const Range& range) {
     return result;
 }
 
-template <class Value>
-Range rangeOf(const std::vector<MapPoint>& points, Value value) {
-    Range range{value(points.front()), value(points.front())};
-    for (const MapPoint& point : points) {
-        range.from = std::min(range.from, value(point));
-        range.to = std::max(range.to, value(point));
-    }
-    return range;
+/// A name within another text: the direction in which it is written ends with it.
+std::string isolated(const std::string& name) {
+    constexpr char32_t beginning = 0x2068;
+    constexpr char32_t end = 0x2069;
+    std::string text;
+    appendUtf8(text, beginning);
+    text += name;
+    appendUtf8(text, end);
+    return text;
 }
 
-/// The name of a point, cut to what fits beside it.
-std::string shortName(std::string_view name) {
-    constexpr std::size_t most = 20; // characters
-    std::string result;
-    for (std::size_t count = 0; !name.empty(); ++count) {
-        if (count == most)
-            return result + "\u2026";
-        const std::size_t length = firstCharacter(name).length;
-        result += name.substr(0, length);
-        name.remove_prefix(length);
-    }
-    return result;
-}
-
-std::size_t characters(std::string_view text) {
-    std::size_t count = 0;
-    for (; !text.empty(); ++count)
-        text.remove_prefix(firstCharacter(text).length);
-    return count;
-}
-
-class MapWriter {
+/// What of the map depends on the size of its letters: lines, the scale, and names.
+class MapLayer {
 public:
-    explicit MapWriter(const std::vector<MapPoint>& points)
-        : points_(points),
-          latitudes_(rangeOf(points, [](const MapPoint& p) { return p.centroid.latitude; })),
-          longitudes_(rangeOf(points, [](const MapPoint& p) { return p.centroid.longitude; })) {
-        // Fields on both sides of the 180th meridian may be near each other.
-        const Range shifted = rangeOf(points, eastward);
-        if (shifted.span() < longitudes_.span()) {
-            longitudes_ = shifted;
-            shifted_ = true;
-        }
-        shrink_ = std::max(0.05, std::cos(latitudes_.middle() * pi / 180.0));
-        latitudes_.widenTo(leastDegrees);
-        longitudes_.widenTo(leastDegrees / shrink_);
-        const double room = width - 2.0 * sideMargin;
-        scale_ = room / (longitudes_.span() * shrink_);
-        scale_ = std::min(scale_, (mostHeight - 2.0 * margin) / latitudes_.span());
-        height_ = std::max(leastHeight, latitudes_.span() * scale_ + 2.0 * margin);
+    MapLayer(const MapProjection& projection, const std::vector<PointGroup>& groups,
+             const Lettering& lettering)
+        : projection_(projection),
+          letters_(lettering),
+          room_(MapProjection::width, projection.height()) {
+        for (const PointGroup& group : groups)
+            room_.take({group.x - radius, group.y - radius, group.x + radius, group.y + radius});
     }
 
-    std::string write() {
-        text_ += fmt::format(
-            "<svg class=\"map\" viewBox=\"0 0 {} {:.0f}\" role=\"img\" "
-            "aria-label=\"Map: {} between {} and {}, {} and {}. The list of fields gives the "
-            "coordinates of each.\">\n"
-            "<rect class=\"land\" width=\"{}\" height=\"{:.0f}\"/>\n",
-            width, height_,
-            points_.size() == 1 ? "one field" : fmt::format("{} fields", points_.size()),
-            latitudeText(latitudes_.from, 3), latitudeText(latitudes_.to, 3),
-            longitudeText(longitudes_.from, 3), longitudeText(longitudes_.to, 3), width, height_);
-        writeLines();
+    /// What lies below the points.
+    std::string ground() {
         writeScale();
-        writePoints();
-        text_ += "</svg>\n";
-        return std::move(text_);
+        writeLongitudes();
+        writeLatitudes();
+        return group(lines_ + std::exchange(texts_, "")); // no line goes through a text
+    }
+
+    /// The names of points where there is room for them.
+    std::string names(const std::vector<PointGroup>& groups) {
+        for (const PointGroup& each : groups)
+            writeName(each);
+        return group(texts_);
     }
 
 private:
-    static double eastward(const MapPoint& point) {
-        const double longitude = point.centroid.longitude;
-        return longitude < 0.0 ? longitude + 360.0 : longitude;
+    std::string group(const std::string& content) const {
+        return fmt::format("<g class=\"{}\">\n{}</g>\n", letters_.style, content);
     }
 
-    double x(double longitude) const {
-        return width / 2.0 + (longitude - longitudes_.middle()) * shrink_ * scale_;
-    }
-
-    double y(double latitude) const {
-        return height_ / 2.0 - (latitude - latitudes_.middle()) * scale_;
-    }
-
-    static std::string latitudeText(double latitude, int decimals) {
-        return fmt::format("{:.{}f}\u00B0 {}", std::abs(latitude), decimals,
-                           latitude < 0.0 ? "S" : "N");
-    }
-
-    static std::string longitudeText(double longitude, int decimals) {
-        if (longitude > 180.0)
-            longitude -= 360.0;
-        return fmt::format("{:.{}f}\u00B0 {}", std::abs(longitude), decimals,
-                           longitude < 0.0 ? "W" : "E");
-    }
-
-    /// Lines of latitude and longitude at round numbers, with what they are at the map's edges.
-    void writeLines() {
-        constexpr double distance = 160.0; // about
-        const double step = roundDown(distance / scale_);
-        const int decimals = std::max(0, static_cast<int>(std::ceil(-std::log10(step) - 1e-9)));
-        const double halfHeight = height_ / 2.0 / scale_;
-        const Range shown{latitudes_.middle() - halfHeight, latitudes_.middle() + halfHeight};
-        for (const double latitude : multiples(step, shown)) {
-            const double at = y(latitude);
-            text_ += fmt::format("<path class=\"grid\" d=\"M0 {0:.1f}H{1}\"/>\n", at, width);
-            if (at > margin && at < height_ - margin)
-                writeDegrees(4.0, at - 4.0, latitudeText(latitude, decimals));
-        }
-        const double across = roundDown(distance / scale_ / shrink_);
-        const int places = std::max(0, static_cast<int>(std::ceil(-std::log10(across) - 1e-9)));
-        const double halfWidth = width / 2.0 / scale_ / shrink_;
-        const Range wide{longitudes_.middle() - halfWidth, longitudes_.middle() + halfWidth};
-        for (const double longitude : multiples(across, wide)) {
-            const double at = x(longitude);
-            text_ += fmt::format("<path class=\"grid\" d=\"M{:.1f} 0V{:.0f}\"/>\n", at, height_);
-            if (at < width - sideMargin)
-                writeDegrees(at + 4.0, 20.0, longitudeText(longitude, places));
-        }
-    }
-
-    void writeDegrees(double left, double bottom, const std::string& label) {
-        constexpr double height = 18.0;
-        constexpr double longest = 110.0;
-        text_ += fmt::format("<text class=\"degrees\" x=\"{:.1f}\" y=\"{:.1f}\">{}</text>\n", left,
-                             bottom, label);
-        taken_.push_back({left, bottom - height, left + longest, bottom + 4.0});
+    /// Between lines there is room for the longest of their labels.
+    double step(double perDegree) const {
+        constexpr double longestLabel = 7.0;
+        constexpr double most = 90.0;
+        return std::min(most, roundUp(longestLabel * letters_.size / perDegree));
     }
 
     void writeScale() {
         constexpr double longest = 160.0;
         constexpr double kilometre = 1000.0;
-        const double metres = roundDown(longest / scale_ * metresPerDegree);
-        const double length = metres / metresPerDegree * scale_;
-        const double right = width - 12.0;
-        const double bottom = height_ - 12.0;
-        const std::string label = metres < kilometre ? fmt::format("{:.0f} m", metres)
-                                                     : fmt::format("{:.0f} km", metres / kilometre);
-        text_ += fmt::format("<path class=\"scale\" d=\"M{0:.1f} {1:.1f}v6H{2:.1f}v-6\"/>\n"
-                             "<text class=\"degrees\" x=\"{2:.1f}\" y=\"{3:.1f}\" "
-                             "text-anchor=\"end\">{4}</text>\n",
-                             right - length, bottom - 6.0, right, bottom - 12.0, label);
-        taken_.push_back({right - std::max(length, 90.0), bottom - 36.0, width, height_});
+        const double scale = projection_.perDegreeOfLatitude();
+        const double metres = roundDown(longest / scale * metresPerDegree);
+        const double length = metres / metresPerDegree * scale;
+        const double right = MapProjection::width - 12.0;
+        const double bottom = projection_.height() - 12.0;
+        const std::string label = metres < kilometre
+                                      ? fmt::format("{:.0f} m", metres)
+                                      : grouped(fmt::format("{:.0f}", metres / kilometre)) + " km";
+        lines_ += fmt::format("<path class=\"scale\" d=\"M{0:.1f} {1:.1f}v6H{2:.1f}v-6\"/>\n",
+                              right - length, bottom - 6.0, right);
+        room_.take({right - length, bottom - 8.0, right, bottom});
+        writeText({right, bottom - 10.0 - 0.25 * letters_.size, "degrees", end}, label);
     }
 
-    void writePoints() {
-        // Points that would hide each other become one, so that any number of fields can be drawn.
-        constexpr double cell = 4.0;
-        std::map<std::pair<long, long>, std::vector<const MapPoint*>> cells;
-        for (const MapPoint& point : points_) {
-            const auto [left, top] = place(point);
-            cells[{std::lround(left / cell), std::lround(top / cell)}].push_back(&point);
+    void writeLongitudes() {
+        const double across = step(projection_.perDegreeOfLongitude());
+        for (const double longitude : multiples(across, projection_.shownLongitudes())) {
+            const double at = projection_.x(longitude);
+            lines_ += fmt::format("<path class=\"grid\" d=\"M{:.1f} 0V{:.0f}\"/>\n", at,
+                                  projection_.height());
+            writeText({at + 4.0, letters_.size + 4.0, "degrees", start},
+                      longitudeText(longitude, decimalsOf(across)));
         }
-        constexpr double radius = 6.0;
-        for (const auto& [key, fields] : cells) {
-            const auto [left, top] = place(*fields.front());
-            taken_.push_back({left - radius, top - radius, left + radius, top + radius});
+    }
+
+    void writeLatitudes() {
+        const double up = step(projection_.perDegreeOfLatitude());
+        for (const double latitude : multiples(up, projection_.shownLatitudes())) {
+            const double at = projection_.y(latitude);
+            lines_ += fmt::format("<path class=\"grid\" d=\"M0 {:.1f}H{:.0f}\"/>\n", at,
+                                  MapProjection::width);
+            writeText({4.0, at - 4.0, "degrees", start}, latitudeText(latitude, decimalsOf(up)));
         }
-        for (const auto& [key, fields] : cells)
-            writePoint(*fields.front(), fields.size());
     }
 
-    std::pair<double, double> place(const MapPoint& point) const {
-        const double longitude = shifted_ ? eastward(point) : point.centroid.longitude;
-        return {x(longitude), y(point.centroid.latitude)};
-    }
-
-    void writePoint(const MapPoint& point, std::size_t fields) {
-        const auto [left, top] = place(point);
-        const std::string others = fields == 1 ? "" : fmt::format(" and {} more", fields - 1);
-        text_ += fmt::format("<circle class=\"field\" cx=\"{:.1f}\" cy=\"{:.1f}\" r=\"6\">"
-                             "<title>{}{}</title></circle>\n",
-                             left, top, html(point.name), others);
-        writeName(left, top,
-                  shortName(point.name) + (fields == 1 ? "" : fmt::format(" +{}", fields - 1)));
-    }
-
-    /// Writes a name beside a point, to the right or else to the left, if there is room for it.
-    void writeName(double left, double top, const std::string& name) {
-        // On a phone the letters are larger, compared with the map: they must fit there, too.
-        constexpr double letterWidth = 12.0;
-        constexpr double letterHeight = 22.0;
+    void writeName(const PointGroup& group) {
         constexpr std::size_t mostNames = 60;
-        constexpr double gap = 10.0;
-        const double length = static_cast<double>(characters(name)) * letterWidth;
-        for (const bool rightOf : {true, false}) {
-            const double begin = rightOf ? left + gap : left - gap - length;
-            const Box box{begin, top - letterHeight / 2.0, begin + length,
-                          top + letterHeight / 2.0};
-            if (names_ == mostNames || box.left < 0.0 || box.right > width || isTaken(box))
-                continue;
-            taken_.push_back(box);
-            ++names_;
-            text_ += fmt::format("<text class=\"name\" x=\"{:.1f}\" y=\"{:.1f}\"{}>{}</text>\n",
-                                 rightOf ? left + gap : left - gap, top + 5.0,
-                                 rightOf ? "" : " text-anchor=\"end\"", html(name));
+        if (group.name.empty() || names_ == mostNames)
             return;
+        const std::string others = group.fields == 1 ? "" : " +" + groupedText(group.fields - 1);
+        // Rather a short name than none.
+        for (const std::size_t most : {24U, 12U}) {
+            if (writeBeside(group, isolated(shortened(group.name, most)) + others)) {
+                ++names_;
+                return;
+            }
         }
     }
 
-    bool isTaken(const Box& box) const {
-        return std::any_of(taken_.begin(), taken_.end(),
-                           [&](const Box& other) { return box.overlaps(other); });
+    /// To the right of a point, or else to the left, above or below.
+    bool writeBeside(const PointGroup& group, const std::string& name) {
+        constexpr double gap = 10.0;
+        const double baseline = group.y + 0.36 * letters_.size;
+        return writeText({group.x + gap, baseline, "name", start}, name) ||
+               writeText({group.x - gap, baseline, "name", end}, name) ||
+               writeText({group.x, group.y - gap, "name", middle}, name) ||
+               writeText({group.x, group.y + gap + 0.75 * letters_.size, "name", middle}, name);
     }
 
-    const std::vector<MapPoint>& points_;
-    Range latitudes_;
-    Range longitudes_;
-    bool shifted_ = false; // whether longitudes are counted from 0 to 360
-    double shrink_ = 1.0;  // how much shorter a degree of longitude is
-    double scale_ = 1.0;   // units of the picture per degree of latitude
-    double height_ = leastHeight;
-    std::vector<Box> taken_; // by points, names and the scale
+    /// Which part of a text is at its place, as a fraction of its width.
+    struct Anchor {
+        double before;
+        const char* attribute;
+    };
+    static constexpr Anchor start{0.0, ""};
+    static constexpr Anchor middle{0.5, " text-anchor=\"middle\""};
+    static constexpr Anchor end{1.0, " text-anchor=\"end\""};
+
+    struct TextPlace {
+        double x;
+        double baseline;
+        const char* style;
+        Anchor anchor;
+    };
+
+    /// Writes a text if there is room for it.
+    bool writeText(const TextPlace& place, const std::string& text) {
+        const double length = textWidth(text) * letters_.size;
+        const double left = place.x - place.anchor.before * length;
+        const Box box{left, place.baseline - 0.95 * letters_.size, left + length,
+                      place.baseline + 0.25 * letters_.size};
+        if (!room_.isFree(box))
+            return false;
+        room_.take(box);
+        texts_ +=
+            fmt::format("<text class=\"{}\" x=\"{:.1f}\" y=\"{:.1f}\"{}>{}</text>\n", place.style,
+                        place.x, place.baseline, place.anchor.attribute, html(text));
+        return true;
+    }
+
+    const MapProjection& projection_;
+    Lettering letters_;
+    FreeRoom room_;
     std::size_t names_ = 0;
-    std::string text_;
+    std::string lines_;
+    std::string texts_;
 };
+
+std::vector<PointGroup> groupsOf(const std::vector<MapPoint>& points,
+                                 const MapProjection& projection) {
+    constexpr double cell = 4.0;
+    std::map<std::pair<long, long>, PointGroup> cells;
+    for (const MapPoint& point : points) {
+        const double x = projection.x(projection.longitude(point));
+        const double y = projection.y(point.centroid.latitude);
+        const auto key = std::make_pair(std::lround(x / cell), std::lround(y / cell));
+        ++cells.try_emplace(key, PointGroup{x, y, point.name, 0}).first->second.fields;
+    }
+    std::vector<PointGroup> groups;
+    groups.reserve(cells.size());
+    for (auto& [key, group] : cells)
+        groups.push_back(std::move(group));
+    return groups;
+}
+
+std::string pointOf(const PointGroup& group) {
+    const std::string others =
+        group.fields == 1 ? "" : fmt::format(" and {} more", groupedText(group.fields - 1));
+    return fmt::format("<circle class=\"field\" cx=\"{:.1f}\" cy=\"{:.1f}\" r=\"{:.0f}\">"
+                       "<title>{}{}</title></circle>\n",
+                       group.x, group.y, radius,
+                       group.name.empty() ? "Field without a name" : html(isolated(group.name)),
+                       others);
+}
+
+std::string beginning(const MapProjection& projection, std::size_t fields) {
+    return fmt::format(
+        "<svg class=\"map\" viewBox=\"0 0 {0:.0f} {1:.0f}\" role=\"img\" "
+        "aria-label=\"Map: {2} between {3} and {4}, {5} and {6}. The list of fields gives the "
+        "coordinates of each.\">\n<rect class=\"land\" width=\"{0:.0f}\" height=\"{1:.0f}\"/>\n",
+        MapProjection::width, projection.height(),
+        fields == 1 ? "one field" : groupedText(fields) + " fields",
+        latitudeText(projection.latitudes().from, 3), latitudeText(projection.latitudes().to, 3),
+        longitudeText(projection.longitudes().from, 3),
+        longitudeText(projection.longitudes().to, 3));
+}
 
 } // namespace
 
 std::string reportMap(const std::vector<MapPoint>& points) {
-    return MapWriter(points).write();
+    constexpr std::array<Lettering, 2> letterings = {{{"wide", 13.0}, {"narrow", 21.0}}};
+    const MapProjection projection(points);
+    const std::vector<PointGroup> groups = groupsOf(points, projection);
+    std::vector<MapLayer> layers;
+    layers.reserve(letterings.size());
+    for (const Lettering& lettering : letterings)
+        layers.emplace_back(projection, groups, lettering);
+    std::string text = beginning(projection, points.size());
+    for (MapLayer& layer : layers)
+        text += layer.ground();
+    for (const PointGroup& group : groups)
+        text += pointOf(group);
+    for (MapLayer& layer : layers)
+        text += layer.names(groups);
+    return text + "</svg>\n";
 }

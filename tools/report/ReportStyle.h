@@ -74,7 +74,10 @@ svg.map { max-width: 44rem; border: 1px solid var(--line); }
 .field { fill: var(--accent); stroke: var(--page); stroke-width: 1.5; }
 svg text { fill: var(--text); font-size: 13px; }
 svg .degrees { fill: var(--quiet); }
-svg .name { font-weight: 600; stroke: var(--land); stroke-width: 3px; paint-order: stroke; }
+.narrow { display: none; }
+.narrow text { font-size: 21px; }
+svg .degrees, svg .name { stroke: var(--land); stroke-width: 3px; paint-order: stroke; }
+svg .name { font-weight: 600; }
 details { margin: .25rem 0; }
 summary { cursor: pointer; padding: .25rem 0; }
 .recs { display: grid; grid-template-columns: repeat(auto-fill, minmax(min(20rem, 100%), 1fr)); gap: .75rem; }
@@ -97,7 +100,8 @@ footer { margin-top: 2rem; border-top: 1px solid var(--line); color: var(--quiet
   tbody th { flex: 1 0 100%; }
   tbody .number { text-align: left; white-space: normal; }
   tbody td::before { content: attr(data-column) " "; color: var(--quiet); }
-  svg text { font-size: 21px; }
+  .wide { display: none; }
+  .narrow { display: inline; }
 }
 @media print {
   :root {

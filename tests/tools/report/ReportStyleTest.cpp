@@ -112,9 +112,11 @@ TEST(ReportStyle, ShowsWhereATableGoesOnBesideTheScreen) {
     EXPECT_TRUE(contains(scroll, "var(--shade), transparent) right"));
 }
 
-TEST(ReportStyle, ShowsTablesInAnotherWayOnAPhone) {
+TEST(ReportStyle, ShowsTablesAndTheMapInAnotherWayOnAPhone) {
     const std::string phone = partOf("@media (max-width: 37rem)");
     EXPECT_TRUE(contains(phone, "content: attr(data-column)"));
+    EXPECT_TRUE(contains(phone, ".wide { display: none; }"));
+    EXPECT_TRUE(contains(phone, ".narrow { display: inline; }"));
 }
 
 } // namespace
