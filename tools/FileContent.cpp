@@ -9,52 +9,36 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace {
-
-class Descriptor {
-public:
-    explicit Descriptor(int number) : number_(number) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() {
-        if (number_ >= 0)
-            close(number_);
-    }
-
-    int number() const { return number_; }
-
-private:
-    int number_;
-};
-
-} // namespace
+#include "tools/Descriptor.h"
 
 FileContent readFileContent(const std::string& path) {
     // Without O_NONBLOCK, opening a named pipe would wait for somebody to write to it.
     const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status = {};
-    if (file.number() < 0 || fstat(file.number(), &status) != 0)
+    if (!file || fstat(file.number(), &status) != 0)
         return {"", describeFileError(errno)};
     if (S_ISDIR(status.st_mode))
         return {"", describeFileError(EISDIR)};
     if (!S_ISREG(status.st_mode))
         return {"", "is not a regular file"};
+    return readDescriptor(file.number(), static_cast<std::size_t>(status.st_size));
+}
 
+FileContent readDescriptor(int file, std::size_t size) {
     FileContent content;
-    content.bytes.resize(static_cast<std::size_t>(status.st_size));
-    std::size_t size = 0;
-    while (size < content.bytes.size()) {
-        const ssize_t count =
-            read(file.number(), content.bytes.data() + size, content.bytes.size() - size);
+    content.bytes.resize(size);
+    std::size_t present = 0;
+    while (present < size) {
+        const ssize_t count = read(file, content.bytes.data() + present, size - present);
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)
             return {"", describeFileError(errno)};
         if (count == 0)
-            break; // The file has become shorter.
-        size += static_cast<std::size_t>(count);
+            break; // It has become shorter.
+        present += static_cast<std::size_t>(count);
     }
-    content.bytes.resize(size);
+    content.bytes.resize(present);
     return content;
 }
 

@@ -1,8 +1,6 @@
 #include "tools/OutputFile.h"
 
 #include <cerrno>
-#include <filesystem>
-#include <system_error>
 
 #include <fcntl.h>
 #include <fmt/format.h>
@@ -15,63 +13,57 @@ constexpr int attempts = 100;
 
 /// Another name in the folder of a file. It does not contain the name of the file, which may be as
 /// long as a name can be.
-std::string otherName(const std::string& path, int attempt) {
-    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
-    return (folder / fmt::format(".qenxml-{}-{}.tmp", getpid(), attempt)).string();
+std::string otherName(int attempt) {
+    return fmt::format(".qenxml-{}-{}.tmp", getpid(), attempt);
 }
 
-/// Where symbolic links lead, also when nothing is there yet.
-std::string withoutLinks(const std::string& path) {
-    std::error_code error;
-    std::filesystem::path result = path;
-    // As many as the system follows.
-    for (int i = 0; i < 40 && std::filesystem::is_symlink(result, error); ++i)
-        result = result.parent_path() / std::filesystem::read_symlink(result, error);
-    return result.string();
+/// A mode that gives a group no more rights than everybody has.
+mode_t withoutGroup(mode_t mode) {
+    return (mode & ~static_cast<mode_t>(S_IRWXG)) | (mode & S_IRWXO) << 3U;
 }
 
 } // namespace
 
-OutputFile::OutputFile(const std::string& path) : shownPath_(path), path_(withoutLinks(path)) {
-    constexpr unsigned forEverybody = 0666; // less what the umask takes away
-    struct stat status = {};
-    if (stat(path_.c_str(), &status) != 0)
-        openTemporary(false, forEverybody);
-    else if (S_ISREG(status.st_mode))
-        openTemporary(true, status.st_mode & 07777U);
-    else
-        openDirectly();
-}
-
-void OutputFile::openDirectly() {
-    stream_.reset(std::fopen(path_.c_str(), "we"));
+OutputFile::OutputFile(const std::string& path, FileKind kind) : path_(path), place_(path) {
+    Descriptor file = isDirect() ? place_.openSpecial() : openTemporary(kind);
+    if (file)
+        stream_.reset(fdopen(file.number(), "w"));
     if (!stream_)
         fail(errno);
+    file.release();
 }
 
-void OutputFile::openTemporary(bool replaces, unsigned mode) {
-    // Otherwise a file that is protected against writing could be replaced.
-    if (replaces && access(path_.c_str(), W_OK) != 0)
+Descriptor OutputFile::openTemporary(FileKind kind) {
+    constexpr unsigned forEverybody = 0666; // less what the umask takes away
+    constexpr unsigned forUs = 0600;        // until it gets the mode of the file that it replaces
+    requireReplaceable();
+    const unsigned mode = place_.present() ? forUs : forEverybody;
+    Descriptor file;
+    if (kind == FileKind::Unnamed)
+        file = openUnnamedFile(place_.folder(), ".", mode);
+    return file ? std::move(file) : openNamed(mode);
+}
+
+/// Otherwise a file that is protected against writing could be replaced.
+void OutputFile::requireReplaceable() const {
+    if (place_.present() &&
+        faccessat(place_.folder(), place_.name().c_str(), W_OK, AT_EACCESS) != 0)
         fail(errno);
-    int descriptor = -1;
-    for (int attempt = 0; descriptor < 0 && attempt < attempts; ++attempt) {
-        const std::string name = otherName(path_, attempt);
-        descriptor = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
-        if (descriptor >= 0)
-            temporary_.emplace(name);
-        else if (errno != EEXIST)
-            fail(errno);
+}
+
+Descriptor OutputFile::openNamed(unsigned mode) {
+    Descriptor file;
+    for (int attempt = 0; !file && attempt < attempts; ++attempt) {
+        temporary_.emplace(otherName(attempt), place_.folder());
+        temporary_->make([&](const std::string& name) {
+            file = Descriptor(openat(place_.folder(), name.c_str(),
+                                     O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
+            return static_cast<bool>(file);
+        });
+        if (!file && errno != EEXIST)
+            break;
     }
-    if (descriptor < 0)
-        fail(EEXIST);
-    if (replaces)
-        fchmod(descriptor, mode); // whatever the umask
-    stream_.reset(fdopen(descriptor, "w"));
-    if (!stream_) {
-        const int error = errno;
-        close(descriptor);
-        fail(error);
-    }
+    return file;
 }
 
 void OutputFile::write(std::string_view text) {
@@ -82,18 +74,58 @@ void OutputFile::write(std::string_view text) {
 void OutputFile::commit() {
     if (std::fflush(stream_.get()) != 0)
         fail(errno);
-    if (!temporary_)
+    if (isDirect())
         return;
+    if (place_.present())
+        keepOwnerAndMode();
     if (fsync(fileno(stream_.get())) != 0)
         fail(errno);
+    nameIt();
     if (std::fclose(stream_.release()) != 0)
         fail(errno);
-    if (std::rename(temporary_->path().c_str(), path_.c_str()) != 0)
+    if (renameat(place_.folder(), temporary_->name().c_str(), place_.folder(),
+                 place_.name().c_str()) != 0)
         fail(errno);
     temporary_->release();
 }
 
+void OutputFile::keepOwnerAndMode() {
+    const struct stat& replaced = *place_.present();
+    const int file = fileno(stream_.get());
+    struct stat present = {};
+    if (fstat(file, &present) != 0)
+        fail(errno);
+    mode_t mode = replaced.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO);
+    // The group first: who gives a file away may not change it any more.
+    if (replaced.st_gid != present.st_gid &&
+        fchown(file, static_cast<uid_t>(-1), replaced.st_gid) != 0) {
+        mode = withoutGroup(mode);
+        remark_ = "its group could not be kept, and has no more rights to it than everybody";
+    }
+    if (fchmod(file, mode) != 0 && (present.st_mode & 0777U) != mode)
+        remark_ = "its mode could not be kept";
+    if (replaced.st_uid != present.st_uid &&
+        fchown(file, replaced.st_uid, static_cast<gid_t>(-1)) != 0)
+        remark_ = "it belonged to somebody else, to whom it could not be left; it is yours now";
+}
+
+/// Gives a file without a name one that makes way, as no file can get that of another.
+void OutputFile::nameIt() {
+    const std::string file = Descriptor::path(fileno(stream_.get()));
+    bool made = temporary_.has_value();
+    for (int attempt = 0; !made && attempt < attempts; ++attempt) {
+        temporary_.emplace(otherName(attempt), place_.folder());
+        made = temporary_->make([&](const std::string& name) {
+            return linkat(AT_FDCWD, file.c_str(), place_.folder(), name.c_str(),
+                          AT_SYMLINK_FOLLOW) == 0;
+        });
+        if (!made && errno != EEXIST)
+            break;
+    }
+    if (!made)
+        fail(errno);
+}
+
 void OutputFile::fail(int error) const {
-    throw OutputFileError(fmt::format("{}: cannot be written: {}", shownPath_,
-                                      std::generic_category().message(error)));
+    throw OutputFileError(path_, error);
 }

@@ -7,7 +7,7 @@
 
 #include <CLI/CLI.hpp>
 
-#include "tools/TemporaryName.h"
+#include "tools/InputCopy.h"
 
 /// What names the packages on a command line.
 struct PackageOptions {
@@ -32,8 +32,7 @@ void requireUsable(const PackageOptions& options, const std::string& output = ""
 
 /// One package to read: a file, or the standard input.
 ///
-/// The library reads nothing but files whose name is the UUID of the package, so the standard input
-/// is copied to such a file, which is there as long as this object.
+/// Of the standard input there is a copy as long as this object.
 class PackageInput {
 public:
     /// A file.
@@ -52,13 +51,10 @@ public:
     const std::optional<std::string>& failure() const { return failure_; }
 
 private:
-    void copyStandardInput(const std::string& uuid);
-
     std::string name_;
     std::string path_;
     std::optional<std::string> failure_;
-    std::optional<TemporaryName> folder_;
-    std::optional<TemporaryName> copy_; // removed before its folder
+    std::optional<InputCopy> copy_;
 };
 
 #endif

@@ -7,19 +7,21 @@
 
 #include <unistd.h>
 
+#include "tools/BlockedSignals.h"
+
 namespace {
 
 /// What to remove when a signal comes. A handler may use nothing but lock-free atomics and system
 /// calls; more names than there is room for are left behind then.
-std::array<std::atomic<const char*>, 8> names;
-static_assert(std::atomic<const char*>::is_always_lock_free);
+std::array<std::atomic<const TemporaryName*>, 8> names;
+static_assert(std::atomic<const TemporaryName*>::is_always_lock_free);
 
 void removeNames() {
     // From the last to the first: what is in a folder comes after it.
     for (auto name = names.rbegin(); name != names.rend(); ++name) {
-        const char* path = name->load();
-        if (path != nullptr && unlink(path) != 0)
-            rmdir(path);
+        const TemporaryName* const present = name->load();
+        if (present != nullptr)
+            present->remove();
     }
 }
 
@@ -41,16 +43,16 @@ void handle(int signal) {
 
 void handleSignalsOnce() {
     static const bool done = [] {
-        for (const int signal : {SIGHUP, SIGINT, SIGTERM})
+        for (const int signal : {SIGHUP, SIGINT, SIGQUIT, SIGTERM, SIGXCPU, SIGXFSZ})
             handle(signal);
         return true;
     }();
     static_cast<void>(done);
 }
 
-void replace(const char* present, const char* next) {
-    for (std::atomic<const char*>& name : names) {
-        const char* expected = present;
+void replace(const TemporaryName* present, const TemporaryName* next) {
+    for (std::atomic<const TemporaryName*>& name : names) {
+        const TemporaryName* expected = present;
         if (name.compare_exchange_strong(expected, next))
             return;
     }
@@ -58,20 +60,32 @@ void replace(const char* present, const char* next) {
 
 } // namespace
 
-TemporaryName::TemporaryName(std::string path) : path_(std::move(path)) {
+TemporaryName::TemporaryName(std::string name, int folder)
+    : name_(std::move(name)), folder_(folder) {
     handleSignalsOnce();
-    replace(nullptr, path_.c_str());
 }
 
 TemporaryName::~TemporaryName() {
     if (!owned_)
         return;
-    if (unlink(path_.c_str()) != 0)
-        rmdir(path_.c_str());
+    remove();
     release();
 }
 
+bool TemporaryName::make(const std::function<bool(std::string& name)>& create) {
+    const BlockedSignals blocked;
+    owned_ = create(name_);
+    if (owned_)
+        replace(nullptr, this);
+    return owned_;
+}
+
 void TemporaryName::release() {
-    replace(path_.c_str(), nullptr);
+    replace(this, nullptr);
     owned_ = false;
+}
+
+void TemporaryName::remove() const {
+    if (unlinkat(folder_, name_.c_str(), 0) != 0)
+        unlinkat(folder_, name_.c_str(), AT_REMOVEDIR);
 }
