@@ -37,17 +37,13 @@ struct ExportOptions {
 };
 
 /// Hands a package on, and complains where there is something to say about it.
-///
-/// @return whether all of it was read
-bool exportPackage(const PackageInput& input, bool merge, ExportFormat& format,
-                   MergedGrowers& merged, Console& console) {
-    PackageReading reading = readAndComplain(input, "exported", console);
+void exportPackage(PackageReading& reading, bool merge, ExportFormat& format, MergedGrowers& merged,
+                   Console& console) {
     if (merge)
         merged.add(std::exchange(reading.growers, {}));
     const std::string remark = format.package(reading);
     if (!remark.empty())
         console.complain(fmt::format("{}: {}", escape(reading.name), remark));
-    return !reading.failure;
 }
 
 ExitCode exportPackages(const ExportOptions& options, Console& console) {
@@ -57,11 +53,15 @@ ExitCode exportPackages(const ExportOptions& options, Console& console) {
         formats.at(options.format)([&output](std::string_view text) { output.write(text); });
     MergedGrowers merged;
     ExitCode result = ExitCode::Success;
+    bool anyRead = false;
     format->begin(options.merge);
     for (const std::string& file : options.packages.files) {
-        const PackageInput input(file, options.packages);
-        if (!exportPackage(input, options.merge, *format, merged, console))
+        PackageReading reading =
+            readAndComplain(PackageInput(file, options.packages), "exported", console);
+        if (reading.failure)
             result = ExitCode::Failure;
+        anyRead = anyRead || !isLost(reading);
+        exportPackage(reading, options.merge, *format, merged, console);
     }
     if (options.merge) {
         const std::string remark = format->merged(merged.growers());
@@ -69,7 +69,7 @@ ExitCode exportPackages(const ExportOptions& options, Console& console) {
             console.complain(remark);
     }
     format->end();
-    output.finish();
+    output.finish(anyRead);
     return result;
 }
 

@@ -1,5 +1,9 @@
 #include "tools/Output.h"
 
+#include <fmt/format.h>
+
+#include "tools/Escape.h"
+
 void addOutputOption(CLI::App& parser, std::string& path) {
     parser
         .add_option("-o,--output", path,
@@ -7,7 +11,7 @@ void addOutputOption(CLI::App& parser, std::string& path) {
         ->option_text("OUT");
 }
 
-Output::Output(const std::string& path, Console& console) : console_(console) {
+Output::Output(const std::string& path, Console& console) : path_(path), console_(console) {
     if (!path.empty() && path != "-")
         file_.emplace(path);
 }
@@ -19,9 +23,19 @@ void Output::write(std::string_view text) {
         console_.print(text);
 }
 
-void Output::finish() {
-    if (file_)
-        file_->commit();
-    else
+void Output::finish(bool anyRead) {
+    if (!file_)
         console_.flush();
+    else if (anyRead || file_->isDirect())
+        finishFile();
+    else
+        console_.complain(fmt::format(
+            "{}: not written, as no package could be read; a file that is there has not changed",
+            escape(path_)));
+}
+
+void Output::finishFile() {
+    file_->commit();
+    if (!file_->remark().empty())
+        console_.complain(fmt::format("{}: {}", escape(path_), file_->remark()));
 }

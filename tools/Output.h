@@ -29,10 +29,15 @@ public:
 
     /// Says that all is written. Without it no file is left.
     ///
+    /// @param anyRead whether any package could be read. If not, a file stays as it was: to lose
+    ///                it for nothing is what nobody wants whose stick is not mounted.
     /// @throws OutputError, OutputFileError
-    void finish();
+    void finish(bool anyRead);
 
 private:
+    void finishFile();
+
+    std::string path_;
     Console& console_;
     std::optional<OutputFile> file_;
 };

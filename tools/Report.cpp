@@ -48,14 +48,16 @@ ExitCode report(const ReportOptions& options, Console& console) {
     requireUsable(options.packages, options.output);
     Output output(options.output, console);
     ExitCode result = ExitCode::Success;
+    bool anyRead = false;
     std::vector<ReportPackage> packages;
     for (const std::string& file : options.packages.files) {
         packages.push_back(examine(PackageInput(file, options.packages), console));
         if (!isWhole(packages.back()))
             result = ExitCode::Failure;
+        anyRead = anyRead || isReadable(packages.back());
     }
     writeReport(packages, [&output](std::string_view text) { output.write(text); });
-    output.finish();
+    output.finish(anyRead);
     return result;
 }
 

@@ -2,13 +2,34 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include "tools/CommandLine.h"
 
+namespace {
+
+/// Takes the place of closed standard streams, lest a file that is opened later gets it, and with
+/// it the messages. Reading and writing them still fails.
+bool occupyStandardStreams() {
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        const int direction = stream == STDIN_FILENO ? O_WRONLY : O_RDONLY;
+        if (fcntl(stream, F_GETFD) < 0 && open("/dev/null", direction | O_CLOEXEC) != stream)
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
-    // When the reader of a pipe is gone, writing shall fail, not end the process.
+    if (!occupyStandardStreams())
+        return static_cast<int>(ExitCode::Failure);
+
+    // When the reader of a pipe is gone, or a file as large as it may be, writing shall fail, not
+    // end the process.
     std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
 
     // NOLINTBEGIN(concurrency-mt-unsafe): there is one thread
     const bool coloured =

@@ -1,18 +1,18 @@
 // Runs the built command where it writes to a file, or reads what is not among the samples.
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include "tests/support/FileFacts.h"
 #include "tests/support/PackageText.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/tools/RunCommand.h"
 
+using test::contentOf;
 using test::RunOptions;
 using test::RunResult;
 
@@ -23,13 +23,6 @@ const std::vector<std::vector<std::string>> commands = {{"export", "--format", "
                                                         {"export", "--format", "csv"},
                                                         {"export", "--format", "geojson"},
                                                         {"report"}};
-
-std::string contentOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream content;
-    content << file.rdbuf();
-    return content.str();
-}
 
 /// export and report: what they have in common.
 class WritingCommand : public testing::Test {
@@ -93,6 +86,112 @@ TEST_F(WritingCommand, RefusesToReplaceAPackageThatItReads) {
             EXPECT_EQ(run(command, {"-o", output, name}).exitCode, 2);
             EXPECT_EQ(contentOf(folder_.path(name)), package);
         }
+    }
+}
+
+TEST_F(WritingCommand, RefusesToReplaceThePackageOnItsStandardInput) {
+    RunOptions options;
+    options.input = folder_.write("in.xml", package);
+    std::filesystem::create_symlink("in.xml", folder_.path("link"));
+    std::filesystem::create_hard_link(folder_.path("in.xml"), folder_.path("other"));
+    for (const std::vector<std::string>& command : commands) {
+        for (const std::string output : {"in.xml", "link", "other"}) {
+            const RunResult result =
+                run(command, {"-o", output, "--uuid", name.substr(0, 36), "-"}, options);
+            EXPECT_NE(result.errors.find("the output would replace a package that is to be read"),
+                      std::string::npos);
+            EXPECT_EQ(result.exitCode, 2);
+            EXPECT_EQ(contentOf(folder_.path("in.xml")), package);
+        }
+    }
+}
+
+TEST_F(WritingCommand, LeavesThePresentFileWhenNoPackageCanBeRead) {
+    folder_.write("out", "old");
+    std::filesystem::create_directory(folder_.path("folder"));
+    for (const std::vector<std::string>& command : commands) {
+        for (const std::string output : {"out", "new"}) {
+            const RunResult result = run(command, {"-o", output, "missing.xml", "folder"});
+            EXPECT_EQ(result.errors,
+                      "qenxml: missing.xml: not found; the file is skipped\n"
+                      "qenxml: folder: is a directory; the file is skipped\n"
+                      "qenxml: " +
+                          output +
+                          ": not written, as no package could be read; a file that is there has "
+                          "not changed\n");
+            EXPECT_EQ(result.exitCode, 1);
+        }
+        EXPECT_EQ(contentOf(folder_.path("out")), "old");
+        EXPECT_FALSE(std::filesystem::exists(folder_.path("new")));
+    }
+}
+
+TEST_F(WritingCommand, ReplacesThePresentFileByAPageAboutABrokenPackage) {
+    folder_.write("out", "old");
+    folder_.write(name, "<RecPackage><Grower");
+    EXPECT_EQ(run({"export", "--format", "csv"}, {"-o", "out", name}).exitCode, 1);
+    EXPECT_EQ(contentOf(folder_.path("out")), "old");
+    EXPECT_EQ(run({"report"}, {"-o", "out", name}).exitCode, 1);
+    EXPECT_NE(contentOf(folder_.path("out")).find("not well-formed"), std::string::npos);
+}
+
+TEST_F(WritingCommand, WritesToWhatTheStandardOutputIs) {
+    folder_.write(name, package);
+    for (const std::vector<std::string>& command : commands) {
+        const std::string printed = run(command, {name}).output;
+        EXPECT_EQ(run(command, {"-o", "/dev/stdout", name}).output, printed);
+        RunOptions options;
+        options.appendTo = folder_.write("log", "before\n");
+        EXPECT_EQ(run(command, {"-o", "/dev/stdout", name}, options).exitCode, 0);
+        EXPECT_EQ(contentOf(folder_.path("log")), "before\n" + printed);
+    }
+}
+
+TEST_F(WritingCommand, KeepsMessagesOutOfTheOutputWhereStandardStreamsAreClosed) {
+    folder_.write(name, package);
+    for (const std::vector<std::string>& command : commands) {
+        const std::string printed = run(command, {name}).output;
+        for (const std::vector<int>& closed :
+             std::vector<std::vector<int>>{{2}, {1, 2}, {0, 1, 2}}) {
+            RunOptions options;
+            options.closed = closed;
+            EXPECT_EQ(run(command, {"-o", "out", "missing.xml", name}, options).exitCode, 1);
+            const std::string content = contentOf(folder_.path("out"));
+            EXPECT_EQ(content.find("qenxml: "), std::string::npos);
+            EXPECT_EQ(run(command, {"-o", "out", name}, options).exitCode, 0);
+            EXPECT_EQ(contentOf(folder_.path("out")), printed);
+        }
+    }
+}
+
+TEST_F(WritingCommand, FailsWhereTheOutputIsClosed) {
+    folder_.write(name, package);
+    RunOptions options;
+    options.closed = {1};
+    for (const std::vector<std::string>& command : commands) {
+        const RunResult result = run(command, {name}, options);
+        EXPECT_NE(
+            result.errors.find("qenxml: the output could not be written: Bad file descriptor"),
+            std::string::npos);
+        EXPECT_EQ(result.exitCode, 1);
+    }
+}
+
+TEST_F(WritingCommand, LeavesNothingBehindWhenTheOutputIsTooLarge) {
+    std::string recs;
+    for (unsigned i = 0; i < 100; ++i)
+        recs += test::rec(1000 + i);
+    folder_.write(name, test::package(test::grower(
+                            1, test::farm(2, test::field(3, test::recommendations(recs))))));
+    folder_.write("out", "old");
+    RunOptions options;
+    options.fileSize = 5000;
+    for (const std::vector<std::string>& command : {commands[0], commands[1], commands[3]}) {
+        const RunResult result = run(command, {"-o", "out", name}, options);
+        EXPECT_EQ(result.errors, "qenxml: out: cannot be written: File too large\n");
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_EQ(contentOf(folder_.path("out")), "old");
+        EXPECT_EQ(test::namesIn(folder_.path("")), (std::vector<std::string>{name, "out"}));
     }
 }
 

@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <future>
+#include <optional>
 #include <stdexcept>
 #include <system_error>
 #include <utility>
@@ -11,6 +12,7 @@
 #include <fcntl.h>
 #include <pty.h>
 #include <spawn.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <termios.h>
 #include <unistd.h>
@@ -24,12 +26,13 @@ void require(bool success, const char* what) {
         throw std::system_error(errno, std::generic_category(), what);
 }
 
-/// A file descriptor that is not inherited by commands.
+/// A file descriptor that is not inherited by commands, and none of the standard streams, which
+/// take other places there, also when the tests themselves run without some of them.
 class Descriptor {
 public:
-    explicit Descriptor(int number = -1) : number_(number) {
+    explicit Descriptor(int number = -1) : number_(fcntl(number, F_DUPFD_CLOEXEC, 3)) {
         if (number >= 0)
-            fcntl(number, F_SETFD, FD_CLOEXEC);
+            close(number);
     }
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
@@ -99,6 +102,22 @@ std::string readAll(int descriptor) {
     return text;
 }
 
+/// While it exists, what this process starts may write files of a certain size only.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(std::optional<rlim_t> size) {
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit limit = {size.value_or(before_.rlim_cur), before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+    ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &before_); }
+
+private:
+    rlimit before_ = {};
+};
+
 std::vector<char*> pointers(std::vector<std::string>& texts) {
     std::vector<char*> result;
     result.reserve(texts.size() + 1);
@@ -123,13 +142,22 @@ RunResult runCommand(const std::vector<std::string>& arguments, const RunOptions
     posix_spawn_file_actions_adddup2(
         &actions, together ? errors.writer.number() : output.writer.number(), STDOUT_FILENO);
     posix_spawn_file_actions_adddup2(&actions, errors.writer.number(), STDERR_FILENO);
+    if (!options.appendTo.empty())
+        posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, options.appendTo.c_str(),
+                                         O_WRONLY | O_APPEND, 0);
+    for (const int stream : options.closed)
+        posix_spawn_file_actions_addclose(&actions, stream);
 
     std::vector<std::string> words = {QENXML_COMMAND}; // behind the emulator, if there is one
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<std::string> environment = options.environment;
     pid_t process = 0;
-    const int failure = posix_spawnp(&process, words.front().c_str(), &actions, nullptr,
-                                     pointers(words).data(), pointers(environment).data());
+    int failure = 0;
+    {
+        const FileSizeLimit limit(options.fileSize);
+        failure = posix_spawnp(&process, words.front().c_str(), &actions, nullptr,
+                               pointers(words).data(), pointers(environment).data());
+    }
     posix_spawn_file_actions_destroy(&actions);
     if (failure != 0)
         throw std::system_error(failure, std::generic_category(), words.front());

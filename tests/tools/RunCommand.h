@@ -4,8 +4,11 @@
 #ifndef QENXML_TESTS_TOOLS_RUNCOMMAND_H
 #define QENXML_TESTS_TOOLS_RUNCOMMAND_H
 
+#include <optional>
 #include <string>
 #include <vector>
+
+#include <sys/resource.h>
 
 namespace test {
 
@@ -23,6 +26,9 @@ struct RunOptions {
     std::vector<std::string> environment; ///< Its whole environment, as NAME=VALUE.
     std::string input = "/dev/null";      ///< The file that is its standard input.
     Output output = Output::File;
+    std::string appendTo;           ///< A file that its standard output is appended to instead.
+    std::vector<int> closed;        ///< Standard streams that it does not get, by number.
+    std::optional<rlim_t> fileSize; ///< The largest file that it may write.
 };
 
 struct RunResult {

@@ -48,6 +48,10 @@ bool isWhole(const ReportPackage& package) {
     return !package.reading.failure && package.findings.number(Severity::Error) == 0;
 }
 
+bool isReadable(const ReportPackage& package) {
+    return !isLost(package.reading) || package.findings.number(FindingCode::Unreadable) == 0;
+}
+
 bool ProductUnit::operator<(const ProductUnit& other) const {
     const bool none = kind.empty();
     const bool otherNone = other.kind.empty();

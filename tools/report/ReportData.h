@@ -37,6 +37,7 @@ public:
     const std::vector<Finding>& kept() const { return kept_; }
 
     std::size_t number(Severity severity) const;
+    std::size_t number(FindingCode code) const { return counts_[static_cast<std::size_t>(code)]; }
     std::size_t number() const;
 
 private:
@@ -53,6 +54,9 @@ struct ReportPackage {
 
 /// Whether all of it was read and checked.
 bool isWhole(const ReportPackage& package);
+
+/// Whether there is a file that could be read or checked, be it a broken one.
+bool isReadable(const ReportPackage& package);
 
 /// A product, and the unit in which its total is given.
 struct ProductUnit {
