@@ -31,8 +31,12 @@ const std::vector<CommandWithConsequence> commands = {
     {{"show"}, "qenxml: -: ", skipped},
     {{"export", "--format", "csv"}, "qenxml: -: ", skipped},
     {{"report"}, "qenxml: -: ", skipped},
-    {{"check"}, "-: error: ", " [unreadable]\n  so:    nothing of the package is read\n"},
-    {{"check", "--json"}, "\"found\":\"", "\",\"consequence\":\"nothing of the package is read\"}"},
+    {{"check"},
+     "-: error: ",
+     " [unreadable]\n  so:    nothing of the package is read\n\n-: 1 error\n"},
+    {{"check", "--json"},
+     "\"found\":\"",
+     "\",\"consequence\":\"nothing of the package is read\"}],\n   \"errors\": 1, "},
 };
 
 class StandardInput : public testing::Test {
@@ -78,6 +82,15 @@ TEST_F(StandardInput, ThatIsAFolderIsNotRead) {
     RunOptions options;
     options.input = folder_.path("");
     expectFailure("is a directory", options);
+}
+
+TEST_F(StandardInput, ThatIsNotReadIsNoFindingWhenNobodyWantsIt) {
+    RunOptions options;
+    options.input = folder_.path("");
+    const RunResult result = run({"check", "--json", "--ignore", "unreadable"}, options);
+    EXPECT_EQ(result.output, "{\"files\": [\n  {\"file\": \"-\", \"findings\": [],\n"
+                             "   \"errors\": 0, \"warnings\": 0, \"notes\": 0}],\n"
+                             " \"errors\": 0, \"warnings\": 0, \"notes\": 0}\n");
 }
 
 TEST_F(StandardInput, ThatIsClosedIsNotRead) {

@@ -5,16 +5,22 @@
 #include <cstdio>
 #include <cstdlib>
 #include <limits>
+#include <new>
 #include <string>
 #include <vector>
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "tests/robustness/NumberPackage.h"
 #include "tests/robustness/WatchedMemory.h"
+#include "tests/support/FileFacts.h"
 #include "tests/support/PackageText.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tools/CommandLine.h"
+#include "tools/InputCopy.h"
+#include "tools/OutputFile.h"
 
 namespace {
 
@@ -113,5 +119,58 @@ INSTANTIATE_TEST_SUITE_P(Commands, MemoryShortage,
                                  name += word.substr(word.find_first_not_of('-'));
                              return name;
                          });
+
+class MemoryShortageOf : public testing::TestWithParam<FileKind> {};
+
+INSTANTIATE_TEST_SUITE_P(Kinds, MemoryShortageOf,
+                         testing::Values(FileKind::Unnamed, FileKind::Named), [](const auto& kind) {
+                             return kind.param == FileKind::Named ? "Named" : "Unnamed";
+                         });
+
+TEST_P(MemoryShortageOf, LeavesTheOutputWhatItWasOrIsAndNothingElse) {
+    const test::TemporaryFolder folder;
+    const std::string path = folder.path("out");
+    bool failed = true;
+    for (std::size_t point = 1; failed && !HasFailure(); ++point) {
+        folder.write("out", "old");
+        test::AllocationCounts counts;
+        bool written = false;
+        try {
+            const test::FailingAllocations armed(point, test::Failing::FromThenOn, counts);
+            OutputFile file(path, GetParam());
+            file.write("new");
+            file.commit();
+            written = true;
+        } catch (const std::bad_alloc&) {
+            written = false;
+        }
+        failed = counts.failedCpp > 0;
+        EXPECT_EQ(written, !failed) << point;
+        EXPECT_EQ(test::contentOf(path), written ? "new" : "old") << point;
+        EXPECT_EQ(test::namesIn(folder.path("")), std::vector<std::string>{"out"}) << point;
+    }
+}
+
+TEST_P(MemoryShortageOf, LeavesNoCopyOfTheStandardInput) {
+    const test::TemporaryFolder folder;
+    setenv("TMPDIR", folder.path("").c_str(), 1);
+    const Descriptor before(dup(STDIN_FILENO));
+    dup2(open("/dev/null", O_RDONLY | O_CLOEXEC), STDIN_FILENO);
+    bool failed = true;
+    for (std::size_t point = 1; failed && !HasFailure(); ++point) {
+        test::AllocationCounts counts;
+        try {
+            const std::string uuid = "aaaaaaaa-0000-4000-8000-000000000001";
+            const test::FailingAllocations armed(point, test::Failing::FromThenOn, counts);
+            const InputCopy copy(uuid, GetParam());
+        } catch (const std::bad_alloc&) {
+            EXPECT_GT(counts.failedCpp, 0U);
+        }
+        failed = counts.failedCpp > 0;
+        EXPECT_EQ(test::namesIn(folder.path("")), std::vector<std::string>{}) << point;
+    }
+    dup2(before.number(), STDIN_FILENO);
+    unsetenv("TMPDIR");
+}
 
 } // namespace
