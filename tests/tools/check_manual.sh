@@ -28,7 +28,9 @@ check_page() { # NAME [COMMAND]
         grep -qx "\.Sh $section" "$page" || fail "$1 has no section $section"
     done
     for option in $(listed Options "${@:2}"); do
-        mandoc -Tutf8 "$page" | sed 's/.\x08//g' | grep -qEe "(^|[ ,[])$option([] ,=]|\$)" ||
+        # Not grep -q, which ends before it has read all, and fails the pipe with it.
+        mandoc -Tutf8 "$page" | sed 's/.\x08//g' |
+            grep -Ee "(^|[ ,[])$option([] ,=]|\$)" >/dev/null ||
             fail "$1 does not explain $option"
     done
 }
