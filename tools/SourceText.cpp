@@ -140,13 +140,28 @@ SourceText::SourceText(std::string bytes) : utf8_(toUtf8(std::move(bytes))) {
     }
 }
 
+std::string_view SourceText::declaredEncoding() const {
+    constexpr std::string_view attribute = "encoding";
+    std::string_view text = std::string_view(utf8_).substr(startOf(utf8_));
+    if (text.substr(0, 5) != "<?xml")
+        return {};
+    text = text.substr(0, text.find("?>"));
+    const std::size_t name = text.find(attribute);
+    const std::size_t begin = text.find_first_of("\"'", name);
+    if (name == std::string_view::npos || begin == std::string_view::npos)
+        return {};
+    text.remove_prefix(begin + 1);
+    return text.substr(0, text.find_first_of("\"'"));
+}
+
 pugi::xml_parse_result SourceText::load(pugi::xml_document& document) const {
     return document.load_buffer(utf8_.data(), utf8_.size(), pugi::parse_default,
                                 pugi::encoding_utf8);
 }
 
 Position SourceText::position(std::size_t offset) const {
-    const std::string_view before = std::string_view(utf8_).substr(0, offset);
+    const std::string_view text = utf8_;
+    const std::string_view before = text.substr(0, characterStart(text, offset));
     const auto after =
         std::upper_bound(marks_.begin(), marks_.end(), before.size(),
                          [](std::size_t wanted, const Mark& mark) { return wanted < mark.offset; });
@@ -160,7 +175,13 @@ std::size_t SourceText::offset(pugi::xml_node node) const {
     const auto offset = static_cast<std::size_t>(std::max<std::ptrdiff_t>(node.offset_debug(), 0));
     if (node.type() == pugi::node_element)
         return offset - 1; // pugixml points at the name
-    return std::min(utf8_.find_first_not_of(" \t\r\n", offset), utf8_.size());
+    constexpr const char* whiteSpace = " \t\r\n";
+    const bool blank =
+        std::string_view(node.value()).find_first_not_of(whiteSpace) == std::string_view::npos;
+    // A text of white space only stands in a CDATA section, or is written as "&#32;".
+    if (blank && node.type() == pugi::node_cdata)
+        return offset;
+    return std::min(utf8_.find_first_not_of(whiteSpace, offset), utf8_.size());
 }
 
 Excerpt SourceText::excerpt(std::size_t offset) const {
@@ -168,7 +189,7 @@ Excerpt SourceText::excerpt(std::size_t offset) const {
     constexpr std::size_t before = 60; // of them before the place
     constexpr std::string_view more = "...";
     const std::string_view text = utf8_;
-    offset = std::clamp(offset, startOf(text), text.size());
+    offset = characterStart(text, std::clamp(offset, startOf(text), text.size()));
     std::size_t begin = offset;
     while (begin > startOf(text) && offset - begin < before && !endsLine(text[begin - 1]))
         --begin;

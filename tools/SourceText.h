@@ -30,6 +30,10 @@ public:
     /// The text in UTF-8, with the byte-order mark if there is one.
     std::string_view text() const { return utf8_; }
 
+    /// The encoding that the XML declaration names; empty when it names none. pugixml does not know
+    /// each of them, and takes the text for UTF-8 then.
+    std::string_view declaredEncoding() const;
+
     /// Loads the text as the library loads package files, so that offsets in the document are
     /// offsets into this text.
     pugi::xml_parse_result load(pugi::xml_document& document) const;

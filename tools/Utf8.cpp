@@ -23,6 +23,15 @@ Utf8Character firstCharacter(std::string_view text) {
     return {codePoint, length, true};
 }
 
+std::size_t characterStart(std::string_view text, std::size_t place) {
+    constexpr std::size_t longest = 4;
+    for (std::size_t back = 1; back < longest && back <= place && place < text.size(); ++back) {
+        if (firstCharacter(text.substr(place - back)).length > back)
+            return place - back;
+    }
+    return place;
+}
+
 std::string validUtf8(std::string_view text) {
     constexpr std::string_view replacement = "\xEF\xBF\xBD";
     std::string result;

@@ -134,9 +134,39 @@ TEST(SourceText, CountsTheSameFromEveryPlaceOfALongText) {
         bytes += i % 7 == 0 ? "\r\n" : i % 11 == 0 ? "\r" : i % 5 == 0 ? "\n" : "a\u00e9\u20ac\xFF";
     const SourceText text(bytes);
     // As the long text does, but without anything to start from in the middle.
-    for (std::size_t offset = 3; offset <= bytes.size(); ++offset)
+    for (std::size_t offset = 3; offset <= bytes.size(); ++offset) {
+        if (offset < bytes.size() && (static_cast<unsigned char>(bytes[offset]) & 0xC0U) == 0x80)
+            continue; // within a character
         EXPECT_EQ(text.position(offset), SourceText(bytes.substr(0, offset)).position(offset))
             << offset;
+    }
+}
+
+TEST(SourceText, TakesAPlaceInACharacterForItsBeginning) {
+    const SourceText text("<a>\u00e9\u20ac\U0001F600x");
+    for (const std::size_t offset : {3U, 4U})
+        EXPECT_EQ(text.position(offset), (Position{1, 4})) << offset;
+    for (const std::size_t offset : {5U, 6U, 7U})
+        EXPECT_EQ(text.position(offset), (Position{1, 5})) << offset;
+    for (const std::size_t offset : {8U, 9U, 10U, 11U})
+        EXPECT_EQ(text.position(offset), (Position{1, 6})) << offset;
+    EXPECT_EQ(text.position(12), (Position{1, 7}));
+    EXPECT_EQ(text.excerpt(4).line, "<a>\u00e9\u20ac\U0001F600x");
+    EXPECT_EQ(text.excerpt(4).caret, 3U);
+    EXPECT_EQ(text.excerpt(11).caret, 5U);
+}
+
+TEST(SourceText, KnowsWhichEncodingIsDeclared) {
+    const auto declared = [](const std::string& bytes) {
+        return std::string(SourceText(bytes).declaredEncoding());
+    };
+    EXPECT_EQ(declared("<?xml version=\"1.0\" encoding=\"windows-1252\"?><a/>"), "windows-1252");
+    EXPECT_EQ(declared("\xEF\xBB\xBF<?xml version='1.0' encoding = 'UTF-8' ?><a/>"), "UTF-8");
+    EXPECT_EQ(declared(utf16(u"<?xml version='1.0' encoding='UTF-16'?><a/>", true)), "UTF-16");
+    EXPECT_EQ(declared("<?xml version='1.0'?><a encoding='x'/>"), "");
+    EXPECT_EQ(declared("<a encoding='x'/>"), "");
+    EXPECT_EQ(declared("<?xml encoding=x"), "");
+    EXPECT_EQ(declared(""), "");
 }
 
 TEST(SourceText, ShowsALineWithItsPlace) {
@@ -200,6 +230,15 @@ TEST(SourceText, FindsTextsAtTheirFirstCharacter) {
     const pugi::xml_node stray = document.child("a").child("b").next_sibling();
     EXPECT_EQ(text.position(stray), (Position{2, 3}));
     EXPECT_EQ(text.position(stray.next_sibling()), (Position{2, 17}));
+}
+
+TEST(SourceText, FindsABlankTextWhereItBegins) {
+    const SourceText text("<a>\n &#32;<b/><![CDATA[ ]]></a>");
+    pugi::xml_document document;
+    ASSERT_TRUE(text.load(document));
+    const pugi::xml_node a = document.child("a");
+    EXPECT_EQ(text.position(a.first_child()), (Position{2, 2}));
+    EXPECT_EQ(text.position(a.last_child()), (Position{2, 20}));
 }
 
 } // namespace

@@ -44,4 +44,16 @@ TEST(Utf8, TakesAnInvalidByteAlone) {
     EXPECT_FALSE(character.valid);
 }
 
+TEST(Utf8, FindsWhereACharacterBegins) {
+    const std::string text = "a\u00e9\u20ac\U0001F600";
+    const std::vector<std::size_t> starts = {0, 1, 1, 3, 3, 3, 6, 6, 6, 6, 10, 11};
+    for (std::size_t place = 0; place < starts.size(); ++place)
+        EXPECT_EQ(characterStart(text, place), starts[place]) << place;
+    // Bytes that belong to no character stand for themselves.
+    EXPECT_EQ(characterStart("\xE2\x82z", 1), 1U);
+    EXPECT_EQ(characterStart("\u00e9\x80", 2), 2U);
+    EXPECT_EQ(characterStart("\x80", 0), 0U);
+    EXPECT_EQ(characterStart("", 0), 0U);
+}
+
 } // namespace

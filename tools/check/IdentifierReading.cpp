@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "tools/Escape.h"
+#include "tools/Utf8.h"
 
 namespace {
 
@@ -47,7 +48,7 @@ public:
             return fail(Fault::BraceMissing);
         const std::string_view rest = text_.substr(place_);
         if (rest.find_first_not_of(whiteSpace) != std::string_view::npos)
-            result_.ignored = rest;
+            result_.ignored = text_.substr(characterStart(text_, place_));
         return result_;
     }
 
@@ -60,7 +61,8 @@ private:
 
     unsigned digit() {
         const unsigned value = digitValue(text_[place_]);
-        if (value > 15 && result_.wrongDigits++ == 0)
+        const bool wrong = value > 15 && characterStart(text_, place_) == place_;
+        if (wrong && result_.wrongDigits++ == 0)
             result_.wrongPlace = place_;
         ++place_;
         ++result_.digits;
