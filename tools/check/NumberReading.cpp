@@ -22,7 +22,10 @@ const char* unsignedPart(const char* text) {
 
 bool isHexadecimal(const char* text) {
     const char* const number = unsignedPart(text);
-    return number[0] == '0' && (number[1] == 'x' || number[1] == 'X');
+    if (number[0] != '0' || (number[1] != 'x' && number[1] != 'X'))
+        return false;
+    const char* const digits = number[2] == '.' ? number + 3 : number + 2;
+    return std::strspn(digits, hexadecimalDigits) > 0;
 }
 
 /// How many characters of a text the library takes for a whole number.
@@ -70,6 +73,10 @@ void findOddity(NumberReading& number, const char* text, std::size_t length, boo
     } else if (isHexadecimal(text)) {
         number.oddity = NumberReading::Oddity::Hexadecimal;
     }
+    const bool ofAll = number.oddity != NumberReading::Oddity::None &&
+                       number.oddity != NumberReading::Oddity::CutOff;
+    if (ofAll && isRest(text))
+        number.place = std::strspn(text, whiteSpace);
 }
 
 /// Whether a text that is read as 0 or as infinity says so.

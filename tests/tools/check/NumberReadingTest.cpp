@@ -42,6 +42,18 @@ TEST(NumberReading, FindsWhatIsOddAboutANumber) {
         {"-Infinity", Oddity::NotFinite, "-inf"},
         {"nan", Oddity::NotFinite, "nan"},
         {"0x1F", Oddity::Hexadecimal, "31"},
+        {"0x.8", Oddity::Hexadecimal, "0.5"},
+        {"0x", Oddity::CutOff, "0", 1},
+        {"0xg", Oddity::CutOff, "0", 1},
+        {"0x.", Oddity::CutOff, "0", 1},
+        {"0x0p9", Oddity::Hexadecimal, "0"},
+        {"0x1p-9999", Oddity::OutOfRange, "0"},
+        {"\n   n/a", Oddity::NotANumber, "0", 4},
+        {" \t1e999 ", Oddity::OutOfRange, "inf", 2},
+        {"\r\ninf", Oddity::NotFinite, "inf", 2},
+        {"  0x1F", Oddity::Hexadecimal, "31", 2},
+        {"  12,5", Oddity::CutOff, "12", 4},
+        {"  ", Oddity::NotANumber, "0"},
     };
     for (const Case& expected : cases) {
         const NumberReading number = readNumber(expected.text.c_str());
@@ -68,6 +80,13 @@ TEST(NumberReading, FindsWhatIsOddAboutAWholeNumber) {
         {"-99999999999", Oddity::OutOfRange, "-2147483648"},
         {"0x10", Oddity::Hexadecimal, "16"},
         {"-0X10", Oddity::Hexadecimal, "-16"},
+        {"0x", Oddity::CutOff, "0", 1},
+        {"-0x", Oddity::CutOff, "0", 2},
+        {"0x.8", Oddity::CutOff, "0", 2},
+        {"0xg", Oddity::CutOff, "0", 1},
+        {"0x80000000", Oddity::OutOfRange, "2147483647"},
+        {"\n x", Oddity::NotANumber, "0", 2},
+        {" 2147483648", Oddity::OutOfRange, "2147483647", 1},
     };
     for (const Case& expected : cases) {
         const NumberReading number = readInteger(expected.text.c_str());
