@@ -18,6 +18,7 @@ void CheckReport::send(FindingCode code, std::size_t offset, std::string_view st
 }
 
 void CheckReport::noteError(std::size_t offset) {
+    ++errors_;
     if (firstError_)
         return;
     firstError_ = offset;
@@ -32,9 +33,11 @@ std::string CheckReport::errorConsequence() const {
                            "that alone",
                            line(*firstError_));
     if (firstError_)
-        return fmt::format("reading ends before this, because of line {}; once that is mended, it "
-                           "ends here",
-                           line(*firstError_));
+        return fmt::format("reading ends before this, because of line {}; once {} mended, it ends "
+                           "here",
+                           line(*firstError_),
+                           errors_ == 1 ? "that is"
+                                        : fmt::format("the {} errors before it are", errors_));
     const std::size_t before = grower_ - 1;
     const std::string kept = before == 0   ? "; no grower is"
                              : before == 1 ? "; the grower before it is"

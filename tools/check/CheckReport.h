@@ -24,7 +24,9 @@ public:
 
     const SourceText& source() const { return source_; }
 
-    /// Adds a finding about the element that the check is in, or about something in it.
+    /// Adds a finding about the element that the check is in, or about something in it. Findings
+    /// come in the order of their places: they are handed on at once, as there may be more of them
+    /// than fit into memory.
     ///
     /// @param offset    where it is in the source
     /// @param step      the last step of the path, such as "@RecID"; empty for the element itself
@@ -97,6 +99,7 @@ private:
     std::vector<std::pair<const char*, std::size_t>> path_;
     std::vector<std::pair<const char*, const char*>> records_;
     std::size_t grower_ = 0; ///< Number of the grower, from 1.
+    std::size_t errors_ = 0;
     std::optional<std::size_t> firstError_;
     std::size_t growerOfFirstError_ = 0;
 };
