@@ -1,5 +1,7 @@
 #include "tools/check/FindingSummary.h"
 
+#include <algorithm>
+
 #include <fmt/format.h>
 
 namespace {
@@ -81,8 +83,7 @@ std::string describe(const FindingCounts& counts) {
 }
 
 void FindingSummary::count(FindingCode code) {
-    last_ = static_cast<std::size_t>(code);
-    ++groups_[last_].count;
+    ++groups_[static_cast<std::size_t>(code)].count;
     counts_.add(kindOf(code).severity);
 }
 
@@ -91,7 +92,10 @@ bool FindingSummary::hasRoom(FindingCode code) const {
 }
 
 void FindingSummary::keep(const Finding& finding) {
-    groups_[last_].first.push_back(finding);
+    const auto kind =
+        std::find_if(findingKinds.begin(), findingKinds.end(),
+                     [&](const FindingKind& wanted) { return finding.code == wanted.code; });
+    groups_.at(static_cast<std::size_t>(kind - findingKinds.begin())).first.push_back(finding);
 }
 
 std::string FindingSummary::text(const std::string& file, const Style& style) const {

@@ -32,7 +32,7 @@ public:
     /// Whether there is room for one more of a code that was counted.
     bool hasRoom(FindingCode code) const;
 
-    /// Keeps a finding of the code that was counted last.
+    /// Keeps a finding that was counted.
     void keep(const Finding& finding);
 
     const FindingCounts& counts() const { return counts_; }
@@ -51,7 +51,6 @@ private:
     std::string groupText(const std::string& file, const Style& style, std::size_t code) const;
 
     std::array<Group, findingKinds.size()> groups_;
-    std::size_t last_ = 0;
     FindingCounts counts_;
 };
 

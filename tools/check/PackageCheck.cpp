@@ -1,8 +1,14 @@
 #include "tools/check/PackageCheck.h"
 
+#include <cstddef>
+#include <locale>
 #include <new>
+#include <optional>
+#include <string_view>
 #include <utility>
 
+#include <boost/algorithm/string/predicate.hpp>
+#include <boost/uuid/uuid_io.hpp>
 #include <fmt/format.h>
 
 #include "tools/Escape.h"
@@ -11,8 +17,6 @@
 #include "tools/Utf8.h"
 #include "tools/check/OpenElement.h"
 #include "tools/check/PackageWalk.h"
-
-#include <boost/uuid/uuid_io.hpp>
 
 namespace {
 
@@ -40,11 +44,9 @@ void addAboutFile(FindingSink& sink, FindingCode code, std::string found, std::s
     sink.add(finding);
 }
 
-/// Adds a finding about a place that is in no element.
-void addAboutPlace(FindingSink& sink, FindingCode code, const SourceText& source,
-                   std::size_t offset, std::string found, std::string consequence) {
-    if (!sink.wants(code))
-        return;
+/// A finding about a place that is in no element.
+Finding findingAt(FindingCode code, const SourceText& source, std::size_t offset, std::string found,
+                  std::string consequence) {
     Finding finding;
     finding.code = kindOf(code).code;
     finding.severity = kindOf(code).severity;
@@ -52,7 +54,7 @@ void addAboutPlace(FindingSink& sink, FindingCode code, const SourceText& source
     finding.excerpt = source.excerpt(offset);
     finding.found = std::move(found);
     finding.consequence = std::move(consequence);
-    sink.add(finding);
+    return finding;
 }
 
 void checkName(const std::string& path, FindingSink& sink) {
@@ -74,8 +76,8 @@ void checkName(const std::string& path, FindingSink& sink) {
                      "the recs carry the package UUID " + to_string(*uuid));
 }
 
-void checkUtf8(const SourceText& source, FindingSink& sink) {
-    const std::string_view text = source.text();
+/// Where the first byte is that belongs to no character.
+std::optional<std::size_t> firstInvalidByte(std::string_view text) {
     std::size_t offset = 0;
     while (offset < text.size()) {
         if (static_cast<unsigned char>(text[offset]) < 0x80) {
@@ -83,16 +85,58 @@ void checkUtf8(const SourceText& source, FindingSink& sink) {
             continue;
         }
         const Utf8Character character = firstCharacter(text.substr(offset));
-        if (!character.valid) {
-            addAboutPlace(sink, FindingCode::InvalidUtf8, source, offset,
-                          fmt::format("the byte {} is not UTF-8, in which the file is read",
-                                      escape(text.substr(offset, 1))),
-                          "this and the like are passed on as they are; hosts may not show them");
-            return;
-        }
+        if (!character.valid)
+            return offset;
         offset += character.length;
     }
+    return std::nullopt;
 }
+
+/// That the declaration of a text names another encoding than UTF-8, in which it is read.
+std::string describeDeclaration(const SourceText& source) {
+    const std::string_view name = source.declaredEncoding();
+    if (name.empty() || boost::algorithm::iequals(name, "UTF-8", std::locale::classic()))
+        return "";
+    return fmt::format(" although its declaration says \"{}\"", escapeExcerpt(name));
+}
+
+/// Hands on what else is found in a text, and in its place that the text is not UTF-8.
+class Utf8Check : public FindingSink {
+public:
+    Utf8Check(const SourceText& source, FindingSink& sink) : sink_(sink) {
+        const std::optional<std::size_t> offset = firstInvalidByte(source.text());
+        if (!offset || !sink_.wants(FindingCode::InvalidUtf8))
+            return;
+        finding_ = findingAt(
+            FindingCode::InvalidUtf8, source, *offset,
+            fmt::format("the byte {} is not UTF-8, in which the file is read{}",
+                        escape(source.text().substr(*offset, 1)), describeDeclaration(source)),
+            "this and the like are passed on as they are; hosts may not show them");
+    }
+
+    bool wants(FindingCode code) override { return sink_.wants(code); }
+    void add(const Finding& other) override {
+        if (finding_ && isBefore(*finding_->position, *other.position))
+            finish();
+        sink_.add(other);
+    }
+    void progress(double part) override { sink_.progress(part); }
+
+    /// Nothing else comes.
+    void finish() {
+        if (finding_)
+            sink_.add(*finding_);
+        finding_.reset();
+    }
+
+private:
+    static bool isBefore(const Position& a, const Position& b) {
+        return a.line < b.line || (a.line == b.line && a.column < b.column);
+    }
+
+    FindingSink& sink_;
+    std::optional<Finding> finding_;
+};
 
 /// Why the XML library could not load a text.
 std::string describeFault(const SourceText& source, const pugi::xml_parse_result& loaded) {
@@ -116,25 +160,27 @@ void checkContent(std::string bytes, FindingSink& sink) {
     const pugi::xml_parse_result loaded = source.load(document);
     if (loaded.status == pugi::status_out_of_memory)
         throw std::bad_alloc();
-    checkUtf8(source, sink);
-    if (!loaded) {
-        addAboutPlace(sink, FindingCode::NotWellFormed, source,
-                      static_cast<std::size_t>(loaded.offset), describeFault(source, loaded),
-                      "nothing of the file is read");
-        return;
-    }
-    walkPackage(document, source, sink);
+    Utf8Check all(source, sink);
+    if (loaded)
+        walkPackage(document, source, all);
+    else if (all.wants(FindingCode::NotWellFormed))
+        all.add(findingAt(FindingCode::NotWellFormed, source,
+                          static_cast<std::size_t>(loaded.offset), describeFault(source, loaded),
+                          "nothing of the file is read"));
+    all.finish();
 }
 
 } // namespace
 
 void checkPackage(const std::string& path, FindingSink& sink) {
     FileContent content = readFileContent(path);
-    if (!content.failure.empty())
+    if (!content.failure.empty()) {
+        // Its name means nothing: it may be the name that is mistyped.
         addAboutFile(sink, FindingCode::Unreadable, content.failure, "nothing of the file is read");
+        return;
+    }
     checkName(path, sink);
-    if (content.failure.empty())
-        checkContent(std::move(content.bytes), sink);
+    checkContent(std::move(content.bytes), sink);
 }
 
 std::vector<Finding> checkPackage(const std::string& path) {

@@ -21,6 +21,7 @@
 #include "tests/support/PackageText.h"
 #include "tests/support/RandomPackage.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/tools/check/Findings.h"
 #include "tools/SourceText.h"
 
 namespace fs = std::filesystem;
@@ -52,13 +53,8 @@ bool hasError(const std::vector<Finding>& findings) {
 
 std::string toText(const std::vector<Finding>& findings) {
     std::string text;
-    for (const Finding& finding : findings) {
-        if (finding.position)
-            text += std::to_string(finding.position->line) + ":" +
-                    std::to_string(finding.position->column) + " ";
-        text += finding.code + " " + finding.path + ": " + finding.found + " -> " +
-                finding.consequence + "\n";
-    }
+    for (const Finding& finding : findings)
+        text += test::toText(finding) + "\n";
     return text;
 }
 
@@ -280,25 +276,6 @@ TEST_F(PackageCheck, FindsItsWayInListsOfAnyLength) {
     EXPECT_EQ(sink.last.position->line, 1U);
 }
 
-TEST_F(PackageCheck, ReportsInTheOrderOfTheFile) {
-    const std::string text =
-        textOf(fs::path(QENXML_SOURCE_DIR) / "examples/packages/broken/rec-id/"
-                                             "5ee118ce-09bf-4cfe-ad36-a8f803f97869.xml");
-    std::string broken = text;
-    for (std::size_t at = broken.find("Name>"); at != std::string::npos;
-         at = broken.find("Name>", at + 1))
-        broken.replace(at, 5, "Nome>");
-    std::size_t line = 0;
-    std::size_t findings = 0;
-    for (const Finding& finding : checkPackage(folder_.writePackage(broken))) {
-        ASSERT_TRUE(finding.position);
-        EXPECT_GE(finding.position->line, line) << toText({finding});
-        line = finding.position->line;
-        ++findings;
-    }
-    EXPECT_GT(findings, 20U);
-}
-
 TEST_F(PackageCheck, SaysOfEachErrorWhatItCosts) {
     const std::string path = folder_.writePackage(
         test::package(test::grower(1, "<GrowerName>a</GrowerName>") +
@@ -313,7 +290,7 @@ TEST_F(PackageCheck, SaysOfEachErrorWhatItCosts) {
         "is not read because of line 2; it is not enough to mend that alone\n"
         "3:1 empty-name /RecPackage/Grower[3]: GrowerName is missing -> hosts can show no name\n"
         "3:1 grower-id /RecPackage/Grower[3]: Grower has no attribute GrowerID -> reading ends "
-        "before this, because of line 2; once that is mended, it ends here\n");
+        "before this, because of line 2; once the 2 errors before it are mended, it ends here\n");
 }
 
 TEST_F(PackageCheck, DoesNotReadTheIdentifierOfAnIncompleteBlend) {
@@ -336,6 +313,44 @@ TEST_F(PackageCheck, DoesNotReadTheIdentifierOfAnIncompleteBlend) {
     EXPECT_EQ(incomplete->consequence,
               "the rec is kept without product data; once it is complete, reading fails because "
               "ProductID \"4711\" is too short: it ends after 4 of 32 digits");
+}
+
+TEST_F(PackageCheck, SaysOfAFileThatIsNotThereNoMoreThanThat) {
+    // It may be its name that is mistyped.
+    for (const std::string name : {"missing.xml", "missing-with-a-name-that-is-much-longer.xml"}) {
+        const std::string path = folder_.path(name);
+        EXPECT_EQ(toText(checkPackage(path)),
+                  "unreadable : not found -> nothing of the file is read\n");
+    }
+}
+
+TEST_F(PackageCheck, NamesTheDeclaredEncodingAsTheCauseOfBytesThatAreNotUtf8) {
+    const auto found = [&](const std::string& declaration) {
+        const std::vector<Finding> findings = checkPackage(folder_.writePackage(
+            declaration + test::package(test::grower(1, "<GrowerName>\xE9</GrowerName>"))));
+        EXPECT_EQ(findings.size(), 1U);
+        return findings.front().found;
+    };
+    const std::string byte = "the byte \\xE9 is not UTF-8, in which the file is read";
+    EXPECT_EQ(found(""), byte);
+    EXPECT_EQ(found("<?xml version='1.0' encoding='utf-8'?>"), byte);
+    EXPECT_EQ(found("<?xml version='1.0' encoding='windows-1252'?>"),
+              byte + " although its declaration says \"windows-1252\"");
+}
+
+TEST_F(PackageCheck, FindsBytesThatAreNotUtf8InTheirPlace) {
+    const auto codes = [&](const std::string& text) {
+        std::string all;
+        for (const Finding& finding : checkPackage(folder_.writePackage(text)))
+            all += finding.code + " ";
+        return all;
+    };
+    EXPECT_EQ(codes("<RecPackage><x/>\xE9<y/></RecPackage>"),
+              "no-grower unknown-element stray-text invalid-utf8 unknown-element ");
+    EXPECT_EQ(codes("<RecPackage><x>\xE9</x></RecPackage>"),
+              "no-grower unknown-element invalid-utf8 ");
+    EXPECT_EQ(codes("<RecPackage>\xE9</x>"), "invalid-utf8 not-well-formed ");
+    EXPECT_EQ(codes("</x>\xE9"), "not-well-formed invalid-utf8 ");
 }
 
 TEST_F(PackageCheck, EscapesWhatComesFromThePackage) {
