@@ -1,9 +1,10 @@
 // Checks any bytes as a package: errors are found if and only if the library cannot read it, every
-// text is safe to print, and every place is in the file.
+// text is safe to print, every place is in the file, and findings come in the order of their places.
 
 #include <algorithm>
 #include <cstdint>
 #include <exception>
+#include <optional>
 #include <string>
 
 #include "fuzz/PackageFile.h"
@@ -38,14 +39,25 @@ void requireSense(const Finding& finding) {
             "places count from 1");
 }
 
+/// Whether a finding may come after another: what is about no place comes first.
+bool isInOrder(const std::optional<Position>& earlier, const std::optional<Position>& later) {
+    if (!earlier || !later)
+        return !earlier;
+    return later->line > earlier->line ||
+           (later->line == earlier->line && later->column >= earlier->column);
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const PackageFile file;
     file.write(data, size);
     bool hasError = false;
+    std::optional<Position> last;
     for (const Finding& finding : checkPackage(file.path())) {
         requireSense(finding);
+        require(isInOrder(last, finding.position), "findings come in the order of their places");
+        last = finding.position;
         hasError = hasError || finding.severity == Severity::Error;
     }
     require(hasError != canRead(file.path()), "errors are found in what cannot be read, only");

@@ -9,6 +9,7 @@
 #include "tools/Utf8.h"
 #include "tools/check/IdentifierReading.h"
 #include "tools/check/NameSuggestion.h"
+#include "tools/check/ValuePlace.h"
 
 namespace {
 
@@ -22,19 +23,24 @@ bool belongsToXml(std::string_view attribute) {
     return attribute == "xmlns" || startsWith("xmlns:") || startsWith("xml:") || startsWith("xsi:");
 }
 
-std::vector<const char*> namesOf(const std::vector<DatumFormat>& formats) {
+/// The names of data that are not there.
+///
+/// @param isThere tells that of a name
+template <class IsThere>
+std::vector<const char*> absentNames(const std::vector<DatumFormat>& formats, IsThere isThere) {
     std::vector<const char*> names;
-    names.reserve(formats.size() + 1);
-    for (const DatumFormat& format : formats)
-        names.push_back(format.name);
+    for (const DatumFormat& format : formats) {
+        if (!isThere(format.name))
+            names.push_back(format.name);
+    }
     return names;
 }
 
-/// The offset of a place in a value, if the value stands in the source as it is read.
-std::size_t placeIn(const SourceText& source, std::size_t offset, std::string_view value,
-                    std::size_t place) {
-    const std::string_view before = value.substr(0, place);
-    return source.text().substr(offset, before.size()) == before ? offset + place : offset;
+/// A text without the white space around it.
+std::string_view trimmed(std::string_view text) {
+    constexpr std::string_view whiteSpace = " \t\r\n";
+    const std::size_t begin = std::min(text.find_first_not_of(whiteSpace), text.size());
+    return text.substr(begin, text.find_last_not_of(whiteSpace) + 1 - begin);
 }
 
 std::string quoted(std::string_view text) {
@@ -43,18 +49,13 @@ std::string quoted(std::string_view text) {
 
 } // namespace
 
-std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view whiteSpace = " \t\r\n";
-    const std::size_t begin = std::min(text.find_first_not_of(whiteSpace), text.size());
-    return text.substr(begin, text.find_last_not_of(whiteSpace) + 1 - begin);
+std::string quotedText(std::string_view text) {
+    const std::string_view inner = trimmed(text);
+    return quoted(inner.empty() ? text : inner);
 }
 
 bool isText(pugi::xml_node node) {
     return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata;
-}
-
-std::string ElementCheck::step(const char* name, std::size_t number) {
-    return number > 1 ? fmt::format("{}[{}]", name, number) : name;
 }
 
 const DatumFormat* ElementCheck::find(const std::vector<DatumFormat>& formats, const char* name) {
@@ -95,34 +96,54 @@ void ElementCheck::missingIdentifiers(const ElementFormat& format, pugi::xml_nod
     }
 }
 
-void ElementCheck::attributes(const std::vector<DatumFormat>& known, pugi::xml_node node) {
+const std::vector<const char*>& ElementCheck::AbsentNames::names() {
+    if (!names_) {
+        names_ = absentNames(format_.children,
+                             [&](const char* name) { return !node_.child(name).empty(); });
+        if (format_.item != nullptr)
+            names_->push_back(format_.item->name);
+    }
+    return *names_;
+}
+
+void ElementCheck::attributes(const std::vector<DatumFormat>& known, pugi::xml_node node,
+                              const std::function<void(pugi::xml_attribute)>& onKnown) {
+    const std::vector<const char*> absent =
+        absentNames(known, [&](const char* name) { return !node.attribute(name).empty(); });
+    std::vector<bool> seen(known.size());
     for (const pugi::xml_attribute attribute : node.attributes()) {
         const DatumFormat* const datum = find(known, attribute.name());
         if (datum == nullptr) {
-            unknownAttribute(known, node, attribute);
+            unknownAttribute(node, attribute, nearestName(attribute.name(), absent));
             continue;
         }
-        const std::string step = fmt::format("@{}", attribute.name());
-        if (attribute != node.attribute(attribute.name())) {
-            report_.add(FindingCode::RepeatedAttribute, nameOffset(node, attribute), step, [&] {
-                return Texts{
-                    fmt::format("{} is repeated", attribute.name()),
-                    fmt::format("{} is ignored; the first one counts", quoted(attribute.value()))};
-            });
-        } else if (datum->kind == ValueKind::Identifier) {
-            identifier(*datum, attribute.value(), valueOffset(node, attribute), step);
-        } else {
-            number(*datum, attribute.value(), valueOffset(node, attribute), step);
+        const auto index = static_cast<std::size_t>(datum - known.data());
+        if (seen[index]) {
+            repeatedAttribute(node, attribute);
+            continue;
         }
+        seen[index] = true;
+        if (onKnown)
+            onKnown(attribute);
+        reading(*datum, attribute.value(), valueOffset(node, attribute),
+                fmt::format("@{}", attribute.name()));
     }
 }
 
-void ElementCheck::unknownAttribute(const std::vector<DatumFormat>& known, pugi::xml_node node,
-                                    pugi::xml_attribute attribute) {
+void ElementCheck::repeatedAttribute(pugi::xml_node node, pugi::xml_attribute attribute) {
+    report_.add(FindingCode::RepeatedAttribute, nameOffset(node, attribute),
+                fmt::format("@{}", attribute.name()), [&] {
+                    return Texts{fmt::format("{} is repeated", attribute.name()),
+                                 fmt::format("{} is ignored; the first one counts",
+                                             quoted(attribute.value()))};
+                });
+}
+
+void ElementCheck::unknownAttribute(pugi::xml_node node, pugi::xml_attribute attribute,
+                                    std::string_view nearest) {
     const std::string_view name = attribute.name();
     if (belongsToXml(name))
         return;
-    const std::string_view nearest = nearestName(name, namesOf(known));
     const FindingCode code =
         nearest.empty() ? FindingCode::UnknownAttribute : FindingCode::MisspeltAttribute;
     report_.add(code, nameOffset(node, attribute), fmt::format("@{}", name), [&] {
@@ -138,22 +159,19 @@ void ElementCheck::unknownAttribute(const std::vector<DatumFormat>& known, pugi:
 }
 
 void ElementCheck::unknownElement(const ElementFormat& format, pugi::xml_node node,
-                                  std::size_t number, bool beforeList) {
+                                  std::size_t number, const std::vector<const char*>& absent,
+                                  bool beforeList) {
     const std::string_view name = node.name();
-    std::string places = placesOf(name);
-    std::vector<const char*> names = namesOf(format.children);
-    bool isItem = false;
-    if (format.item != nullptr) {
-        names.push_back(format.item->name);
-        isItem = !node.attribute(format.item->attributes.front().name).empty();
-    }
-    const std::string_view nearest = !places.empty() ? "" : nearestName(name, names);
-    isItem = isItem || (format.item != nullptr && nearest == format.item->name);
+    const std::string places = placesOf(name);
+    const std::string_view nearest = !places.empty() ? "" : nearestName(name, absent);
+    const bool isItem =
+        format.item != nullptr &&
+        (nearest == format.item->name || node.attribute(format.item->attributes.front().name));
     const FindingCode code = isItem && beforeList ? FindingCode::BeforeList
                              : !nearest.empty()   ? FindingCode::MisspeltElement
                              : !places.empty()    ? FindingCode::MisplacedElement
                                                   : FindingCode::UnknownElement;
-    report_.add(code, report_.source().offset(node), step(node.name(), number), [&] {
+    report_.add(code, report_.source().offset(node), pathStep(node.name(), number), [&] {
         std::string found = fmt::format("{} is not read in {}", quoted(name), format.name);
         if (!nearest.empty())
             found += fmt::format("; is {} meant?", nearest);
@@ -165,7 +183,7 @@ void ElementCheck::unknownElement(const ElementFormat& format, pugi::xml_node no
 
 void ElementCheck::repeatedElement(pugi::xml_node node, std::size_t number) {
     report_.add(FindingCode::RepeatedElement, report_.source().offset(node),
-                step(node.name(), number), [&] {
+                pathStep(node.name(), number), [&] {
                     return Texts{fmt::format("{} is repeated", node.name()),
                                  "the element is ignored with everything in it; the first one "
                                  "counts"};
@@ -175,38 +193,47 @@ void ElementCheck::repeatedElement(pugi::xml_node node, std::size_t number) {
 void ElementCheck::strayText(const ElementFormat& format, pugi::xml_node text) {
     report_.add(FindingCode::StrayText, report_.source().offset(text), "text()", [&] {
         return Texts{fmt::format("the text {} stands in {}, which holds elements only",
-                                 quoted(trimmed(text.value())), format.name),
+                                 quotedText(text.value()), format.name),
                      "the text is ignored"};
     });
 }
 
 void ElementCheck::value(const DatumFormat& datum, pugi::xml_node node) {
     const CheckReport::Inside inside(report_, node.name());
+    const pugi::xml_node held = node.text().data(); // the first text
+    const auto readHeld = [&] {
+        const std::size_t offset =
+            held ? static_cast<std::size_t>(held.offset_debug()) : report_.source().offset(node);
+        reading(datum, held.value(), offset, "");
+    };
+    // In the order of their places: what is said of a text that is not there, is said of the
+    // element.
+    if (!held)
+        readHeld();
     attributes({}, node);
-    text(node);
-    // From the first text on, where there is one.
-    std::size_t offset = report_.source().offset(node);
-    for (const pugi::xml_node child : node.children()) {
-        if (isText(child)) {
-            offset = static_cast<std::size_t>(child.offset_debug());
-            break;
-        }
-    }
-    const char* const value = node.text().as_string();
-    if (datum.kind == ValueKind::Identifier)
-        identifier(datum, value, offset, "");
-    else if (datum.kind == ValueKind::Integer || datum.kind == ValueKind::Number)
-        number(datum, value, offset, "");
+    if (held && held == node.first_child())
+        readHeld();
+    cutOffText(node);
+    if (held && held != node.first_child())
+        readHeld();
 }
 
-void ElementCheck::text(pugi::xml_node node) {
+void ElementCheck::reading(const DatumFormat& datum, const char* text, std::size_t offset,
+                           std::string_view step) {
+    if (datum.kind == ValueKind::Identifier)
+        identifier(datum, text, offset, step);
+    else if (datum.kind == ValueKind::Integer || datum.kind == ValueKind::Number)
+        number(datum, text, offset, step);
+}
+
+void ElementCheck::cutOffText(pugi::xml_node node) {
     const pugi::xml_node first = node.first_child();
     const pugi::xml_node rest = isText(first) ? first.next_sibling() : first;
     if (!rest)
         return;
     report_.add(FindingCode::TextCutOff, report_.source().offset(rest), "", [&] {
         const std::string what =
-            isText(rest) ? fmt::format("its text goes on with {}", quoted(trimmed(rest.value())))
+            isText(rest) ? fmt::format("its text goes on with {}", quotedText(rest.value()))
                          : fmt::format("it holds the element {}", quoted(rest.name()));
         return Texts{fmt::format("{} is more than one piece of text: {}", node.name(), what),
                      fmt::format("it is read as {}", quoted(node.text().as_string()))};
@@ -217,7 +244,7 @@ void ElementCheck::identifier(const DatumFormat& datum, std::string_view text, s
                               std::string_view step) {
     const IdentifierReading identifier = readIdentifier(text);
     const auto at = [&](std::size_t place) {
-        return placeIn(report_.source(), offset, text, place);
+        return placeOfValue(report_.source().text(), offset, place);
     };
     if (identifier.fault != IdentifierReading::Fault::None) {
         if (datum.fault && !(datum.mayBeEmpty && text.empty()))
@@ -229,6 +256,12 @@ void ElementCheck::identifier(const DatumFormat& datum, std::string_view text, s
     const auto readAs = [&] {
         return fmt::format("it is read as {}", to_string(identifier.value));
     };
+    const bool nilHasMeaning = datum.mayBeEmpty || datum.fault == FindingCode::OperationId;
+    if (identifier.value.is_nil() && !nilHasMeaning)
+        report_.add(FindingCode::NilIdentifier, offset, step, [&] {
+            return Texts{fmt::format("{} is nil, which stands for \"none\"", datum.name),
+                         "hosts cannot tell it from an identifier that is not there"};
+        });
     if (identifier.wrongDigits > 0)
         report_.add(FindingCode::IdentifierDigit, at(identifier.wrongPlace), step, [&] {
             const std::string others =
@@ -248,12 +281,6 @@ void ElementCheck::identifier(const DatumFormat& datum, std::string_view text, s
                                                  datum.name, quoted(identifier.ignored)),
                                      "that is ignored; " + readAs()};
                     });
-    const bool nilHasMeaning = datum.mayBeEmpty || datum.fault == FindingCode::OperationId;
-    if (identifier.value.is_nil() && !nilHasMeaning)
-        report_.add(FindingCode::NilIdentifier, offset, step, [&] {
-            return Texts{fmt::format("{} is nil, which stands for \"none\"", datum.name),
-                         "hosts cannot tell it from an identifier that is not there"};
-        });
 }
 
 void ElementCheck::number(const DatumFormat& datum, const char* text, std::size_t offset,
@@ -262,8 +289,9 @@ void ElementCheck::number(const DatumFormat& datum, const char* text, std::size_
     const NumberReading number =
         datum.kind == ValueKind::Integer ? readInteger(text) : readNumber(text);
     const auto add = [&](FindingCode code, const char* what) {
-        report_.add(code, placeIn(report_.source(), offset, text, number.place), step, [&] {
-            const std::string value = *text == '\0' ? "" : " " + quoted(text);
+        const std::size_t place = placeOfValue(report_.source().text(), offset, number.place);
+        report_.add(code, place, step, [&] {
+            const std::string value = *text == '\0' ? "" : " " + quotedText(text);
             return Texts{fmt::format("{}{} {}", datum.name, value, what),
                          fmt::format("{}it is read as {}", condition_, number.read)};
         });

@@ -2,16 +2,17 @@
 #define QENXML_TOOLS_CHECK_ELEMENTCHECK_H
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include <boost/uuid/uuid.hpp>
 #include <pugixml.hpp>
 
 #include "tools/check/CheckReport.h"
+#include "tools/check/NameCounts.h"
 #include "tools/check/NumberReading.h"
 #include "tools/check/PackageFormat.h"
 
@@ -26,7 +27,11 @@ public:
     /// Finds the identifiers that an element lacks.
     void missingIdentifiers(const ElementFormat& format, pugi::xml_node node);
 
-    void attributes(const std::vector<DatumFormat>& known, pugi::xml_node node);
+    /// Checks the attributes of an element.
+    ///
+    /// @param onKnown called before the check of each that is read
+    void attributes(const std::vector<DatumFormat>& known, pugi::xml_node node,
+                    const std::function<void(pugi::xml_attribute)>& onKnown = {});
 
     /// Walks the children of an element in their order.
     ///
@@ -39,6 +44,7 @@ public:
         const pugi::xml_node firstItem =
             format.item == nullptr ? pugi::xml_node() : node.child(format.item->name);
         Numbering numbering(format);
+        AbsentNames absent(format, node);
         bool inList = false;
         for (const pugi::xml_node child : node.children()) {
             inList = inList || child == firstItem;
@@ -49,7 +55,7 @@ public:
             else if (child.type() != pugi::node_element)
                 strayText(format, child);
             else if (datum == nullptr)
-                unknownElement(format, child, number, !firstItem.empty());
+                unknownElement(format, child, number, absent.names(), !firstItem.empty());
             else if (number > 1)
                 repeatedElement(child, number);
             else
@@ -65,9 +71,6 @@ public:
 
     void strayText(const ElementFormat& format, pugi::xml_node text);
 
-    /// The last step of the path to a child: "Remark[2]".
-    static std::string step(const char* name, std::size_t number);
-
 private:
     /// Numbers the children of an element among those of the same name.
     class Numbering {
@@ -81,23 +84,41 @@ private:
                 return ++data_[static_cast<std::size_t>(datum - format_.children.data())];
             const bool item =
                 format_.item != nullptr && std::string_view(format_.item->name) == node.name();
-            return item ? ++items_ : ++others_[node.name()];
+            return item ? ++items_ : others_.next(node.name());
         }
 
     private:
         const ElementFormat& format_;
         std::vector<std::size_t> data_;
         std::size_t items_ = 0;
-        std::unordered_map<std::string_view, std::size_t> others_;
+        NameCounts others_;
+    };
+
+    /// The names that a misspelt child may stand for: those of the items of the list, and those
+    /// that are not there already. They are looked for once, as there may be many such children.
+    class AbsentNames {
+    public:
+        AbsentNames(const ElementFormat& format, pugi::xml_node node)
+            : format_(format), node_(node) {}
+
+        const std::vector<const char*>& names();
+
+    private:
+        const ElementFormat& format_;
+        pugi::xml_node node_;
+        std::optional<std::vector<const char*>> names_;
     };
 
     static const DatumFormat* find(const std::vector<DatumFormat>& formats, const char* name);
     void unknownElement(const ElementFormat& format, pugi::xml_node node, std::size_t number,
-                        bool beforeList);
+                        const std::vector<const char*>& absent, bool beforeList);
     void repeatedElement(pugi::xml_node node, std::size_t number);
-    void unknownAttribute(const std::vector<DatumFormat>& known, pugi::xml_node node,
-                          pugi::xml_attribute attribute);
-    void text(pugi::xml_node node);
+    void repeatedAttribute(pugi::xml_node node, pugi::xml_attribute attribute);
+    void unknownAttribute(pugi::xml_node node, pugi::xml_attribute attribute,
+                          std::string_view nearest);
+    void cutOffText(pugi::xml_node node);
+    void reading(const DatumFormat& datum, const char* text, std::size_t offset,
+                 std::string_view step);
     void identifier(const DatumFormat& datum, std::string_view text, std::size_t offset,
                     std::string_view step);
     void number(const DatumFormat& datum, const char* text, std::size_t offset,
@@ -107,8 +128,8 @@ private:
     std::string condition_;
 };
 
-/// A text without the white space around it.
-std::string_view trimmed(std::string_view text);
+/// A text as findings quote it: without the white space around it, unless there is nothing else.
+std::string quotedText(std::string_view text);
 
 /// Whether a node holds text of its own: text or a CDATA section.
 bool isText(pugi::xml_node node);

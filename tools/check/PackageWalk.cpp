@@ -68,14 +68,17 @@ public:
             noPackage(document);
             return;
         }
-        otherRoots(document, package);
-        const CheckReport::Inside inside(report_, package.name());
-        if (!package.child(tag::Grower))
-            report_.add(FindingCode::NoGrower, report_.source().offset(package), "", [] {
-                return Texts{"RecPackage holds no Grower", "nothing is read from the package"};
-            });
-        check_.attributes(format::recPackage().attributes, package);
-        list(format::recPackage(), package);
+        // XML allows one root element, but the XML library allows more.
+        NameCounts roots;
+        for (const pugi::xml_node root : document.children()) {
+            if (root.type() != pugi::node_element)
+                continue;
+            const std::size_t number = roots.next(root.name());
+            if (root == package)
+                packageElement(root);
+            else
+                otherRoot(root, number);
+        }
     }
 
 private:
@@ -88,27 +91,37 @@ private:
         });
     }
 
-    /// XML allows one root element, but the XML library allows more.
-    void otherRoots(const pugi::xml_document& document, pugi::xml_node package) {
-        for (const pugi::xml_node root : document.children()) {
-            if (root == package || root.type() != pugi::node_element)
-                continue;
-            report_.add(FindingCode::UnknownElement, report_.source().offset(root), root.name(),
-                        [&] {
-                            return Texts{fmt::format("\"{}\" stands beside {}",
-                                                     escapeExcerpt(root.name()), tag::RecPackage),
-                                         "the element is skipped with everything in it"};
-                        });
-        }
+    void packageElement(pugi::xml_node package) {
+        const CheckReport::Inside inside(report_, package.name());
+        if (!package.child(tag::Grower))
+            report_.add(FindingCode::NoGrower, report_.source().offset(package), "", [] {
+                return Texts{"RecPackage holds no Grower", "nothing is read from the package"};
+            });
+        check_.attributes(format::recPackage().attributes, package);
+        list(format::recPackage(), package);
+    }
+
+    void otherRoot(pugi::xml_node root, std::size_t number) {
+        report_.add(FindingCode::UnknownElement, report_.source().offset(root),
+                    pathStep(root.name(), number), [&] {
+                        return Texts{fmt::format("\"{}\" stands beside {}",
+                                                 escapeExcerpt(root.name()), tag::RecPackage),
+                                     "the element is skipped with everything in it"};
+                    });
     }
 
     /// Walks the children of an element that has a list.
     Contents list(const ElementFormat& format, pugi::xml_node node) {
+        const pugi::xml_node name = nameOf(format, node);
         RecordsById records;
         check_.children(
             format, node,
-            [&](const DatumFormat& datum, pugi::xml_node child) { check_.value(datum, child); },
+            [&](const DatumFormat& datum, pugi::xml_node child) {
+                emptyName(child, name);
+                check_.value(datum, child);
+            },
             [&](pugi::xml_node item, std::size_t number) {
+                emptyName(item, name); // which is lost among the items, but read
                 record(*format.item, item, number, records);
             });
         Contents sum;
@@ -142,13 +155,13 @@ private:
         const DatumFormat& name = format.children.front();
         const CheckReport::InRecord inRecord(report_, format.record,
                                              node.child(name.name).child_value());
-        if (readable)
-            duplicate(format, node, id.value, earlier);
         noName(name, node);
         check_.missingIdentifiers(format, node);
-        if (&format == &format::rec())
-            missingParts(node);
-        check_.attributes(format.attributes, node);
+        missingParts(format, node);
+        check_.attributes(format.attributes, node, [&](pugi::xml_attribute attribute) {
+            if (readable && std::string_view(attribute.name()) == idName)
+                duplicate(format, node, id.value, earlier);
+        });
         const Contents contents = format.item != nullptr ? list(format, node) : parts(format, node);
         if (readable)
             earlier.insert_or_assign(id.value, Earlier{offset, contents});
@@ -156,10 +169,9 @@ private:
 
     /// A node that is read as an item of a list because it follows one.
     void foreignItem(const ElementFormat& format, pugi::xml_node node, bool readable) {
-        const std::string what =
-            node.type() == pugi::node_element
-                ? fmt::format("\"{}\"", escapeExcerpt(node.name()))
-                : fmt::format("the text \"{}\"", escapeExcerpt(trimmed(node.value())));
+        const std::string what = node.type() == pugi::node_element
+                                     ? fmt::format("\"{}\"", escapeExcerpt(node.name()))
+                                     : fmt::format("the text {}", quotedText(node.value()));
         const std::string found =
             fmt::format("{} follows the first {} and is read as one too", what, format.name);
         if (readable) {
@@ -196,36 +208,49 @@ private:
             });
     }
 
-    void noName(const DatumFormat& datum, pugi::xml_node node) {
-        const pugi::xml_node name = node.child(datum.name);
-        if (*name.child_value() != '\0')
+    void noName(const DatumFormat& name, pugi::xml_node record) {
+        if (record.child(name.name))
             return;
-        report_.add(FindingCode::EmptyName, report_.source().offset(name ? name : node),
-                    name ? datum.name : "", [&] {
-                        return Texts{
-                            fmt::format("{} {}", datum.name, name ? "is empty" : "is missing"),
-                            "hosts can show no name"};
-                    });
+        report_.add(FindingCode::EmptyName, report_.source().offset(record), "", [&] {
+            return Texts{fmt::format("{} is missing", name.name), "hosts can show no name"};
+        });
     }
 
-    /// Parts of a rec without which it is worth little.
-    void missingParts(pugi::xml_node rec) {
-        if (!rec.child(tag::RecData))
-            report_.add(FindingCode::NoProduct, report_.source().offset(rec), "", [] {
+    /// The child that says what a record is called.
+    static pugi::xml_node nameOf(const ElementFormat& format, pugi::xml_node node) {
+        return format.record == nullptr ? pugi::xml_node()
+                                        : node.child(format.children.front().name);
+    }
+
+    /// @param name what nameOf() says of the record
+    void emptyName(pugi::xml_node child, pugi::xml_node name) {
+        if (child != name || *child.child_value() != '\0')
+            return;
+        report_.add(FindingCode::EmptyName, report_.source().offset(child), child.name(), [&] {
+            return Texts{fmt::format("{} is empty", child.name()), "hosts can show no name"};
+        });
+    }
+
+    /// Finds that parts are missing without which a record is worth little.
+    void missingParts(const ElementFormat& format, pugi::xml_node node) {
+        const std::size_t offset = report_.source().offset(node);
+        if (&format == &format::field() && !node.child(tag::FieldCentroid))
+            report_.add(FindingCode::CentroidZero, offset, "", [] {
+                return Texts{"FieldCentroid is missing", "the centroid is read as (0, 0)"};
+            });
+        if (&format == &format::rec() && !node.child(tag::RecData))
+            report_.add(FindingCode::NoProduct, offset, "", [] {
                 return Texts{"the rec has no RecData", "the rec is kept without product data"};
             });
-        if (!rec.child(tag::RecStats))
-            report_.add(FindingCode::NoStatistics, report_.source().offset(rec), "", [] {
+        if (&format == &format::rec() && !node.child(tag::RecStats))
+            report_.add(FindingCode::NoStatistics, offset, "", [] {
                 return Texts{"the rec has no RecStats", "its rates, total and area are read as 0"};
             });
     }
 
     /// Walks the children of an element without a list.
     Contents parts(const ElementFormat& format, pugi::xml_node node) {
-        if (&format == &format::field() && !node.child(tag::FieldCentroid))
-            report_.add(FindingCode::CentroidZero, report_.source().offset(node), "", [] {
-                return Texts{"FieldCentroid is missing", "the centroid is read as (0, 0)"};
-            });
+        const pugi::xml_node name = nameOf(format, node);
         Contents contents;
         check_.children(
             format, node,
@@ -235,10 +260,20 @@ private:
                 else if (datum.element != nullptr)
                     part(*datum.element, child);
                 else
-                    check_.value(datum, child);
+                    partValue(format, datum, child, name);
             },
             [](pugi::xml_node, std::size_t) {});
         return contents;
+    }
+
+    void partValue(const ElementFormat& format, const DatumFormat& datum, pugi::xml_node child,
+                   pugi::xml_node name) {
+        emptyName(child, name);
+        if (&format == &format::recStats())
+            checkRate(report_, child);
+        else if (&format == &format::fieldCentroid())
+            checkCoordinate(report_, child);
+        check_.value(datum, child);
     }
 
     Contents recommendations(pugi::xml_node node) {
@@ -255,21 +290,21 @@ private:
         const CheckReport::Inside inside(report_, node.name());
         check_.missingIdentifiers(format, node);
         if (&format == &format::season())
-            season(node);
-        else if (&format == &format::operation())
-            operation(node);
+            seasonWithoutId(node);
         else if (&format == &format::recStats())
             incompleteStatistics(node);
-        check_.attributes(format.attributes, node);
-        parts(format, node);
-        if (&format == &format::recStats())
-            checkRates(report_, node);
         else if (&format == &format::fieldCentroid())
             checkCentroid(report_, node);
+        check_.attributes(format.attributes, node, [&](pugi::xml_attribute id) {
+            if (&format == &format::season())
+                negativeSeason(node, id);
+            else if (&format == &format::operation())
+                nilOperation(node, id);
+        });
+        parts(format, node);
     }
 
-    void operation(pugi::xml_node node) {
-        const pugi::xml_attribute attribute = node.attribute(tag::OpID);
+    void nilOperation(pugi::xml_node node, pugi::xml_attribute attribute) {
         const IdentifierReading id = readIdentifier(attribute.as_string());
         if (id.fault != IdentifierReading::Fault::None || !id.value.is_nil())
             return;
@@ -279,20 +314,22 @@ private:
         });
     }
 
-    void season(pugi::xml_node node) {
-        const pugi::xml_attribute attribute = node.attribute(tag::SeasonID);
-        if (!attribute) {
-            report_.add(FindingCode::SeasonWithoutId, report_.source().offset(node), "", [] {
-                return Texts{"Season has no attribute SeasonID",
-                             "the number of the season is read as 0"};
-            });
-        } else if (attribute.as_int() < 0) {
-            report_.add(
-                FindingCode::SeasonNegative, valueOffset(node, attribute), "@SeasonID", [&] {
-                    return Texts{fmt::format("SeasonID {} is negative", attribute.as_int()),
-                                 "the rec has no season" + dropped(node.child(tag::SeasonName))};
-                });
-        }
+    void seasonWithoutId(pugi::xml_node node) {
+        if (node.attribute(tag::SeasonID))
+            return;
+        report_.add(FindingCode::SeasonWithoutId, report_.source().offset(node), "", [] {
+            return Texts{"Season has no attribute SeasonID",
+                         "the number of the season is read as 0"};
+        });
+    }
+
+    void negativeSeason(pugi::xml_node node, pugi::xml_attribute id) {
+        if (id.as_int() >= 0)
+            return;
+        report_.add(FindingCode::SeasonNegative, valueOffset(node, id), "@SeasonID", [&] {
+            return Texts{fmt::format("SeasonID {} is negative", id.as_int()),
+                         "the rec has no season" + dropped(node.child(tag::SeasonName))};
+        });
     }
 
     /// What becomes of a name that is not read.

@@ -1,6 +1,7 @@
 #include "tools/check/PlausibilityCheck.h"
 
 #include <string>
+#include <string_view>
 
 #include <fmt/format.h>
 
@@ -26,6 +27,18 @@ struct Value {
     NumberReading number;
 };
 
+/// The rates of a RecStats element.
+struct Rates {
+    explicit Rates(pugi::xml_node recStats)
+        : minimum(recStats, tag::MinimumRate),
+          average(recStats, tag::AverageRate),
+          maximum(recStats, tag::MaximumRate) {}
+
+    Value minimum;
+    Value average;
+    Value maximum;
+};
+
 void checkOrder(CheckReport& report, const Value& small, const Value& large) {
     if (!small.node || !large.node || !(small.number.value > large.number.value))
         return;
@@ -34,6 +47,26 @@ void checkOrder(CheckReport& report, const Value& small, const Value& large) {
                                  large.number.read),
                      "the rates are kept as they are"};
     });
+}
+
+void checkUnit(CheckReport& report, const Rates& rates, pugi::xml_node child) {
+    const pugi::xml_node recStats = child.parent();
+    const bool hasUnit = *recStats.child(tag::RateUOM).text().as_string() != '\0' ||
+                         recStats.child(tag::RateUOMID).text().as_int() != 0;
+    if (hasUnit)
+        return;
+    for (const Value* rate : {&rates.minimum, &rates.average, &rates.maximum}) {
+        if (rate->number.value == 0)
+            continue;
+        if (rate->node == child) // The unit is that of all rates: it is missing once.
+            report.add(
+                FindingCode::RateWithoutUnit, report.source().offset(child), rate->name, [&] {
+                    return Texts{fmt::format("{} is {}, without a {} or {}", rate->name,
+                                             rate->number.read, tag::RateUOM, tag::RateUOMID),
+                                 "nobody can tell what the rates mean"};
+                });
+        return;
+    }
 }
 
 void checkRange(CheckReport& report, const Value& value, double limit) {
@@ -48,37 +81,21 @@ void checkRange(CheckReport& report, const Value& value, double limit) {
 
 } // namespace
 
-void checkRates(CheckReport& report, pugi::xml_node recStats) {
-    const Value minimum(recStats, tag::MinimumRate);
-    const Value average(recStats, tag::AverageRate);
-    const Value maximum(recStats, tag::MaximumRate);
-    checkOrder(report, minimum, average);
-    checkOrder(report, average, maximum);
-    if (!average.node)
-        checkOrder(report, minimum, maximum);
-
-    const bool hasUnit = *recStats.child(tag::RateUOM).text().as_string() != '\0' ||
-                         recStats.child(tag::RateUOMID).text().as_int() != 0;
-    for (const Value* rate : {&minimum, &average, &maximum}) {
-        if (hasUnit || rate->number.value == 0)
-            continue;
-        report.add(FindingCode::RateWithoutUnit, report.source().offset(rate->node), rate->name,
-                   [&] {
-                       return Texts{fmt::format("{} is {}, without a {} or {}", rate->name,
-                                                rate->number.read, tag::RateUOM, tag::RateUOMID),
-                                    "nobody can tell what the rates mean"};
-                   });
+void checkRate(CheckReport& report, pugi::xml_node child) {
+    const std::string_view name = child.name();
+    if (name != tag::MinimumRate && name != tag::AverageRate && name != tag::MaximumRate)
         return;
-    }
+    const Rates rates(child.parent());
+    if (child == rates.minimum.node)
+        checkOrder(report, rates.minimum, rates.average.node ? rates.average : rates.maximum);
+    else if (child == rates.average.node)
+        checkOrder(report, rates.average, rates.maximum);
+    checkUnit(report, rates, child);
 }
 
 void checkCentroid(CheckReport& report, pugi::xml_node fieldCentroid) {
-    constexpr double poles = 90;
-    constexpr double halfCircle = 180;
     const Value latitude(fieldCentroid, tag::Latitude);
     const Value longitude(fieldCentroid, tag::Longitude);
-    checkRange(report, latitude, poles);
-    checkRange(report, longitude, halfCircle);
     const bool zero = latitude.number.value == 0 && longitude.number.value == 0;
     if (latitude.node && longitude.node && !zero)
         return;
@@ -92,4 +109,12 @@ void checkCentroid(CheckReport& report, pugi::xml_node fieldCentroid) {
                      fmt::format("the centroid is read as ({}, {})", latitude.number.read,
                                  longitude.number.read)};
     });
+}
+
+void checkCoordinate(CheckReport& report, pugi::xml_node coordinate) {
+    constexpr double poles = 90;
+    constexpr double halfCircle = 180;
+    const bool latitude = std::string_view(coordinate.name()) == tag::Latitude;
+    const char* const name = latitude ? tag::Latitude : tag::Longitude;
+    checkRange(report, Value(coordinate.parent(), name), latitude ? poles : halfCircle);
 }

@@ -5,10 +5,13 @@
 
 #include "tools/check/CheckReport.h"
 
-/// Checks whether the rates of a RecStats element make sense.
-void checkRates(CheckReport& report, pugi::xml_node recStats);
+/// Checks whether a child of a RecStats element, if it is a rate, makes sense beside the others.
+void checkRate(CheckReport& report, pugi::xml_node child);
 
-/// Checks whether the coordinates of a FieldCentroid element make sense.
+/// Checks whether a FieldCentroid element tells a place.
 void checkCentroid(CheckReport& report, pugi::xml_node fieldCentroid);
+
+/// Checks whether a coordinate in a FieldCentroid element is one of the earth.
+void checkCoordinate(CheckReport& report, pugi::xml_node coordinate);
 
 #endif

@@ -81,8 +81,10 @@ void unknownProduct(CheckReport& report, pugi::xml_node node) {
     }
     report.add(FindingCode::ProductUnknown, report.source().offset(node), node.name(), [&] {
         std::vector<const char*> names;
-        for (const DatumFormat& product : format::recData().children)
-            names.push_back(product.name);
+        for (const DatumFormat& product : format::recData().children) {
+            if (!node.parent().child(product.name))
+                names.push_back(product.name);
+        }
         const std::string_view nearest = nearestName(node.name(), names);
         return Texts{fmt::format("\"{}\" is no product{}", escapeExcerpt(node.name()),
                                  nearest.empty() ? "" : fmt::format("; is {} meant?", nearest)),
@@ -94,8 +96,8 @@ void checkFirst(ElementCheck& check, pugi::xml_node first) {
     CheckReport& report = check.report();
     if (isText(first)) {
         report.add(FindingCode::TextBeforeProduct, report.source().offset(first), "text()", [&] {
-            return Texts{fmt::format("the text \"{}\" stands where the product has to be",
-                                     escapeExcerpt(trimmed(first.value()))),
+            return Texts{fmt::format("the text {} stands where the product has to be",
+                                     quotedText(first.value())),
                          withoutProduct};
         });
         return;
@@ -107,34 +109,39 @@ void checkFirst(ElementCheck& check, pugi::xml_node first) {
     unknownProduct(report, first);
 }
 
+void secondProduct(CheckReport& report, pugi::xml_node product, pugi::xml_node second,
+                   std::size_t number) {
+    report.add(FindingCode::SecondProduct, report.source().offset(second),
+               pathStep(second.name(), number), [&] {
+                   return Texts{fmt::format("{} follows {}; a rec has one product",
+                                            escapeExcerpt(second.name()),
+                                            escapeExcerpt(product.name())),
+                                fmt::format("{} is ignored", escapeExcerpt(second.name()))};
+               });
+}
+
 } // namespace
 
 void checkRecData(ElementCheck& check, pugi::xml_node node) {
     CheckReport& report = check.report();
     const CheckReport::Inside inside(report, node.name());
-    check.attributes(format::recData().attributes, node);
     const pugi::xml_node first = node.first_child();
-    if (!first) {
+    if (!first)
         report.add(FindingCode::NoProduct, report.source().offset(node), "", [] {
             return Texts{"RecData is empty", withoutProduct};
         });
-        return;
-    }
-    checkFirst(check, first);
-
-    bool hasElement = !isText(first);
-    for (pugi::xml_node later = first.next_sibling(); later; later = later.next_sibling()) {
-        if (isText(later)) {
-            check.strayText(format::recData(), later);
-        } else if (hasElement) {
-            report.add(FindingCode::SecondProduct, report.source().offset(later), later.name(),
-                       [&] {
-                           return Texts{fmt::format("{} follows {}; a rec has one product",
-                                                    escapeExcerpt(later.name()),
-                                                    escapeExcerpt(first.name())),
-                                        fmt::format("{} is ignored", escapeExcerpt(later.name()))};
-                       });
-        }
-        hasElement = hasElement || !isText(later);
+    check.attributes(format::recData().attributes, node);
+    NameCounts names;
+    pugi::xml_node product; // the first element
+    for (const pugi::xml_node child : node.children()) {
+        const std::size_t number = names.next(child.name());
+        if (child == first)
+            checkFirst(check, first);
+        else if (isText(child))
+            check.strayText(format::recData(), child);
+        else if (product)
+            secondProduct(report, product, child, number);
+        if (!product && !isText(child))
+            product = child;
     }
 }

@@ -1,0 +1,115 @@
+#include "tools/check/PlausibilityCheck.h"
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/PackageText.h"
+#include "tests/tools/check/Findings.h"
+
+namespace {
+
+std::string packageWithRates(const std::string& rates) {
+    return test::packageWithRec(test::element("RecStats", rates));
+}
+
+std::string rates(const std::string& minimum, const std::string& average,
+                  const std::string& maximum) {
+    return test::element("MinimumRate", minimum) + test::element("AverageRate", average) +
+           test::element("MaximumRate", maximum);
+}
+
+std::string disorder(const std::string& rates) {
+    std::string found;
+    for (const Finding& finding : test::findingsIn(packageWithRates(rates))) {
+        if (finding.code == "rate-order")
+            found += finding.found + "\n";
+    }
+    return found;
+}
+
+TEST(PlausibilityCheck, FindsNothingOddAboutRatesInOrder) {
+    EXPECT_EQ(disorder(rates("1", "2", "3")), "");
+}
+
+TEST(PlausibilityCheck, FindsNothingOddAboutAUniformRate) {
+    EXPECT_EQ(disorder(rates("135.5", "135.5", "135.5")), "");
+    EXPECT_EQ(disorder("<MinimumRate>7</MinimumRate><MaximumRate>7</MaximumRate>"), "");
+}
+
+TEST(PlausibilityCheck, FindsEveryPairOfRatesOutOfOrder) {
+    EXPECT_EQ(disorder(rates("2", "1", "3")), "MinimumRate 2 is above AverageRate 1\n");
+    EXPECT_EQ(disorder(rates("1", "3", "2")), "AverageRate 3 is above MaximumRate 2\n");
+    EXPECT_EQ(disorder(rates("3", "2", "1")), "MinimumRate 3 is above AverageRate 2\n"
+                                              "AverageRate 2 is above MaximumRate 1\n");
+    EXPECT_EQ(disorder("<MinimumRate>3</MinimumRate><MaximumRate>1</MaximumRate>"),
+              "MinimumRate 3 is above MaximumRate 1\n");
+    EXPECT_EQ(disorder("<MinimumRate>3</MinimumRate>"), "");
+    EXPECT_EQ(disorder("<AverageRate>3</AverageRate>"), "");
+}
+
+TEST(PlausibilityCheck, PointsAtTheRateThatIsAboveAnother) {
+    const Finding finding = test::findingOf(
+        packageWithRates("<MaximumRate>1</MaximumRate>\n<AverageRate>3</AverageRate>"),
+        "rate-order");
+    EXPECT_EQ(test::excerptOf(finding).substr(0, 13), "<AverageRate>");
+    EXPECT_EQ(finding.position->line, 2U);
+    EXPECT_EQ(finding.path.substr(finding.path.rfind('/')), "/AverageRate");
+    EXPECT_EQ(finding.consequence, "the rates are kept as they are");
+}
+
+TEST(PlausibilityCheck, MissesTheUnitOfRatesOnce) {
+    const auto unitless = [](const std::string& content) {
+        return test::findingTexts(packageWithRates(content), "rate-without-unit");
+    };
+    EXPECT_EQ(test::findingOf(packageWithRates(rates("0", "2", "3")), "rate-without-unit").found,
+              "AverageRate is 2, without a RateUOM or RateUOMID");
+    EXPECT_EQ(test::findingOf(packageWithRates(rates("1", "2", "3")), "rate-without-unit").found,
+              "MinimumRate is 1, without a RateUOM or RateUOMID");
+    EXPECT_EQ(unitless(rates("0", "0", "0")), "");
+    EXPECT_EQ(unitless(rates("1", "2", "3") + "<RateUOM>kg/ha</RateUOM>"), "");
+    EXPECT_EQ(unitless(rates("1", "2", "3") + "<RateUOMID>11</RateUOMID>"), "");
+    EXPECT_NE(unitless(rates("1", "2", "3") + "<RateUOMID>0</RateUOMID>"), "");
+}
+
+std::string outOfRange(const std::string& latitude, const std::string& longitude) {
+    std::string found;
+    for (const Finding& finding : test::findingsIn(test::packageWithField(
+             test::element("FieldCentroid", test::element("Latitude", latitude) +
+                                                test::element("Longitude", longitude))))) {
+        if (finding.code == "centroid-range")
+            found += finding.found + "\n";
+    }
+    return found;
+}
+
+TEST(PlausibilityCheck, FindsCoordinatesThatAreNotOnTheEarth) {
+    EXPECT_EQ(outOfRange("90", "180"), "");
+    EXPECT_EQ(outOfRange("-90", "-180"), "");
+    EXPECT_EQ(outOfRange("90.5", "-180.5"), "Latitude 90.5 is not between -90 and 90\n"
+                                            "Longitude -180.5 is not between -180 and 180\n");
+    EXPECT_EQ(outOfRange("-91", "181"), "Latitude -91 is not between -90 and 90\n"
+                                        "Longitude 181 is not between -180 and 180\n");
+    EXPECT_EQ(outOfRange("nan", "100"), "Latitude nan is not between -90 and 90\n");
+}
+
+TEST(PlausibilityCheck, FindsACentroidThatTellsNoPlace) {
+    const auto found = [](const std::string& centroid) {
+        const Finding finding = test::findingOf(test::packageWithField(centroid), "centroid-zero");
+        return finding.found + " -> " + finding.consequence;
+    };
+    EXPECT_EQ(found(""), "FieldCentroid is missing -> the centroid is read as (0, 0)");
+    EXPECT_EQ(found("<FieldCentroid/>"),
+              "Latitude is missing, Longitude is missing -> the centroid is read as (0, 0)");
+    EXPECT_EQ(found("<FieldCentroid><Longitude>16.5</Longitude></FieldCentroid>"),
+              "Latitude is missing -> the centroid is read as (0, 16.5)");
+    EXPECT_EQ(
+        found("<FieldCentroid><Latitude>0</Latitude><Longitude>0</Longitude></FieldCentroid>"),
+        "latitude and longitude are 0 -> the centroid is read as (0, 0)");
+    EXPECT_EQ(test::findingTexts(test::packageWithField("<FieldCentroid><Latitude>0</Latitude>"
+                                                        "<Longitude>7</Longitude></FieldCentroid>"),
+                                 "centroid-zero"),
+              "");
+}
+
+} // namespace
