@@ -96,7 +96,7 @@ TEST_F(Diagnosis, FindsThatAFileNameHasNoUuid) {
     EXPECT_EQ(diagnosisOf(folder_.write("00112233-44556677-8899-aabbccddeeff_.xml", "<a>")),
               "the file name holds no package UUID" + expected);
     const std::string shortPath = "/proc/version"; // there on every machine
-    EXPECT_EQ(diagnosisOf(shortPath), "the path has 13 of at least 40 characters" + expected);
+    EXPECT_EQ(diagnosisOf(shortPath), "the path has 13 of at least 40 bytes" + expected);
 }
 
 TEST_F(Diagnosis, FindsWhereAFileIsNotWellFormed) {

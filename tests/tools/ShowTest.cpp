@@ -234,7 +234,7 @@ TEST_F(Show, ReportsEveryKindOfFailureAndGoesOn) {
             "qenxml: " +
             nameC +
             ":1:1: the root element is \"Package\" instead of RecPackage; the file is skipped\n"
-            "qenxml: short.xml: the path has 9 of at least 40 characters" +
+            "qenxml: short.xml: the path has 9 of at least 40 bytes" +
             expected +
             "qenxml: 00000000-00000000-0000-000000000000_.xml: the file name holds no "
             "package UUID" +

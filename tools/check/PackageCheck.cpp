@@ -61,7 +61,7 @@ void checkName(const std::string& path, FindingSink& sink) {
     const std::string expected = fmt::format("a name such as {} is expected", packageNameForm);
     if (path.size() < shortestPackagePath) {
         addAboutFile(sink, FindingCode::PathTooShort,
-                     fmt::format("the path has {} of at least {} characters; {}", path.size(),
+                     fmt::format("the path has {} of at least {} bytes; {}", path.size(),
                                  shortestPackagePath, expected),
                      "nothing of the file is read when it is given by this path");
         return;
@@ -105,7 +105,7 @@ class Utf8Check : public FindingSink {
 public:
     Utf8Check(const SourceText& source, FindingSink& sink) : sink_(sink) {
         const std::optional<std::size_t> offset = firstInvalidByte(source.text());
-        if (!offset || !sink_.wants(FindingCode::InvalidUtf8))
+        if (!offset)
             return;
         finding_ = findingAt(
             FindingCode::InvalidUtf8, source, *offset,
@@ -124,7 +124,7 @@ public:
 
     /// Nothing else comes.
     void finish() {
-        if (finding_)
+        if (finding_ && sink_.wants(FindingCode::InvalidUtf8))
             sink_.add(*finding_);
         finding_.reset();
     }

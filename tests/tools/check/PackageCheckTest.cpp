@@ -324,6 +324,15 @@ TEST_F(PackageCheck, SaysOfAFileThatIsNotThereNoMoreThanThat) {
     }
 }
 
+TEST_F(PackageCheck, CountsThePathInBytes) {
+    const std::string path = fs::path(folder_.write("\u00e9.xml", "<RecPackage/>")).filename();
+    const fs::path before = fs::current_path();
+    fs::current_path(folder_.path(""));
+    const std::string found = checkPackage(path).front().found;
+    fs::current_path(before);
+    EXPECT_EQ(found.substr(0, found.find(';')), "the path has 6 of at least 40 bytes");
+}
+
 TEST_F(PackageCheck, NamesTheDeclaredEncodingAsTheCauseOfBytesThatAreNotUtf8) {
     const auto found = [&](const std::string& declaration) {
         const std::vector<Finding> findings = checkPackage(folder_.writePackage(
