@@ -1,5 +1,6 @@
 // Checks any bytes as a package: errors are found if and only if the library cannot read it, every
-// text is safe to print, every place is in the file, and findings come in the order of their places.
+// text is safe to print, every place is in the file, and findings come in the order of their
+// places.
 
 #include <algorithm>
 #include <cstdint>

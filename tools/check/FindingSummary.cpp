@@ -1,7 +1,5 @@
 #include "tools/check/FindingSummary.h"
 
-#include <algorithm>
-
 #include <fmt/format.h>
 
 namespace {
@@ -92,10 +90,10 @@ bool FindingSummary::hasRoom(FindingCode code) const {
 }
 
 void FindingSummary::keep(const Finding& finding) {
-    const auto kind =
-        std::find_if(findingKinds.begin(), findingKinds.end(),
-                     [&](const FindingKind& wanted) { return finding.code == wanted.code; });
-    groups_.at(static_cast<std::size_t>(kind - findingKinds.begin())).first.push_back(finding);
+    for (std::size_t code = 0; code < groups_.size(); ++code) {
+        if (finding.code == findingKinds[code].code)
+            groups_[code].first.push_back(finding);
+    }
 }
 
 std::string FindingSummary::text(const std::string& file, const Style& style) const {
