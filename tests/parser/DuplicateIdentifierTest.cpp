@@ -117,6 +117,18 @@ TEST(DuplicateIdentifier, OfFarmsLeavesTheLastInThePlaceOfTheFirst) {
     EXPECT_EQ(uuid(22), grower.farms()[0].fields()[0].id());
 }
 
+TEST(DuplicateIdentifier, OfFarmsThatAlternateLeavesOneOfEach) {
+    const auto farm = [](const std::string& firstDigits, const std::string& name) {
+        return "<Farm FarmID='" + firstDigits + "-2233-4455-6677-8899aabbccdd'>" +
+               element("FarmName", name) + "</Farm>";
+    };
+    QenGrower grower = readGrower(farm("00000000", "first") + farm("00000001", "other first") +
+                                  farm("00000000", "last") + farm("00000001", "other last"));
+    ASSERT_EQ(2U, grower.farms().size());
+    EXPECT_EQ("last", grower.farms()[0].name());
+    EXPECT_EQ("other last", grower.farms()[1].name());
+}
+
 TEST(DuplicateIdentifier, OfFieldsLeavesTheLastInThePlaceOfTheFirst) {
     const auto field = [](unsigned number, const std::string& name, unsigned rec) {
         return test::field(number,

@@ -12,6 +12,8 @@
 
 namespace {
 
+using std::string_literals::operator""s;
+
 boost::uuids::uuid uuidOf(std::uint64_t first, std::uint64_t second) {
     boost::uuids::uuid id{};
     std::memcpy(id.begin(), &first, sizeof first);
@@ -70,6 +72,21 @@ TEST(DuplicateIdentifiers, AreFoundAmongIdentifiersThatAllShareASlot) {
     }
     qenxml::keepLastOfEachIdentifier(farms);
     EXPECT_EQ(expected, names(farms));
+}
+
+TEST(DuplicateIdentifiers, ThatAlternateAreFoundWhicheverOfTheirBytesDiffers) {
+    for (std::size_t byte = 0; byte < 16; ++byte) {
+        SCOPED_TRACE(byte);
+        boost::uuids::uuid other{};
+        other.begin()[byte] = 1;
+        std::vector<QenFarm> farms;
+        for (const char* name : {"first", "second"}) {
+            farms.emplace_back(name, boost::uuids::uuid{}, boost::uuids::uuid{});
+            farms.emplace_back("other "s + name, other, boost::uuids::uuid{});
+        }
+        qenxml::keepLastOfEachIdentifier(farms);
+        EXPECT_EQ((std::vector<std::string>{"second", "other second"}), names(farms));
+    }
 }
 
 TEST(DuplicateIdentifiers, AreNotSuspectedAmongAFewOrdinaryOnes) {
