@@ -31,7 +31,9 @@ public:
     QenFarm(const std::string& name, const boost::uuids::uuid& id,
             const boost::uuids::uuid& growerId);
 
-    std::string name() const; ///< Display name, as the package holds it (UTF-8); may be empty.
+    /// Display name; may be empty. From a package it is UTF-8, unless the package holds bytes that
+    /// are none.
+    std::string name() const;
 
     void setName(std::string name); ///< Replaces the display name.
 
@@ -65,8 +67,12 @@ public:
     ///
     /// A rec or geometry that both hold keeps the content that it has in @p other. (When growers
     /// are merged it is the other way round: QenGrower::merge() calls this operation with swapped
-    /// roles.) Of two fields in @p other with an id that this farm lacks, the second one absorbs
-    /// the first one and takes its place.
+    /// roles.)
+    ///
+    /// Several fields with one id, which a host may have put into a list by way of fields(): those
+    /// of @p other absorb each other in turn, and the last one, with its name, takes the place of
+    /// the first field with that id here, or is appended; others with that id here stay as they
+    /// are. So merging a farm with itself changes nothing unless its list holds two such fields.
     ///
     /// When memory runs out, the fields added so far stay.
     void merge(QenFarm other);

@@ -70,7 +70,9 @@ public:
     /// Destroys the recs with their product data.
     ~QenField();
 
-    std::string name() const; ///< Display name, as the package holds it (UTF-8); may be empty.
+    /// Display name; may be empty. From a package it is UTF-8, unless the package holds bytes that
+    /// are none.
+    std::string name() const;
 
     void setName(std::string name); ///< Replaces the display name.
 
@@ -121,17 +123,22 @@ public:
     /// Appends a copy of @p geometry, also when the field has one with the same identifier.
     void addFieldGeometry(const QenFieldGeometry& geometry);
 
-    /// Assigns @p rec to the first rec with the same id, which keeps its place, or else appends a
-    /// copy. As this is an assignment of QenRec, the product data of a rec that is replaced is not
-    /// deleted: it belongs to the caller, who takes the pointer beforehand. When memory runs out,
-    /// nothing has changed.
+    /// Puts @p rec in the place of the first rec with the same id, or else appends it. As when a
+    /// QenRec is assigned, the product data of a rec that is replaced is not deleted: it belongs to
+    /// the caller, who takes the pointer beforehand. When memory runs out, nothing has changed.
+    ///
+    /// A rec of the caller, std::move() of it included, is copied with its product data. A
+    /// temporary is not copied but taken over: the object that its recData() pointed to is that of
+    /// the field's rec then. Product data whose kind is none of the four variants is dropped in
+    /// either case.
     void addRec(QenRec rec);
 
     /// Adds what @p other, another version of the same field, has beyond this one: its recs with
     /// new ids, then its geometries with new identifiers, each appended in order; of several with
     /// the same new identifier only the first one. What this field has already stays as it is, its
-    /// name and several geometries with one identifier included. Does nothing when the two ids
-    /// differ. The argument is a copy: the caller's field stays as it is.
+    /// name and several recs or geometries with one identifier included; so merging a field with
+    /// itself changes nothing. Does nothing when the two ids differ. The argument is a copy: the
+    /// caller's field stays as it is.
     ///
     /// When memory runs out, the recs and geometries added so far stay.
     void merge(QenField other);

@@ -28,7 +28,9 @@ public:
     /// @param id   identity of the grower
     QenGrower(const std::string& name, const boost::uuids::uuid& id);
 
-    std::string name() const; ///< Display name, as the package holds it (UTF-8); may be empty.
+    /// Display name; may be empty. From a package it is UTF-8, unless the package holds bytes that
+    /// are none.
+    std::string name() const;
 
     void setName(std::string name); ///< Replaces the display name.
 
@@ -60,9 +62,15 @@ public:
     /// grower's name, recs and geometries remain and come first; a rec that both hold keeps the
     /// content that it has here.
     ///
-    /// Of two farms in @p other with an id that this grower lacks, the second one absorbs the first
-    /// one and takes its place. For each child the list is searched from the front, so the time
-    /// grows with the product of the lengths of both lists.
+    /// Several farms with one id, which a host may have put into a list by way of farms(): those of
+    /// @p other absorb each other in turn, and the last one, with its name, takes the place of the
+    /// first farm with that id here, or is appended; others with that id here stay as they are. So
+    /// it is, with swapped roles, with several fields of a farm that both hold: see
+    /// QenFarm::merge(). Merging a grower with itself changes nothing unless some list in it holds
+    /// two such farms or fields.
+    ///
+    /// For each child the list is searched from the front, so the time grows with the product of
+    /// the lengths of both lists.
     ///
     /// When memory runs out, the farms added so far stay.
     void merge(QenGrower other);

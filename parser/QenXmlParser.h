@@ -29,10 +29,13 @@
 /// read.
 ///
 /// Errors: what is broken in a package is an exception, raised where it occurs and never caught by
-/// the library. An identifier that is absent, empty or malformed is std::runtime_error with the
-/// text "invalid uuid string", which can be caught as boost::exception too. std::bad_alloc comes
-/// out when memory runs out. Absent names, dates and numbers are no errors: they read as empty
-/// texts and zeros.
+/// the library. A mandatory identifier that is absent, empty or malformed is std::runtime_error
+/// with the text "invalid uuid string", which can be caught as boost::exception too. Mandatory are
+/// the attributes GrowerID, FarmID, FieldID and RecID; the elements FieldGeometryID, FieldGeometry
+/// and RecGeometry; OpID, where there is an Operation; and ProductID, where a CustomFertilizer is
+/// complete. MgmtZoneID may be absent or empty, but not malformed. std::bad_alloc comes out when
+/// memory runs out. Absent names, dates and numbers are no errors: they read as empty texts and
+/// zeros.
 ///
 /// The element readers read one element each, whatever its name, and may be called by a host that
 /// has a document of its own. They take the identifiers of the enclosing records, and use nothing
@@ -45,8 +48,10 @@
 /// several farms of a grower, fields of a farm or recs of a field with one identifier, the last one
 /// takes the place of the first.
 ///
-/// Texts are taken verbatim. Numbers are converted by the rules of pugixml, without an error and
-/// alike in every locale: a text that is no number is 0.
+/// A text is the first piece of text of its element, up to a child element, a comment or the like,
+/// and is not trimmed; plain white space alone reads as an empty text. Line ends become line feeds,
+/// and character references and the five entities of XML are resolved. Numbers are converted by the
+/// rules of pugixml, without an error and alike in every locale: a text that is no number is 0.
 ///
 /// Threads: one parser is used by one thread at a time; separate parsers share nothing.
 ///
@@ -65,14 +70,17 @@ public:
 
     /// Reads a package file and appends its growers, in document order.
     ///
-    /// The UUID of the package is taken from the path: the 36 characters before the last four,
+    /// The UUID of the package is taken from the path: the 36 bytes before the last four,
     /// whatever the last four are ("….xml"). This comes first, so that a path without a UUID is an
     /// exception even when the file is fine.
     ///
-    /// @param path path of the file; at least 40 characters
+    /// The file has to be a regular one: opening a pipe waits until somebody writes into it.
+    ///
+    /// @param path path of the file; at least 40 bytes
     /// @return true when the file was read, even if it holds no grower; false when it cannot be
-    ///         loaded as XML, for lack of memory included, or has no root element "RecPackage"
-    /// @throws std::out_of_range  the path is shorter than 40 characters
+    ///         loaded as XML, for lack of memory included, or has no root element "RecPackage".
+    ///         Much that is not well-formed is loaded all the same.
+    /// @throws std::out_of_range  the path is shorter than 40 bytes
     /// @throws std::runtime_error "invalid uuid string": the path carries no UUID, or an identifier
     ///                            in the package is absent, empty or malformed. The growers before
     ///                            the failing one stay; it and the rest of the file are not read.

@@ -13,11 +13,11 @@ std::string read(QenXmlParser& parser, const std::string& path) {
     try {
         if (parser.parseFile(path))
             return "read";
-        return "cannot be opened, is no XML, or has no RecPackage";
+        return "cannot be loaded as XML, or has no RecPackage";
     } catch (const std::out_of_range&) {
         return "the path is too short to hold the UUID of a package";
     } catch (const std::runtime_error& error) { // an identifier that is absent, empty or malformed
-        return std::string(error.what()) + ", only the growers before it are read";
+        return std::string(error.what()) + ", in the path or after the growers that are read";
     }
 }
 //! [read]
@@ -27,6 +27,7 @@ int main() {
     const std::vector<std::string> paths = {
         "32833106-536e-45df-80b2-d002cc92d33d.xml",
         "broken/rec-id/5ee118ce-09bf-4cfe-ad36-a8f803f97869.xml",
+        "broken/name-without-uuid/planting-recommendations-spring-2026.xml",
         "00112233-4455-6677-8899-aabbccddeeff.xml", // there is no such file
         "a.xml",
     };

@@ -93,6 +93,19 @@ TEST(MergeOfDuplicates, OfAFarmWithItselfPutsTheLastFieldWithThoseBeforeItIntoTh
     EXPECT_EQ(namesOf(here), "farm(second(c d a ) other() second(c d ) )");
 }
 
+TEST(MergeOfDuplicates, InAFarmThatTwoGrowersHoldMakesOneOfTheFieldsHereAlone) {
+    QenGrower here("here", test::uuid(1));
+    here.farms() = {
+        farm(1, "a", {field(11, "first", {rec(21, "a")}), field(11, "second", {rec(22, "b")})})};
+    QenGrower there("there", test::uuid(1));
+    there.farms() = {farm(1, "b", {})};
+    QenGrower hereWithThere = here;
+    hereWithThere.merge(there);
+    EXPECT_EQ(namesOf(hereWithThere), "here(b(second(b a ) ) )");
+    there.merge(here);
+    EXPECT_EQ(namesOf(there), "there(a(first(a ) second(b ) ) )");
+}
+
 TEST(MergeOfDuplicates, OfAFieldWithItselfLeavesItsRecsAndGeometriesAlone) {
     QenField here = field(11, "field", {rec(21, "first"), rec(21, "second")});
     here.addFieldGeometry(QenFieldGeometry(test::uuid(31), "first", {}, LLA{}));
