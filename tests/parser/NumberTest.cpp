@@ -95,6 +95,24 @@ TEST(Number, OfAnUnusualTextIsThatOfTheXmlLibrary) {
     }
 }
 
+TEST(Number, OfEveryLengthAndPlaceOfThePointIsThatOfTheXmlLibrary) {
+    for (const std::string digits :
+         {"9514242627359937", "7290416377907104495", "1000000000000000001"})
+        for (std::size_t length = 1; length <= digits.size(); ++length)
+            for (std::size_t place = 0; place <= length; ++place) {
+                std::string text = digits.substr(0, length);
+                text.insert(place, ".");
+                EXPECT_TRUE(isReadAsByTheXmlLibrary(text)) << text;
+                EXPECT_TRUE(isReadAsByTheXmlLibrary("-" + text)) << text;
+            }
+}
+
+TEST(Number, OfOneCharacterManyTimesIsThatOfTheXmlLibrary) {
+    for (char c = ' '; c < '\x7F'; ++c)
+        for (std::size_t times = 1; times <= 20; ++times)
+            EXPECT_TRUE(isReadAsByTheXmlLibrary(std::string(times, c))) << times << c;
+}
+
 RC_GTEST_PROP(Number, OfAnyTextIsThatOfTheXmlLibrary, ()) {
     const auto digit = rc::gen::elementOf(std::string("0123456789"));
     const auto other = rc::gen::elementOf(std::string("+-.eExXpPaAfFiInN ,\t"));
