@@ -7,6 +7,7 @@
 #include <ostream>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -40,7 +41,7 @@ PesticideRec* mix() {
     return result;
 }
 
-const Kind kinds[] = {
+const std::vector<Kind> kinds = {
     {"CommercialFertilizer",
      [] { return new CommercialFertilizerRec(test::uuid(1), 46, "Urea", 12, "lb"); }},
     {"CustomFertilizer",
@@ -58,69 +59,69 @@ const Kind kinds[] = {
 class ProductDataInLists : public testing::TestWithParam<Kind> {
 protected:
     ProductDataInLists() {
-        rec.setId(test::uuid(1));
-        rec.setRecData(GetParam().make());
-        field.recs().push_back(rec);
-        farm.fields().push_back(field);
-        grower.farms().push_back(farm);
+        rec_.setId(test::uuid(1));
+        rec_.setRecData(GetParam().make());
+        field_.recs().push_back(rec_);
+        farm_.fields().push_back(field_);
+        grower_.farms().push_back(farm_);
     }
 
     void expectIn(QenRec& found) {
-        EXPECT_EQ(test::describe(rec.recData()), test::describe(found.recData()));
-        EXPECT_NE(rec.recData(), found.recData());
+        EXPECT_EQ(test::describe(rec_.recData()), test::describe(found.recData()));
+        EXPECT_NE(rec_.recData(), found.recData());
     }
 
     void expectIn(QenField& found) { expectIn(found.recs().at(0)); }
     void expectIn(QenFarm& found) { expectIn(found.fields().at(0)); }
     void expectIn(QenGrower& found) { expectIn(found.farms().at(0)); }
 
-    QenRec rec;
-    QenField field{"field", test::uuid(11), {}, {}};
-    QenFarm farm{"farm", test::uuid(12), {}};
-    QenGrower grower{"grower", test::uuid(13)};
+    QenRec rec_;
+    QenField field_{"field", test::uuid(11), {}, {}};
+    QenFarm farm_{"farm", test::uuid(12), {}};
+    QenGrower grower_{"grower", test::uuid(13)};
 };
 
 } // namespace
 
 TEST_P(ProductDataInLists, IsThereWhenTheRecIsAdded) {
     QenField other;
-    other.addRec(rec);
+    other.addRec(rec_);
     expectIn(other);
     delete other.recs().at(0).recData(); // addRec() leaves it to the caller
     other.recs().at(0).setRecData(nullptr);
-    other.addRec(rec); // in the place of the first one
+    other.addRec(rec_); // in the place of the first one
     expectIn(other);
 }
 
 TEST_P(ProductDataInLists, IsThereWhenTheFieldIsAdded) {
     QenFarm other;
-    other.addField(field);
+    other.addField(field_);
     expectIn(other);
-    other.addField(field);
+    other.addField(field_);
     expectIn(other);
 }
 
 TEST_P(ProductDataInLists, IsThereWhenTheFarmIsAdded) {
     QenGrower other;
-    other.addFarm(farm);
+    other.addFarm(farm_);
     expectIn(other);
-    other.addFarm(farm);
+    other.addFarm(farm_);
     expectIn(other);
 }
 
 TEST_P(ProductDataInLists, IsThereWhenItsRecordsAreMerged) {
     QenField otherField("field", test::uuid(11), {}, {});
-    otherField.merge(field);
+    otherField.merge(field_);
     expectIn(otherField);
     QenFarm otherFarm("farm", test::uuid(12), {});
-    otherFarm.merge(farm);
+    otherFarm.merge(farm_);
     expectIn(otherFarm);
-    otherFarm.merge(farm);
+    otherFarm.merge(farm_);
     expectIn(otherFarm);
     QenGrower otherGrower("grower", test::uuid(13));
-    otherGrower.merge(grower);
+    otherGrower.merge(grower_);
     expectIn(otherGrower);
-    otherGrower.merge(grower);
+    otherGrower.merge(grower_);
     expectIn(otherGrower);
 }
 

@@ -12,8 +12,6 @@
 
 namespace {
 
-using std::string_literals::operator""s;
-
 boost::uuids::uuid uuidOf(std::uint64_t first, std::uint64_t second) {
     boost::uuids::uuid id{};
     std::memcpy(id.begin(), &first, sizeof first);
@@ -38,6 +36,7 @@ boost::uuids::uuid collidingId(std::uint64_t number) {
 
 std::vector<std::string> names(std::vector<QenFarm>& farms) {
     std::vector<std::string> result;
+    result.reserve(farms.size());
     for (QenFarm& farm : farms)
         result.push_back(farm.name());
     return result;
@@ -82,7 +81,7 @@ TEST(DuplicateIdentifiers, ThatAlternateAreFoundWhicheverOfTheirBytesDiffers) {
         std::vector<QenFarm> farms;
         for (const char* name : {"first", "second"}) {
             farms.emplace_back(name, boost::uuids::uuid{}, boost::uuids::uuid{});
-            farms.emplace_back("other "s + name, other, boost::uuids::uuid{});
+            farms.emplace_back(std::string("other ") + name, other, boost::uuids::uuid{});
         }
         qenxml::keepLastOfEachIdentifier(farms);
         EXPECT_EQ((std::vector<std::string>{"second", "other second"}), names(farms));

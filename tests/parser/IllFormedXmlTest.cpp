@@ -14,8 +14,6 @@
 
 namespace {
 
-using std::string_literals::operator""s;
-
 /// A grower with a name and a tree that ends with a rate.
 std::string grower(const std::string& name, const std::string& attributes = "") {
     const std::string rate = "<RecStats><AverageRate>12.75</AverageRate></RecStats>";
@@ -55,7 +53,7 @@ Reading read(const std::string& content) {
     return {read, parser.getGrowers()};
 }
 
-const Case readCases[] = {
+const std::vector<Case> readCases = {
     {"AnAmpersandAlone", package("Holm & Sons"), "Holm & Sons"},
     {"AnAmpersandAtTheEnd", package("Holm &"), "Holm &"},
     {"AReferenceWithoutSemicolon", package("Holm &amp Sons"), "Holm &amp Sons"},
@@ -87,7 +85,7 @@ const Case readCases[] = {
     {"ADocumentTypeAfterTheRoot", package("Holm") + "<!DOCTYPE RecPackage>"},
 };
 
-const Case refusedCases[] = {
+const std::vector<Case> refusedCases = {
     {"AnElementThatIsNotClosed", "<RecPackage>" + grower("Holm")},
     {"AnElementThatIsClosedByAnotherName", test::package("<a></b>" + grower("Holm"))},
     {"AnElementThatIsClosedTwice", package("Holm") + "</RecPackage>"},
@@ -96,7 +94,7 @@ const Case refusedCases[] = {
     {"AnAttributeWithoutQuotes", package("Holm", " note=a")},
     {"AnAttributeWithoutValue", package("Holm", " note")},
     {"ANameThatBeginsWithADigit", test::package("<1/>" + grower("Holm"))},
-    {"ANulByteInTheRoot", package("Holm\0Sons"s)},
+    {"ANulByteInTheRoot", package(std::string("Holm\0Sons", 9))},
     {"ACommentThatDoesNotEnd", package("Holm") + "<!-- comment"},
     {"ADocumentTypeInTheRoot", test::package("<!DOCTYPE RecPackage>" + grower("Holm"))},
 };
