@@ -48,6 +48,14 @@ std::string describeWrongCode(const std::string& argument) {
                        nearest.empty() ? "" : fmt::format("; is {} meant?", nearest));
 }
 
+/// The codes of all findings, a line each.
+std::string codeList() {
+    std::string list;
+    for (const FindingKind& kind : findingKinds)
+        list += fmt::format("{}{}", list.empty() ? "" : "\n", kind.code);
+    return list;
+}
+
 /// Which findings are wanted, by code.
 using Wanted = std::array<bool, findingKinds.size()>;
 
@@ -176,12 +184,13 @@ Command addCheck(CLI::App& application) {
     parser->footer(checkExitCodeHelp);
     parser->add_flag("--json", options->json, "Write all findings as one JSON document");
     parser->add_flag("--strict", options->strict, "Fail on warnings, too");
-    parser
-        ->add_option("--ignore", options->ignored,
-                     "Leave out the findings of a code, such as \"empty-name\"; may be repeated")
+    asGiven(parser->add_option(
+                "--ignore", options->ignored,
+                "Leave out the findings of a code, such as \"empty-name\"; may be repeated"))
         ->option_text("CODE")
         ->allow_extra_args(false)
         ->check(CLI::Validator(describeWrongCode, ""));
+    parser->set_version_flag("--codes", codeList, "Print the codes of all findings");
     addPackageOptions(*parser, options->packages,
                       "Package files, named UUID.xml, and folders with such");
     return {parser, [options](Console& console) { return check(*options, console); }};

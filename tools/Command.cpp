@@ -1,7 +1,59 @@
 #include "tools/Command.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <utility>
+
+namespace {
+
+/// Ends an argument that the parser would take apart. No argument has such a character of its own.
+constexpr char guard = '\0';
+
+} // namespace
+
+std::vector<std::string> guardedArguments(int argc, const char* const* argv) {
+    std::vector<std::string> arguments;
+    for (int i = argc - 1; i > 0; --i) {
+        arguments.emplace_back(argv[i]);
+        const char first = arguments.back().empty() ? ' ' : arguments.back().front();
+        if (first == '[' || first == '{')
+            arguments.back() += guard;
+    }
+    return arguments;
+}
+
+std::string unguarded(std::string argument) {
+    argument.erase(std::remove(argument.begin(), argument.end(), guard), argument.end());
+    return argument;
+}
+
+CLI::Option* addName(CLI::App& parser, const std::string& option, std::string& name,
+                     const std::string& description) {
+    const CLI::callback_t take = [&name](const CLI::results_t& arguments) {
+        name = unguarded(arguments.front());
+        return true;
+    };
+    return parser.add_option(option, take, description);
+}
+
+CLI::Option* addNames(CLI::App& parser, const std::string& positional,
+                      std::vector<std::string>& names, const std::string& description) {
+    const CLI::callback_t take = [&names](const CLI::results_t& arguments) {
+        names.clear();
+        std::transform(arguments.begin(), arguments.end(), std::back_inserter(names), unguarded);
+        return true;
+    };
+    return parser.add_option(positional, take, description)->expected(1, -1)->allow_extra_args();
+}
+
+CLI::Option* asGiven(CLI::Option* option) {
+    const auto take = [](std::string& argument) {
+        argument = unguarded(argument);
+        return std::string();
+    };
+    return option->transform(CLI::Validator(take, ""));
+}
 
 HelpFormatter::HelpFormatter(std::string examples) : examples_(std::move(examples)) {
     constexpr std::size_t columnWidth = 16;
@@ -12,6 +64,10 @@ HelpFormatter::HelpFormatter(std::string examples) : examples_(std::move(example
 }
 
 std::string HelpFormatter::make_usage(const CLI::App* app, std::string name) const {
+    for (const CLI::Option* option : app->get_options()) {
+        if (option->nonpositional() && option->get_required())
+            name += " " + option->get_name() + " " + option->get_option_text();
+    }
     return "\n" + CLI::Formatter::make_usage(app, std::move(name));
 }
 

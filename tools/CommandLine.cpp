@@ -5,6 +5,8 @@
 #include <memory>
 #include <new>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -16,6 +18,7 @@
 #include "tools/Export.h"
 #include "tools/Report.h"
 #include "tools/Show.h"
+#include "tools/check/NameSuggestion.h"
 
 namespace {
 
@@ -26,12 +29,38 @@ constexpr const char* examples = "  qenxml show 00112233-4455-6677-8899-aabbccdd
                                  "  qenxml report -o report.html season/*.xml\n"
                                  "  qenxml show --help\n";
 
+/// The names that may stand where an argument was not understood.
+std::vector<std::string> knownNames(const CLI::App& application) {
+    std::vector<std::string> names;
+    const std::vector<CLI::App*> chosen = application.get_subcommands();
+    const CLI::App& place = chosen.empty() ? application : *chosen.front();
+    for (const CLI::Option* option : place.get_options()) {
+        for (const std::string& name : option->get_lnames())
+            names.push_back("--" + name);
+    }
+    for (const CLI::App* command : place.get_subcommands([](const CLI::App*) { return true; }))
+        names.push_back(command->get_name());
+    return names;
+}
+
+std::string describeUnknown(const CLI::App& application, const std::string& argument) {
+    const std::vector<std::string> names = knownNames(application);
+    std::vector<const char*> pointers;
+    for (const std::string& name : names)
+        pointers.push_back(name.c_str());
+    const std::string_view nearest = nearestName(argument.substr(0, argument.find('=')), pointers);
+    const bool isCommand = application.get_subcommands().empty() && argument.substr(0, 1) != "-";
+    return fmt::format("\"{}\" is {}{}", escape(argument),
+                       isCommand ? "no command" : "not understood here",
+                       nearest.empty() ? "" : fmt::format("; is {} meant?", nearest));
+}
+
 /// What is wrong with the arguments. The parser itself tells of what is missing first, although an
 /// argument that it did not understand is mostly the reason.
 std::string describe(const CLI::App& application, const CLI::ParseError& error) {
     for (const std::string& argument : application.remaining(true)) {
         if (argument != "--")
-            return fmt::format("\"{}\" is not understood here", escape(argument));
+            return describeUnknown(application, unguarded(argument));
     }
     if (application.get_subcommands().empty())
         return "a command is required";
@@ -42,7 +71,9 @@ ExitCode refuse(const CLI::App& application, const CLI::ParseError& error, Conso
     std::string command = application.get_name();
     for (const CLI::App* subcommand : application.get_subcommands())
         command += " " + subcommand->get_name();
-    console.complain(fmt::format("{}; try \"{} --help\"", describe(application, error), command));
+    const std::string message = describe(application, error);
+    console.complain(
+        fmt::format("{}{} try \"{} --help\"", message, message.back() == '?' ? "" : ";", command));
     return ExitCode::WrongUsage;
 }
 
@@ -57,7 +88,7 @@ ExitCode parseAndRun(int argc, const char* const* argv, Console& console) {
                                  addExport(application), addReport(application)};
 
     try {
-        application.parse(argc, argv);
+        application.parse(guardedArguments(argc, argv));
         for (const Command& command : commands) {
             if (command.parser->parsed())
                 return command.run(console);

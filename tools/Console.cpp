@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <fmt/format.h>
+#include <unistd.h>
 
 namespace {
 
@@ -12,6 +13,10 @@ namespace {
 }
 
 } // namespace
+
+bool Console::isTerminal() const {
+    return isatty(fileno(output_)) != 0;
+}
 
 void Console::print(std::string_view text) {
     clearProgress();

@@ -25,6 +25,9 @@ public:
     /// How results look.
     const Style& style() const { return style_; }
 
+    /// Whether results go to a terminal.
+    bool isTerminal() const;
+
     /// Writes results, which may stay in a buffer until flush().
     ///
     /// @throws OutputError

@@ -82,10 +82,10 @@ Command addExport(CLI::App& application) {
     const auto options = std::make_shared<ExportOptions>();
     parser->formatter(std::make_shared<HelpFormatter>(examples));
     parser->footer(exitCodeHelp);
-    parser->add_option("--format", options->format, "json, csv or geojson")
-        ->required()
-        ->option_text("FORMAT")
-        ->check(CLI::IsMember(&formats).description(""));
+    asGiven(parser->add_option("--format", options->format, "json, csv or geojson")
+                ->required()
+                ->option_text("FORMAT")
+                ->transform(CLI::IsMember(&formats, CLI::ignore_case).description("")));
     parser->add_flag("--merge", options->merge, "Merge the growers of all packages into one tree");
     addOutputOption(*parser, options->output);
     addPackageOptions(*parser, options->packages);

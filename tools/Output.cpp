@@ -2,12 +2,12 @@
 
 #include <fmt/format.h>
 
+#include "tools/Command.h"
 #include "tools/Escape.h"
 
 void addOutputOption(CLI::App& parser, std::string& path) {
-    parser
-        .add_option("-o,--output", path,
-                    "Write to this file, which is replaced only by a whole one")
+    addName(parser, "-o,--output", path,
+            "Write to this file, which is replaced only by a whole one")
         ->option_text("OUT");
 }
 

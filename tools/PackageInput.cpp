@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "tools/Command.h"
 #include "tools/PackageUuid.h"
 
 namespace {
@@ -35,10 +36,10 @@ bool isStandardInput(const std::string& file) {
 }
 
 void addPackageOptions(CLI::App& parser, PackageOptions& options, const std::string& files) {
-    parser.add_option("FILE", options.files, files + "; \"-\" is the standard input")
+    addNames(parser, "FILE", options.files, files + "; \"-\" is the standard input")
         ->required()
         ->option_text(" ");
-    parser.add_option("--uuid", options.uuid, "UUID of the package on the standard input")
+    asGiven(parser.add_option("--uuid", options.uuid, "UUID of the package on the standard input"))
         ->check(CLI::Validator(checkUuid, ""))
         ->option_text("UUID");
 }

@@ -45,6 +45,9 @@ ReportPackage examine(const PackageInput& input, Console& console) {
 }
 
 ExitCode report(const ReportOptions& options, Console& console) {
+    if (options.output.empty() && console.isTerminal())
+        throw CLI::ValidationError("the page would fill the terminal; name a file for it, such as "
+                                   "\"-o report.html\"");
     requireUsable(options.packages, options.output);
     Output output(options.output, console);
     ExitCode result = ExitCode::Success;

@@ -1,13 +1,18 @@
 // Runs the built command: what it says about itself, and how it answers wrong usage.
 
+#include <filesystem>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include "model/version.h"
+#include "tests/support/PackageText.h"
+#include "tests/support/TemporaryFolder.h"
 #include "tests/tools/RunCommand.h"
 #include "tools/ExitCode.h"
+#include "tools/check/FindingCodes.h"
 
 using test::Output;
 using test::runCommand;
@@ -55,7 +60,7 @@ TEST(CommandLine, AnswersWrongUsageWithAMessageAndAHint) {
     };
     const std::vector<Case> cases = {
         {{}, "a command is required; try \"qenxml --help\""},
-        {{"bogus"}, "\"bogus\" is not understood here; try \"qenxml --help\""},
+        {{"bogus"}, "\"bogus\" is no command; try \"qenxml --help\""},
         {{"--bogus"}, "\"--bogus\" is not understood here; try \"qenxml --help\""},
         {{"--merge"}, "\"--merge\" is not understood here; try \"qenxml --help\""},
         {{"-x\n\x1b"}, "\"-x\\n\\x1B\" is not understood here; try \"qenxml --help\""},
@@ -87,6 +92,119 @@ TEST(CommandLine, AnswersWrongUsageWithAMessageAndAHint) {
         EXPECT_EQ(result.errors, "qenxml: " + wrong.message + "\n");
         EXPECT_EQ(result.exitCode, 2);
     }
+}
+
+TEST(CommandLine, SuggestsTheCommandOrOptionThatIsMeant) {
+    const std::vector<std::pair<std::vector<std::string>, std::string>> cases = {
+        {{"chekc", "a.xml"}, "\"chekc\" is no command; is check meant? try \"qenxml --help\""},
+        {{"Show"}, "\"Show\" is no command; is show meant? try \"qenxml --help\""},
+        {{"--vresion"},
+         "\"--vresion\" is not understood here; is --version meant? try \"qenxml --help\""},
+        {{"show", "--mereg", "a.xml"},
+         "\"--mereg\" is not understood here; is --merge meant? try \"qenxml show --help\""},
+        {{"export", "--fromat=csv", "a.xml"},
+         "\"--fromat=csv\" is not understood here; is --format meant? "
+         "try \"qenxml export --help\""},
+        {{"check", "--ignore", "empty-nam", "a.xml"},
+         "--ignore: \"empty-nam\" is no code of a finding; is empty-name meant? "
+         "try \"qenxml check --help\""},
+        {{""}, "\"\" is no command; try \"qenxml --help\""},
+    };
+    for (const auto& [arguments, message] : cases) {
+        const RunResult result = runCommand(arguments);
+        EXPECT_EQ(result.errors, "qenxml: " + message + "\n");
+        EXPECT_EQ(result.exitCode, 2);
+    }
+}
+
+TEST(CommandLine, ShowsInTheUsageWhatIsRequired) {
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"show", "qenxml show [OPTION...] FILE..."},
+        {"check", "qenxml check [OPTION...] FILE..."},
+        {"export", "qenxml export --format FORMAT [OPTION...] FILE..."},
+        {"report", "qenxml report [OPTION...] FILE..."},
+    };
+    for (const auto& [command, usage] : cases)
+        EXPECT_NE(runCommand({command, "--help"}).output.find("\nUsage: " + usage + "\n"),
+                  std::string::npos);
+}
+
+/// Files whose names the parser of the command line would take for lists, and the folder of one.
+class BracketedNames : public testing::Test {
+protected:
+    RunResult run(const std::vector<std::string>& arguments) {
+        RunOptions options;
+        options.folder = folder_.path("");
+        return runCommand(arguments, options);
+    }
+
+    test::TemporaryFolder folder_;
+};
+
+TEST_F(BracketedNames, AreTakenAsTheyAreGivenForInputs) {
+    for (const std::string name : {"[2026]", "[a,b]", "[]", "{}", "[[x]]", "{a}", "[a"}) {
+        const std::string skipped = "qenxml: " + name + ": not found; the file is skipped\n";
+        EXPECT_EQ(run({"show", name}).errors, skipped);
+        EXPECT_EQ(run({"show", "--", name}).errors, skipped);
+        EXPECT_EQ(run({"export", "--format", "csv", name}).errors, skipped);
+        EXPECT_EQ(run({"report", name}).errors, skipped);
+        EXPECT_NE(run({"check", name}).output.find("\n" + name + ": error: not found [unreadable]"),
+                  std::string::npos);
+    }
+}
+
+TEST_F(BracketedNames, AreTakenAsTheyAreGivenForFoldersAndOutputs) {
+    std::filesystem::create_directory(folder_.path("[2026]"));
+    std::filesystem::create_directory(folder_.path("2026"));
+    const std::string name = test::uuidText(1) + ".xml";
+    folder_.write("[2026]/" + name, "<RecPackage/>");
+    EXPECT_NE(run({"check", "[2026]"}).output.find("[2026]/" + name + ": 1 warning"),
+              std::string::npos);
+    for (const std::string output : {"[out,x]", "[out]", "{}", "{out}"}) {
+        for (const std::vector<std::string>& option :
+             {std::vector<std::string>{"-o", output}, {"--output=" + output}}) {
+            std::vector<std::string> arguments = {"report", "[2026]/" + name};
+            arguments.insert(arguments.end(), option.begin(), option.end());
+            EXPECT_EQ(run(arguments).exitCode, 0) << output;
+            EXPECT_TRUE(std::filesystem::remove(folder_.path(output))) << output;
+        }
+    }
+}
+
+TEST_F(BracketedNames, AreShownAsTheyAreGivenInMessages) {
+    EXPECT_EQ(run({"[x]"}).errors, "qenxml: \"[x]\" is no command; try \"qenxml --help\"\n");
+    EXPECT_EQ(run({"check", "--ignore", "[x]", "a"}).errors,
+              "qenxml: --ignore: \"[x]\" is no code of a finding; try \"qenxml check --help\"\n");
+    EXPECT_EQ(run({"export", "--format", "[csv]", "a"}).errors,
+              "qenxml: --format: [csv] not in {csv,geojson,json}; "
+              "try \"qenxml export --help\"\n");
+}
+
+TEST(CommandLine, TakesWordsThatAreCommandsForFilesAfterACommand) {
+    EXPECT_EQ(runCommand({"show", "check"}).errors,
+              "qenxml: check: not found; the file is skipped\n");
+}
+
+TEST(CommandLine, RefusesToFillATerminalWithAPage) {
+    RunOptions terminal;
+    terminal.output = Output::Terminal;
+    const RunResult refused = runCommand({"report", "a.xml"}, terminal);
+    EXPECT_EQ(refused.output, "");
+    EXPECT_EQ(refused.errors,
+              "qenxml: the page would fill the terminal; name a file for it, such as "
+              "\"-o report.html\"; try \"qenxml report --help\"\n");
+    EXPECT_EQ(refused.exitCode, 2);
+    EXPECT_NE(runCommand({"report", "-o", "-", "a.xml"}, terminal).output.find("</html>"),
+              std::string::npos);
+}
+
+TEST(CommandLine, PrintsTheCodesOfFindings) {
+    std::string codes;
+    for (const FindingKind& kind : findingKinds)
+        codes += std::string(kind.code) + "\n";
+    const RunResult result = runCommand({"check", "--codes"});
+    EXPECT_EQ(result.output, codes);
+    EXPECT_EQ(result.exitCode, 0);
 }
 
 TEST(CommandLine, ReportsThatHelpCannotBeWrittenUnlessItsReaderHasSeenEnough) {

@@ -1,11 +1,17 @@
 #!/usr/bin/env bash
 # Usage: check_completion.sh COMMAND SOURCE_DIR
-# The completions of each shell offer every sub-command and option that --help lists. Shells that
-# are not installed are left out, and said to be.
+# The completions of each shell offer every sub-command and option that --help lists, and every code
+# of a finding. Shells that are not installed are left out, and said to be.
 set -euo pipefail
 command=$1
 share=$2/share
 failed=0
+
+# The completions call the command by its name.
+folder=$(mktemp -d)
+trap 'rm -r "$folder"' EXIT
+ln -s "$command" "$folder/qenxml"
+PATH=$folder:$PATH
 
 fail() {
     echo "$*" >&2
@@ -55,9 +61,24 @@ check_shell() { # SHELL
     done
     words=$("offered_by_$1" qenxml export --format "")
     [ "$1" = zsh ] || grep -qx geojson <<<"$words" || fail "$1 does not offer the formats"
+    check_codes "$1"
+}
+
+check_codes() { # SHELL
+    local words code
+    if [ "$1" = zsh ]; then
+        grep -q 'ignore.*check --codes' "$share/zsh/site-functions/_qenxml" ||
+            fail "zsh does not ask for the codes of findings"
+        return
+    fi
+    words=$("offered_by_$1" qenxml check --ignore "")
+    for code in $("$command" check --codes); do
+        grep -qxe "$code" <<<"$words" || fail "$1 does not offer the code $code"
+    done
 }
 
 [ "$(listed Commands | wc -l)" -ge 3 ] || fail "--help lists no commands"
+[ "$("$command" check --codes | wc -l)" -ge 50 ] || fail "check --codes lists no codes"
 [ "$(listed Options export | wc -l)" -ge 7 ] || fail "export --help lists no options"
 
 for shell in bash zsh fish; do

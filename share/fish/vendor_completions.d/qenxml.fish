@@ -17,4 +17,5 @@ complete -c qenxml -n '__fish_seen_subcommand_from export report' -s o -l output
 complete -c qenxml -n '__fish_seen_subcommand_from export' -l format -x -a 'json csv geojson' -d 'The format'
 complete -c qenxml -n '__fish_seen_subcommand_from check' -l json -d 'Write all findings as one JSON document'
 complete -c qenxml -n '__fish_seen_subcommand_from check' -l strict -d 'Fail on warnings, too'
-complete -c qenxml -n '__fish_seen_subcommand_from check' -l ignore -x -d 'Leave out the findings of a code'
+complete -c qenxml -n '__fish_seen_subcommand_from check' -l ignore -x -a '(qenxml check --codes 2>/dev/null)' -d 'Leave out the findings of a code'
+complete -c qenxml -n '__fish_seen_subcommand_from check' -l codes -d 'Print the codes of all findings'
