@@ -2,13 +2,43 @@
 
 #include <cmath>
 #include <cstddef>
+#include <iterator>
 
+#include <fmt/format.h>
+
+#include "tools/Escape.h"
 #include "tools/NumberText.h"
 #include "tools/Utf8.h"
 
 namespace {
 
 constexpr std::size_t indentPerLevel = 2;
+
+/// Appends a character as JSON escapes it: by its one or two units of UTF-16.
+void appendUnits(std::string& text, char32_t c) {
+    constexpr char32_t firstOfPairs = 0x10000;
+    const auto out = std::back_inserter(text);
+    if (c < firstOfPairs) {
+        fmt::format_to(out, "\\u{:04x}", static_cast<unsigned>(c));
+        return;
+    }
+    const auto rest = static_cast<unsigned>(c - firstOfPairs);
+    fmt::format_to(out, "\\u{:04x}\\u{:04x}", 0xD800U + (rest >> 10U), 0xDC00U + (rest & 0x3FFU));
+}
+
+/// Appends a value with what is not seen in its texts escaped, of which the standard asks for that
+/// below U+0020 only. It means the same, and can be shown on a terminal.
+void appendValue(std::string& text, const nlohmann::ordered_json& value) {
+    const std::string dumped = value.dump();
+    for (std::string_view rest = dumped; !rest.empty();) {
+        const Utf8Character character = firstCharacter(rest);
+        if (isUnseen(character.codePoint))
+            appendUnits(text, character.codePoint);
+        else
+            text += rest.substr(0, character.length);
+        rest.remove_prefix(character.length);
+    }
+}
 
 } // namespace
 
@@ -29,12 +59,12 @@ void JsonWriter::beginArray(std::string_view key) {
 
 void JsonWriter::element(const nlohmann::ordered_json& value) {
     startItem();
-    text_ += value.dump();
+    appendValue(text_, value);
 }
 
 void JsonWriter::member(std::string_view key, const nlohmann::ordered_json& value) {
     startItem(key);
-    text_ += value.dump();
+    appendValue(text_, value);
 }
 
 void JsonWriter::endDocument() {

@@ -19,6 +19,8 @@ Output::Output(const std::string& path, Console& console) : path_(path), console
 void Output::write(std::string_view text) {
     if (file_)
         file_->write(text);
+    else if (console_.isTerminal())
+        console_.print(escapeDocument(text)); // What a file may hold may drive a terminal.
     else
         console_.print(text);
 }

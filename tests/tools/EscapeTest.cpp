@@ -48,10 +48,42 @@ TEST(Escape, ShowsLineAndParagraphSeparators) {
     EXPECT_EQ(escape("\u2028\u2029"), "\\u{2028}\\u{2029}");
 }
 
+// NOLINTBEGIN(misc-misleading-bidirectional)
+TEST(Escape, ShowsWhatIsNotSeen) {
+    EXPECT_EQ(escape("North\u200B\u2060\uFEFF"), "North\\u{200B}\\u{2060}\\u{FEFF}");
+    EXPECT_EQ(escape("\u00AD\u034F\u115F\u1160\u17B4\u17B5\u180E"),
+              "\\u{00AD}\\u{034F}\\u{115F}\\u{1160}\\u{17B4}\\u{17B5}\\u{180E}");
+    EXPECT_EQ(escape("\u2064\u2065\u206A\u206F"), "\\u{2064}\\u{2065}\\u{206A}\\u{206F}");
+    EXPECT_EQ(escape("\u3164\uFFA0\uFFF9\uFFFB"), "\\u{3164}\\u{FFA0}\\u{FFF9}\\u{FFFB}");
+    EXPECT_EQ(escape("\U0001BCA0\U0001D173\U000E0000\U000E0041\U000E0FFF"),
+              "\\u{1BCA0}\\u{1D173}\\u{E0000}\\u{E0041}\\u{E0FFF}");
+}
+// NOLINTEND(misc-misleading-bidirectional)
+
 TEST(Escape, LeavesTheNeighboursOfWhatItEscapes) {
     for (const std::string text :
-         {"\u061B", "\u061D", "\u200D", "\u2010", "\u2027", "\u202F", "\u2065", "\u206A", " ", "~"})
+         {"\u00A0",     "\u00AC",     "\u00AE",     "\u034E",     "\u0350",     "\u061B",
+          "\u061D",     "\u115E",     "\u1161",     "\u17B3",     "\u17B6",     "\u180D",
+          "\u180F",     "\u200A",     "\u200C",     "\u200D",     "\u2010",     "\u2027",
+          "\u202F",     "\u205F",     "\u2070",     "\u3163",     "\u3165",     "\uFE0F",
+          "\uFEFE",     "\uFF9F",     "\uFFA1",     "\uFFF8",     "\uFFFC",     "\U0001BC9F",
+          "\U0001BCA4", "\U0001D172", "\U0001D17B", "\U000DFFFF", "\U000E1000", " ",
+          "~"})
         EXPECT_EQ(escape(text), text);
+}
+
+TEST(EscapeDocument, KeepsLinesTabsAndBackslashes) {
+    EXPECT_EQ(escapeDocument("a\tb\\c\r\n\nd\n"), "a\tb\\c\r\n\nd\n");
+    EXPECT_EQ(escapeDocument(""), "");
+}
+
+TEST(EscapeDocument, ShowsWhatATerminalMightActOnOrHide) {
+    EXPECT_EQ(escapeDocument("a\rb\x1B[2J\x7F\xC2\x9B\u202E\u200B\xFF\n"),
+              "a\\x0Db\\x1B[2J\\x7F\\u{009B}\\u{202E}\\u{200B}\\xFF\n");
+}
+
+TEST(EscapeDocument, LeavesTheByteOrderMarkAtTheBeginningOut) {
+    EXPECT_EQ(escapeDocument("\uFEFFa,\uFEFFb\n"), "a,\\u{FEFF}b\n");
 }
 
 TEST(Escape, ShowsBytesThatAreNotValidUtf8OneByOne) {
@@ -85,6 +117,8 @@ TEST(Escape, CutsAnExcerptAfterSixtyCharacters) {
     for (int i = 0; i < 60; ++i)
         accents += "\xC3\xA9";
     EXPECT_EQ(escapeExcerpt(accents), accents);
+    EXPECT_EQ(escapeExcerpt(accents + "\xC3\xA9"), accents + "...");
+    EXPECT_EQ(escapeExcerpt(sixty.substr(1) + "\xC3\xA9\xC3\xA9"), sixty.substr(1) + "\xC3\xA9...");
 }
 
 /// Undoes escape(): what cannot be undone would be ambiguous on the screen.

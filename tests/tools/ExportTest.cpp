@@ -1,5 +1,7 @@
 // Runs the built command where it writes to a file, or reads what is not among the samples.
 
+#include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -192,6 +194,40 @@ TEST_F(WritingCommand, LeavesNothingBehindWhenTheOutputIsTooLarge) {
         EXPECT_EQ(result.exitCode, 1);
         EXPECT_EQ(contentOf(folder_.path("out")), "old");
         EXPECT_EQ(test::namesIn(folder_.path("")), (std::vector<std::string>{name, "out"}));
+    }
+}
+
+TEST_F(WritingCommand, TakesTheNameOfAFormatInAnyCase) {
+    folder_.write(name, package);
+    for (const std::string format : {"csv", "json", "geojson"}) {
+        std::string capitals = format;
+        std::transform(format.begin(), format.end(), capitals.begin(),
+                       [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+        const RunResult expected = run({"export", "--format", format}, {name});
+        EXPECT_EQ(run({"export", "--format", capitals}, {name}).output, expected.output);
+        EXPECT_EQ(expected.exitCode, 0);
+    }
+}
+
+TEST_F(WritingCommand, ShowsATerminalNothingThatItMightActOnOrHide) {
+    const std::string texts = "\x7F\xC2\x9B\u202E\u200B\uFEFF\U000E0041&#13;x";
+    folder_.write(name,
+                  test::package(test::grower(
+                      1, test::element("GrowerName", texts) +
+                             test::farm(2, test::field(3, test::recommendations(test::rec(4)))))));
+    RunOptions terminal;
+    terminal.output = test::Output::Terminal;
+    for (const std::vector<std::string>& command :
+         {std::vector<std::string>{"export", "--format", "json"},
+          {"export", "--format", "csv"},
+          {"export", "--format", "geojson"},
+          {"show"},
+          {"report", "-o", "-"}}) {
+        std::string output = run(command, {name}, terminal).output;
+        EXPECT_NE(output.find(command.back() == "csv" ? "\\u{202E}" : "202"), std::string::npos);
+        for (const std::string unseen :
+             {"\x7F", "\xC2\x9B", "\u202E", "\u200B", "\uFEFF", "\U000E0041", "\rx"})
+            EXPECT_EQ(output.find(unseen), std::string::npos) << command.back();
     }
 }
 

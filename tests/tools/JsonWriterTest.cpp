@@ -53,6 +53,19 @@ TEST(JsonWriter, WritesItemsIndentedAndInOrder) {
                     "}\n");
 }
 
+TEST(JsonWriter, EscapesWhatATerminalMightActOnOrHide) {
+    std::string text;
+    JsonWriter writer([&](std::string_view piece) { text += piece; });
+    const std::string unseen = "\x7F\xC2\x80\xC2\x9F\u200B\u202E\uFEFF\U000E0041\n";
+    writer.beginObject();
+    writer.member("x", jsonText("a" + unseen + "\u00E9\u200D"));
+    writer.endObject();
+    writer.endDocument();
+    EXPECT_EQ(text, "{\n  \"x\": \"a\\u007f\\u0080\\u009f\\u200b\\u202e\\ufeff\\udb40\\udc41\\n"
+                    "\u00E9\u200D\"\n}\n");
+    EXPECT_EQ(nlohmann::json::parse(text)["x"], "a" + unseen + "\u00E9\u200D");
+}
+
 TEST(JsonText, ReplacesBytesThatAreNotUtf8) {
     EXPECT_EQ(jsonText("a\xFF\xC3\xA9").dump(), "\"a\uFFFDé\"");
 }
