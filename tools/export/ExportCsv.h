@@ -12,9 +12,10 @@
 /// UTF-8, with a byte-order mark, for without one some take the text for another encoding.
 std::unique_ptr<ExportFormat> makeCsvExport(TextSink sink);
 
-/// A text of a package as a cell. A text that a spreadsheet would take for a formula gets an
-/// apostrophe before it, for a formula can send the table away. What is no valid UTF-8, and control
-/// characters, which XML forbids and spreadsheets refuse, are replaced.
+/// A text of a package as a cell. What a spreadsheet would take for a formula gets an apostrophe
+/// before it, for a formula can send the table away: at the beginning of the text, and where
+/// another cell begins for programs that split lines at semicolons or tabs. What is no valid UTF-8,
+/// and control characters, which spreadsheets refuse, are replaced.
 std::string csvText(std::string_view text);
 
 #endif
