@@ -1,10 +1,13 @@
 #include "tools/Export.h"
 
+#include <cstddef>
 #include <map>
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
+#include <boost/uuid/uuid.hpp>
 #include <fmt/format.h>
 
 #include "tools/Escape.h"
@@ -16,6 +19,7 @@
 #include "tools/export/ExportFormat.h"
 #include "tools/export/ExportGeoJson.h"
 #include "tools/export/ExportJson.h"
+#include "tools/export/MissingNumbers.h"
 
 namespace {
 
@@ -36,12 +40,34 @@ struct ExportOptions {
     PackageOptions packages;
 };
 
+/// The growers of all packages, and what is missing from them.
+class MergedPackages {
+public:
+    void add(std::vector<QenGrower> growers, std::vector<GrowerGaps> gaps) {
+        for (std::size_t i = 0; i < growers.size(); ++i)
+            gaps_[growers[i].id()].merge(std::move(gaps[i]));
+        merged_.add(std::move(growers));
+    }
+
+    std::string write(ExportFormat& format) {
+        std::vector<GrowerGaps> gaps;
+        for (QenGrower& grower : merged_.growers())
+            gaps.push_back(std::move(gaps_[grower.id()]));
+        return format.merged(merged_.growers(), gaps);
+    }
+
+private:
+    MergedGrowers merged_;
+    std::map<boost::uuids::uuid, GrowerGaps> gaps_;
+};
+
 /// Hands a package on, and complains where there is something to say about it.
-void exportPackage(PackageReading& reading, bool merge, ExportFormat& format, MergedGrowers& merged,
-                   Console& console) {
+void exportPackage(const PackageInput& input, PackageReading& reading, bool merge,
+                   ExportFormat& format, MergedPackages& merged, Console& console) {
+    std::vector<GrowerGaps> gaps = findGaps(input.path(), reading.growers.size());
     if (merge)
-        merged.add(std::exchange(reading.growers, {}));
-    const std::string remark = format.package(reading);
+        merged.add(std::exchange(reading.growers, {}), std::exchange(gaps, {}));
+    const std::string remark = format.package(reading, gaps);
     if (!remark.empty())
         console.complain(fmt::format("{}: {}", escape(reading.name), remark));
 }
@@ -51,20 +77,20 @@ ExitCode exportPackages(const ExportOptions& options, Console& console) {
     Output output(options.output, console);
     const auto format =
         formats.at(options.format)([&output](std::string_view text) { output.write(text); });
-    MergedGrowers merged;
+    MergedPackages merged;
     ExitCode result = ExitCode::Success;
     bool anyRead = false;
     format->begin(options.merge);
     for (const std::string& file : options.packages.files) {
-        PackageReading reading =
-            readAndComplain(PackageInput(file, options.packages), "exported", console);
+        const PackageInput input(file, options.packages);
+        PackageReading reading = readAndComplain(input, "exported", console);
         if (reading.failure)
             result = ExitCode::Failure;
         anyRead = anyRead || !isLost(reading);
-        exportPackage(reading, options.merge, *format, merged, console);
+        exportPackage(input, reading, options.merge, *format, merged, console);
     }
     if (options.merge) {
-        const std::string remark = format->merged(merged.growers());
+        const std::string remark = merged.write(*format);
         if (!remark.empty())
             console.complain(remark);
     }

@@ -13,6 +13,7 @@ import re
 import subprocess
 import sys
 import tempfile
+import unicodedata
 
 import jsonschema
 
@@ -69,6 +70,24 @@ def check_json(files, *options):
     return recs_of(document)
 
 
+def check_harmless(cell):
+    """No program that skips what is blank, or splits lines elsewhere, finds a formula."""
+    if re.fullmatch(r"-?[0-9.]+(e[+-][0-9]+)?", cell):
+        return
+    for part in re.split(r"[;\t\r\n]", cell):
+        visible = "".join(c for c in part if unicodedata.category(c) not in ("Cf", "Zs"))
+        expect(visible.lstrip('"')[:1] not in tuple("=+-@"), f"a formula: {cell!r}")
+
+
+# Numbers that a package need not give: an empty cell in CSV, null in JSON.
+numbers = {
+    "season_id": "seasonId", "minimum_rate": "minimumRate", "average_rate": "averageRate",
+    "maximum_rate": "maximumRate", "rate_unit_id": "rateUomId", "total": "total",
+    "total_unit_id": "totalUomId", "area": "area", "area_unit_id": "areaUomId",
+    "operation_id": "operationId", "zone_id": "mgmtZoneId",
+}
+
+
 def check_csv(files, recs, *options):
     text = run("export", "--format", "csv", *options, *files).decode("utf-8")
     expect(text.startswith("\ufeff"), f"{files}: no byte-order mark")
@@ -78,10 +97,13 @@ def check_csv(files, recs, *options):
     expect(len(set(rows[0])) == len(rows[0]), f"{files}: two columns of one name")
     for row in rows[1:]:
         for cell in row:
-            number = re.fullmatch(r"-?[0-9.]+(e[+-][0-9]+)?", cell)
-            expect(number or not cell or cell[0] not in "=+-@\t\r\n", f"a formula: {cell!r}")
+            check_harmless(cell)
     index = rows[0].index("rec_id")
     expect([row[index] for row in rows[1:]] == [rec["id"] for rec in recs], f"{files}: rows")
+    for row, rec in zip(rows[1:], recs):
+        for title, name in numbers.items():
+            expect((row[rows[0].index(title)] == "") == (rec[name] is None),
+                   f"{files}: {title} is given in CSV or in JSON only")
 
 
 def check_geojson(files, recs, *options):
@@ -92,6 +114,10 @@ def check_geojson(files, recs, *options):
     for feature in document["features"]:
         expect(set(feature) == {"type", "geometry", "properties"}, f"{files}: members of a feature")
         expect(feature["type"] == "Feature", f"{files}: type of a feature")
+        columns = [name.lower() for name in feature["properties"]]
+        expect(len(columns) == len(set(columns)), f"{files}: two columns of one name")
+        taken = {"geometry", "geom", "the_geom", "wkb_geometry", "shape", "fid", "ogc_fid", "id"}
+        expect(not taken & set(columns), f"{files}: a column that tables have themselves")
         found += feature["properties"]["recs"]
         if feature["geometry"] is None:
             continue
@@ -141,7 +167,7 @@ def rec(uuid, name, statistics=""):
 def hostile_package(folder):
     """A package whose texts and numbers mean something in each of the formats."""
     uuid = "10000000-0000-4000-8000-00000000000{}"
-    names = ["=1+1", "+1", "-1+1", "@SUM(A1)", "&#9;=1", "a,&quot;b&quot;", "&#13;\n", "\xff\xfe",
+    names = ["=1+1", " +1", "x;-1+1", "&#8203;@SUM(A1)", "&#9;=1", "a,&quot;b&quot;", "&#13;\n", "\xff\xfe",
              "&lt;script&gt;alert(1)&lt;/script&gt;", "' onload='x", "]]&gt;--&gt;", "\xe2\x80\xae"
              "abc", "&#27;[31m", "\xef\xbf\xbe", "&amp;amp;", "\\u0041"]
     recs = "".join(rec(uuid.format(0)[:-2] + f"{i:02x}", name,

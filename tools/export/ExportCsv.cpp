@@ -105,9 +105,13 @@ std::string csvNumber(double number) {
     return std::isfinite(number) ? numberText(number) : csvText(numberText(number));
 }
 
-/// Empty for the nil UUID, which stands for none.
 std::string csvIdentifier(const boost::uuids::uuid& id) {
-    return id.is_nil() ? "" : to_string(id);
+    return to_string(id);
+}
+
+/// An identifier that a package need not give; empty when it does not.
+std::string optionalIdentifier(const boost::uuids::uuid& id) {
+    return id.is_nil() ? "" : csvIdentifier(id);
 }
 
 /// What a row is made of.
@@ -117,6 +121,12 @@ struct Row {
     QenField& field;
     LLA centroid;
     QenRec& rec;
+    const MissingNumbers& missingFromCentroid;
+    const MissingNumbers& missingFromRec;
+
+    bool lacks(std::string_view number) const {
+        return missingFromRec.contains(number) || missingFromCentroid.contains(number);
+    }
 
     /// The product if it is of a kind, or else null.
     template <class Product>
@@ -137,6 +147,7 @@ struct Row {
 struct Column {
     const char* title;
     std::string (*cell)(const Row&);
+    const char* number = nullptr; ///< The name in a package of the number that the cell holds.
 };
 
 using R = const Row&;
@@ -182,57 +193,61 @@ const std::array columns = {
     Column{"operation", [](R r) { return csvText(r.rec.operationName()); }},
     Column{"season", [](R r) { return csvText(r.rec.seasonName()); }},
     Column{"season_id",
-           [](R r) { return r.rec.seasonId() == -1 ? "" : std::to_string(r.rec.seasonId()); }},
+           [](R r) { return r.rec.seasonId() == -1 ? "" : std::to_string(r.rec.seasonId()); },
+           tag::SeasonID},
     Column{"created", [](R r) { return csvText(r.rec.creationDate()); }},
     Column{"edited", [](R r) { return csvText(r.rec.editDate()); }},
     Column{"product_kind", [](R r) { return productKind(r.rec.recData()); }},
-    Column{"product_id", productId},
+    Column{"product_id", productId, tag::ProductID},
     Column{"product", productName},
-    Column{"crop_id", plantingCode<&PlantingRec::cropId>},
+    Column{"crop_id", plantingCode<&PlantingRec::cropId>, tag::CropID},
     Column{"crop", plantingText<&PlantingRec::cropName>},
-    Column{"company_id", plantingCode<&PlantingRec::companyId>},
+    Column{"company_id", plantingCode<&PlantingRec::companyId>, tag::CompanyID},
     Column{"company", plantingText<&PlantingRec::companyName>},
-    Column{"variety_id", plantingCode<&PlantingRec::varietyId>},
+    Column{"variety_id", plantingCode<&PlantingRec::varietyId>, tag::VarietyID},
     Column{"variety", plantingText<&PlantingRec::varietyName>},
     Column{"product_unit_id",
            [](R r) {
                const std::optional<Unit> unit = productUnit(r.rec.recData());
                return unit ? std::to_string(unit->code) : "";
-           }},
+           },
+           tag::UOMID},
     Column{"product_unit",
            [](R r) {
                const std::optional<Unit> unit = productUnit(r.rec.recData());
                return unit ? csvText(unit->text) : "";
            }},
     Column{"sfertt_id",
-           [](R r) { return r.blend() == nullptr ? "" : std::to_string(r.blend()->sFertT_ID()); }},
-    Column{"specific_gravity", nutrient<&CustomFertilizerRec::spGravity>},
-    Column{"pct_n", nutrient<&CustomFertilizerRec::pct_N>},
-    Column{"pct_p", nutrient<&CustomFertilizerRec::pct_P>},
-    Column{"pct_k", nutrient<&CustomFertilizerRec::pct_K>},
-    Column{"pct_ca", nutrient<&CustomFertilizerRec::pct_Ca>},
-    Column{"pct_mg", nutrient<&CustomFertilizerRec::pct_Mg>},
-    Column{"pct_s", nutrient<&CustomFertilizerRec::pct_S>},
-    Column{"pct_fe", nutrient<&CustomFertilizerRec::pct_Fe>},
-    Column{"pct_mn", nutrient<&CustomFertilizerRec::pct_Mn>},
-    Column{"pct_zn", nutrient<&CustomFertilizerRec::pct_Zn>},
-    Column{"pct_cu", nutrient<&CustomFertilizerRec::pct_Cu>},
-    Column{"pct_b", nutrient<&CustomFertilizerRec::pct_B>},
-    Column{"pct_mo", nutrient<&CustomFertilizerRec::pct_Mo>},
-    Column{"pct_cl", nutrient<&CustomFertilizerRec::pct_Cl>},
-    Column{"minimum_rate", [](R r) { return csvNumber(r.rec.minimumRate()); }},
-    Column{"average_rate", [](R r) { return csvNumber(r.rec.averageRate()); }},
-    Column{"maximum_rate", [](R r) { return csvNumber(r.rec.maximumRate()); }},
-    Column{"rate_unit_id", [](R r) { return std::to_string(r.rec.rateUomId()); }},
+           [](R r) { return r.blend() == nullptr ? "" : std::to_string(r.blend()->sFertT_ID()); },
+           tag::SFertT_ID},
+    Column{"specific_gravity", nutrient<&CustomFertilizerRec::spGravity>, tag::SpGravity},
+    Column{"pct_n", nutrient<&CustomFertilizerRec::pct_N>, tag::Pct_N},
+    Column{"pct_p", nutrient<&CustomFertilizerRec::pct_P>, tag::Pct_P},
+    Column{"pct_k", nutrient<&CustomFertilizerRec::pct_K>, tag::Pct_K},
+    Column{"pct_ca", nutrient<&CustomFertilizerRec::pct_Ca>, tag::Pct_Ca},
+    Column{"pct_mg", nutrient<&CustomFertilizerRec::pct_Mg>, tag::Pct_Mg},
+    Column{"pct_s", nutrient<&CustomFertilizerRec::pct_S>, tag::Pct_S},
+    Column{"pct_fe", nutrient<&CustomFertilizerRec::pct_Fe>, tag::Pct_Fe},
+    Column{"pct_mn", nutrient<&CustomFertilizerRec::pct_Mn>, tag::Pct_Mn},
+    Column{"pct_zn", nutrient<&CustomFertilizerRec::pct_Zn>, tag::Pct_Zn},
+    Column{"pct_cu", nutrient<&CustomFertilizerRec::pct_Cu>, tag::Pct_Cu},
+    Column{"pct_b", nutrient<&CustomFertilizerRec::pct_B>, tag::Pct_B},
+    Column{"pct_mo", nutrient<&CustomFertilizerRec::pct_Mo>, tag::Pct_Mo},
+    Column{"pct_cl", nutrient<&CustomFertilizerRec::pct_Cl>, tag::Pct_Cl},
+    Column{"minimum_rate", [](R r) { return csvNumber(r.rec.minimumRate()); }, tag::MinimumRate},
+    Column{"average_rate", [](R r) { return csvNumber(r.rec.averageRate()); }, tag::AverageRate},
+    Column{"maximum_rate", [](R r) { return csvNumber(r.rec.maximumRate()); }, tag::MaximumRate},
+    Column{"rate_unit_id", [](R r) { return std::to_string(r.rec.rateUomId()); }, tag::RateUOMID},
     Column{"rate_unit", [](R r) { return csvText(r.rec.rateUom()); }},
-    Column{"total", [](R r) { return csvNumber(r.rec.total()); }},
-    Column{"total_unit_id", [](R r) { return std::to_string(r.rec.totalUomId()); }},
+    Column{"total", [](R r) { return csvNumber(r.rec.total()); }, tag::Total},
+    Column{"total_unit_id", [](R r) { return std::to_string(r.rec.totalUomId()); },
+           tag::TotalUOMID},
     Column{"total_unit", [](R r) { return csvText(r.rec.totalUom()); }},
-    Column{"area", [](R r) { return csvNumber(r.rec.area()); }},
-    Column{"area_unit_id", [](R r) { return std::to_string(r.rec.areaUomId()); }},
+    Column{"area", [](R r) { return csvNumber(r.rec.area()); }, tag::Area},
+    Column{"area_unit_id", [](R r) { return std::to_string(r.rec.areaUomId()); }, tag::AreaUOMID},
     Column{"area_unit", [](R r) { return csvText(r.rec.areaUom()); }},
-    Column{"latitude", [](R r) { return csvNumber(r.centroid.latitude); }},
-    Column{"longitude", [](R r) { return csvNumber(r.centroid.longitude); }},
+    Column{"latitude", [](R r) { return csvNumber(r.centroid.latitude); }, tag::Latitude},
+    Column{"longitude", [](R r) { return csvNumber(r.centroid.longitude); }, tag::Longitude},
     Column{"dbf_column", [](R r) { return csvText(r.rec.recDbfCol()); }},
     Column{"grower_id", [](R r) { return csvIdentifier(r.grower.id()); }},
     Column{"farm_id", [](R r) { return csvIdentifier(r.farm.id()); }},
@@ -240,8 +255,8 @@ const std::array columns = {
     Column{"rec_id", [](R r) { return csvIdentifier(r.rec.id()); }},
     Column{"boundary_id", [](R r) { return csvIdentifier(r.rec.fieldGeometryId()); }},
     Column{"rec_geometry", [](R r) { return csvIdentifier(r.rec.recGeometry()); }},
-    Column{"operation_id", [](R r) { return csvIdentifier(r.rec.operationId()); }},
-    Column{"zone_id", [](R r) { return csvIdentifier(r.rec.mgmtZoneId()); }},
+    Column{"operation_id", [](R r) { return optionalIdentifier(r.rec.operationId()); }},
+    Column{"zone_id", [](R r) { return optionalIdentifier(r.rec.mgmtZoneId()); }},
 };
 
 class CsvExport : public ExportFormat {
@@ -255,26 +270,34 @@ public:
         sink_(text_);
     }
 
-    std::string package(PackageReading& reading) override { return write(reading.growers); }
+    std::string package(PackageReading& reading, const std::vector<GrowerGaps>& gaps) override {
+        return write(reading.growers, gaps);
+    }
 
-    std::string merged(std::vector<QenGrower>& growers) override { return write(growers); }
+    std::string merged(std::vector<QenGrower>& growers,
+                       const std::vector<GrowerGaps>& gaps) override {
+        return write(growers, gaps);
+    }
 
     void end() override {}
 
 private:
-    std::string write(std::vector<QenGrower>& growers) {
-        for (QenGrower& grower : growers)
-            for (QenFarm& farm : grower.farms())
+    std::string write(std::vector<QenGrower>& growers, const std::vector<GrowerGaps>& gaps) {
+        for (std::size_t i = 0; i < growers.size(); ++i)
+            for (QenFarm& farm : growers[i].farms())
                 for (QenField& field : farm.fields())
                     for (QenRec& rec : field.recs())
-                        write({grower, farm, field, field.centroid(rec.fieldGeometryId()), rec});
+                        write({growers[i], farm, field, field.centroid(rec.fieldGeometryId()), rec,
+                               gaps[i].ofGeometry(field, rec.fieldGeometryId()),
+                               gaps[i].ofRec(field, rec.id())});
         return "";
     }
 
     void write(const Row& row) {
         text_.clear();
         for (const Column& column : columns)
-            cell(column, column.cell(row));
+            cell(column,
+                 column.number != nullptr && row.lacks(column.number) ? "" : column.cell(row));
         sink_(text_);
     }
 

@@ -6,6 +6,7 @@
 
 #include "model/QenGrower.h"
 #include "tools/PackageReading.h"
+#include "tools/export/MissingNumbers.h"
 
 /// A format of `qenxml export`. It is written while packages are read, so that no more than one of
 /// them is in memory.
@@ -21,13 +22,13 @@ public:
 
     /// A package with its growers, or without them when they come later.
     ///
+    /// @param gaps one for each of the growers
     /// @return what the reader should know about it, safe to print; mostly nothing
-    virtual std::string package(PackageReading& reading) = 0;
+    virtual std::string package(PackageReading& reading, const std::vector<GrowerGaps>& gaps) = 0;
 
-    /// The merged growers.
-    ///
-    /// @return as package()
-    virtual std::string merged(std::vector<QenGrower>& growers) = 0;
+    /// The merged growers. The arguments, and what comes back, are as in package().
+    virtual std::string merged(std::vector<QenGrower>& growers,
+                               const std::vector<GrowerGaps>& gaps) = 0;
 
     virtual void end() = 0;
 };

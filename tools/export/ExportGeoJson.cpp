@@ -7,6 +7,7 @@
 #include <boost/uuid/uuid.hpp>
 #include <fmt/format.h>
 
+#include "parser/TagNames.h"
 #include "tools/Centroid.h"
 #include "tools/JsonWriter.h"
 #include "tools/export/RecordJson.h"
@@ -18,7 +19,13 @@ struct Place {
     QenGrower& grower;
     QenFarm& farm;
     QenField& field;
+    const GrowerGaps& gaps;
 };
+
+bool isKnownPlace(const LLA& centroid, const MissingNumbers& missing) {
+    return isPlace(centroid) && !missing.contains(qenxml::tag::Latitude) &&
+           !missing.contains(qenxml::tag::Longitude);
+}
 
 class GeoJsonExport : public ExportFormat {
 public:
@@ -30,14 +37,15 @@ public:
         writer_.beginArray("features");
     }
 
-    std::string package(PackageReading& reading) override {
+    std::string package(PackageReading& reading, const std::vector<GrowerGaps>& gaps) override {
         package_ = reading.uuid;
-        return write(reading.growers);
+        return write(reading.growers, gaps);
     }
 
-    std::string merged(std::vector<QenGrower>& growers) override {
+    std::string merged(std::vector<QenGrower>& growers,
+                       const std::vector<GrowerGaps>& gaps) override {
         package_.reset();
-        return write(growers);
+        return write(growers, gaps);
     }
 
     void end() override {
@@ -47,13 +55,13 @@ public:
     }
 
 private:
-    std::string write(std::vector<QenGrower>& growers) {
+    std::string write(std::vector<QenGrower>& growers, const std::vector<GrowerGaps>& gaps) {
         features_ = 0;
         withoutPoint_ = 0;
-        for (QenGrower& grower : growers)
-            for (QenFarm& farm : grower.farms())
+        for (std::size_t i = 0; i < growers.size(); ++i)
+            for (QenFarm& farm : growers[i].farms())
                 for (QenField& field : farm.fields())
-                    write(Place{grower, farm, field});
+                    write(Place{growers[i], farm, field, gaps[i]});
         if (withoutPoint_ == 0)
             return "";
         return fmt::format("{} of {} field boundaries have no centroid, or one that is no place; "
@@ -69,11 +77,16 @@ private:
 
     void write(const Place& place, QenFieldGeometry& geometry) {
         const LLA centroid = geometry.centroid();
+        const MissingNumbers& missing = place.gaps.ofGeometry(place.field, geometry.geometryId());
+        const bool hasPoint = isKnownPlace(centroid, missing);
         ++features_;
-        withoutPoint_ += isPlace(centroid) ? 0 : 1;
+        withoutPoint_ += hasPoint ? 0 : 1;
         writer_.beginObject();
         writer_.member("type", "Feature");
-        writePoint(centroid);
+        if (hasPoint)
+            writePoint(centroid);
+        else
+            writer_.member("geometry", nullptr);
         writer_.beginObject("properties");
         // The first one is what maps show beside a point.
         writer_.member("name", jsonText(place.field.name()));
@@ -84,17 +97,18 @@ private:
         writer_.member("growerId", jsonIdentifier(place.grower.id()));
         if (package_)
             writer_.member("package", jsonIdentifier(*package_));
-        writeMembers(writer_, geometry);
-        writeRecs(place.field, geometry.geometryId());
+        writer_.member("geometryId", jsonIdentifier(geometry.geometryId()));
+        writer_.member("geometryDate", jsonText(geometry.geometryDate()));
+        // A property "geometry" would be a second column of that name where properties and shapes
+        // become one table.
+        writer_.member("geometryFileId", jsonIdentifier(geometry.geometry()));
+        writeCentroid(writer_, centroid, missing);
+        writeRecs(place, geometry.geometryId());
         writer_.endObject();
         writer_.endObject();
     }
 
     void writePoint(const LLA& centroid) {
-        if (!isPlace(centroid)) {
-            writer_.member("geometry", nullptr);
-            return;
-        }
         writer_.beginObject("geometry");
         writer_.member("type", "Point");
         writer_.beginArray("coordinates");
@@ -104,18 +118,18 @@ private:
         writer_.endObject();
     }
 
-    void writeRecs(QenField& field, const boost::uuids::uuid& geometryId) {
+    void writeRecs(const Place& place, const boost::uuids::uuid& geometryId) {
         writer_.beginArray("recs");
-        for (QenRec& rec : field.recs()) {
+        for (QenRec& rec : place.field.recs()) {
             if (rec.fieldGeometryId() == geometryId)
-                writeElement(rec);
+                writeElement(rec, place.gaps.ofRec(place.field, rec.id()));
         }
         writer_.endArray();
     }
 
-    void writeElement(QenRec& rec) {
+    void writeElement(QenRec& rec, const MissingNumbers& missing) {
         writer_.beginObject();
-        writeMembers(writer_, rec);
+        writeMembers(writer_, rec, missing);
         writer_.endObject();
     }
 

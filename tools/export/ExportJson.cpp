@@ -19,20 +19,21 @@ public:
         writer_.beginArray("packages");
     }
 
-    std::string package(PackageReading& reading) override {
+    std::string package(PackageReading& reading, const std::vector<GrowerGaps>& gaps) override {
         writer_.beginObject();
         writer_.member("file", jsonText(reading.name));
         writer_.member("uuid", reading.uuid ? jsonIdentifier(*reading.uuid) : Json());
         write(reading.failure);
         if (!merged_)
-            write(reading.growers);
+            write(reading.growers, gaps);
         writer_.endObject();
         return "";
     }
 
-    std::string merged(std::vector<QenGrower>& growers) override {
+    std::string merged(std::vector<QenGrower>& growers,
+                       const std::vector<GrowerGaps>& gaps) override {
         writer_.endArray();
-        write(growers);
+        write(growers, gaps);
         return "";
     }
 
@@ -56,37 +57,37 @@ private:
         writer_.endObject();
     }
 
-    void write(std::vector<QenGrower>& growers) {
+    void write(std::vector<QenGrower>& growers, const std::vector<GrowerGaps>& gaps) {
         writer_.beginArray("growers");
-        for (QenGrower& grower : growers)
-            write(grower);
+        for (std::size_t i = 0; i < growers.size(); ++i)
+            write(growers[i], gaps[i]);
         writer_.endArray();
     }
 
-    void write(QenGrower& grower) {
+    void write(QenGrower& grower, const GrowerGaps& gaps) {
         writer_.beginObject();
         writer_.member("name", jsonText(grower.name()));
         writer_.member("id", jsonIdentifier(grower.id()));
         writer_.beginArray("farms");
         for (QenFarm& farm : grower.farms())
-            write(farm);
+            write(farm, gaps);
         writer_.endArray();
         writer_.endObject();
     }
 
-    void write(QenFarm& farm) {
+    void write(QenFarm& farm, const GrowerGaps& gaps) {
         writer_.beginObject();
         writer_.member("name", jsonText(farm.name()));
         writer_.member("id", jsonIdentifier(farm.id()));
         writer_.member("growerId", jsonIdentifier(farm.growerId()));
         writer_.beginArray("fields");
         for (QenField& field : farm.fields())
-            write(field);
+            write(field, gaps);
         writer_.endArray();
         writer_.endObject();
     }
 
-    void write(QenField& field) {
+    void write(QenField& field, const GrowerGaps& gaps) {
         writer_.beginObject();
         writer_.member("name", jsonText(field.name()));
         writer_.member("id", jsonIdentifier(field.id()));
@@ -94,19 +95,19 @@ private:
         writer_.member("farmId", jsonIdentifier(field.farmId()));
         writer_.beginArray("geometries");
         for (QenFieldGeometry& geometry : field.geometries())
-            writeElement(geometry);
+            writeElement(geometry, gaps.ofGeometry(field, geometry.geometryId()));
         writer_.endArray();
         writer_.beginArray("recs");
         for (QenRec& rec : field.recs())
-            writeElement(rec);
+            writeElement(rec, gaps.ofRec(field, rec.id()));
         writer_.endArray();
         writer_.endObject();
     }
 
     template <class Record>
-    void writeElement(Record& record) {
+    void writeElement(Record& record, const MissingNumbers& missing) {
         writer_.beginObject();
-        writeMembers(writer_, record);
+        writeMembers(writer_, record, missing);
         writer_.endObject();
     }
 

@@ -6,82 +6,114 @@
 #include "model/CustomFertilizerRec.h"
 #include "model/PesticideRec.h"
 #include "model/PlantingRec.h"
+#include "parser/TagNames.h"
+
+namespace tag = qenxml::tag;
 
 namespace {
 
-void writeMembers(JsonWriter& writer, PlantingRec& planting) {
+/// Writes numbers; null for those that the package does not give.
+class NumberMembers {
+public:
+    NumberMembers(JsonWriter& writer, const MissingNumbers& missing)
+        : writer_(writer), missing_(missing) {}
+
+    /// @param name in the package
+    void operator()(std::string_view key, const char* name, double number) const {
+        writer_.member(key, missing_.contains(name) ? nullptr : jsonNumber(number));
+    }
+    void operator()(std::string_view key, const char* name, int number) const {
+        writer_.member(key, missing_.contains(name) ? nullptr : nlohmann::ordered_json(number));
+    }
+
+private:
+    JsonWriter& writer_;
+    const MissingNumbers& missing_;
+};
+
+/// An identifier that a package need not give; null when it does not.
+nlohmann::ordered_json optionalIdentifier(const boost::uuids::uuid& id) {
+    return id.is_nil() ? nullptr : jsonIdentifier(id);
+}
+
+void writeMembers(JsonWriter& writer, PlantingRec& planting, const MissingNumbers& missing) {
+    const NumberMembers number(writer, missing);
     writer.member("kind", "planting");
-    writer.member("cropId", planting.cropId());
+    number("cropId", tag::CropID, planting.cropId());
     writer.member("cropName", jsonText(planting.cropName()));
-    writer.member("companyId", planting.companyId());
+    number("companyId", tag::CompanyID, planting.companyId());
     writer.member("companyName", jsonText(planting.companyName()));
-    writer.member("varietyId", planting.varietyId());
+    number("varietyId", tag::VarietyID, planting.varietyId());
     writer.member("varietyName", jsonText(planting.varietyName()));
-    writer.member("uomId", planting.uomId());
+    number("uomId", tag::UOMID, planting.uomId());
     writer.member("uom", jsonText(planting.uom()));
 }
 
-void writeMembers(JsonWriter& writer, CommercialFertilizerRec& fertilizer) {
+void writeMembers(JsonWriter& writer, CommercialFertilizerRec& fertilizer,
+                  const MissingNumbers& missing) {
+    const NumberMembers number(writer, missing);
     writer.member("kind", "commercialFertilizer");
-    writer.member("productId", fertilizer.productId());
+    number("productId", tag::ProductID, fertilizer.productId());
     writer.member("productName", jsonText(fertilizer.productName()));
-    writer.member("uomId", fertilizer.uomId());
+    number("uomId", tag::UOMID, fertilizer.uomId());
     writer.member("uom", jsonText(fertilizer.uom()));
 }
 
-void writeMembers(JsonWriter& writer, CustomFertilizerRec& blend) {
+void writeMembers(JsonWriter& writer, CustomFertilizerRec& blend, const MissingNumbers& missing) {
+    const NumberMembers number(writer, missing);
     writer.member("kind", "customFertilizer");
     writer.member("productId", jsonIdentifier(blend.productId()));
     writer.member("productName", jsonText(blend.productName()));
-    writer.member("uomId", blend.uomId());
+    number("uomId", tag::UOMID, blend.uomId());
     writer.member("uom", jsonText(blend.uom()));
-    writer.member("sFertT_ID", blend.sFertT_ID());
-    writer.member("spGravity", jsonNumber(blend.spGravity()));
-    writer.member("pct_N", jsonNumber(blend.pct_N()));
-    writer.member("pct_P", jsonNumber(blend.pct_P()));
-    writer.member("pct_K", jsonNumber(blend.pct_K()));
-    writer.member("pct_Ca", jsonNumber(blend.pct_Ca()));
-    writer.member("pct_Mg", jsonNumber(blend.pct_Mg()));
-    writer.member("pct_S", jsonNumber(blend.pct_S()));
-    writer.member("pct_Fe", jsonNumber(blend.pct_Fe()));
-    writer.member("pct_Mn", jsonNumber(blend.pct_Mn()));
-    writer.member("pct_Zn", jsonNumber(blend.pct_Zn()));
-    writer.member("pct_Cu", jsonNumber(blend.pct_Cu()));
-    writer.member("pct_B", jsonNumber(blend.pct_B()));
-    writer.member("pct_Mo", jsonNumber(blend.pct_Mo()));
-    writer.member("pct_Cl", jsonNumber(blend.pct_Cl()));
+    number("sFertT_ID", tag::SFertT_ID, blend.sFertT_ID());
+    number("spGravity", tag::SpGravity, blend.spGravity());
+    number("pct_N", tag::Pct_N, blend.pct_N());
+    number("pct_P", tag::Pct_P, blend.pct_P());
+    number("pct_K", tag::Pct_K, blend.pct_K());
+    number("pct_Ca", tag::Pct_Ca, blend.pct_Ca());
+    number("pct_Mg", tag::Pct_Mg, blend.pct_Mg());
+    number("pct_S", tag::Pct_S, blend.pct_S());
+    number("pct_Fe", tag::Pct_Fe, blend.pct_Fe());
+    number("pct_Mn", tag::Pct_Mn, blend.pct_Mn());
+    number("pct_Zn", tag::Pct_Zn, blend.pct_Zn());
+    number("pct_Cu", tag::Pct_Cu, blend.pct_Cu());
+    number("pct_B", tag::Pct_B, blend.pct_B());
+    number("pct_Mo", tag::Pct_Mo, blend.pct_Mo());
+    number("pct_Cl", tag::Pct_Cl, blend.pct_Cl());
 }
 
 /// Packages give no pesticide mixes; the lines of one are left out.
-void writeMembers(JsonWriter& writer, PesticideRec& mix) {
+void writeMembers(JsonWriter& writer, PesticideRec& mix, const MissingNumbers& missing) {
+    const NumberMembers number(writer, missing);
     writer.member("kind", "pesticide");
     writer.member("pesticideMixName", jsonText(mix.pesticideMixName()));
-    writer.member("uomId", mix.uomId());
+    number("uomId", tag::UOMID, mix.uomId());
     writer.member("uom", jsonText(mix.uom()));
 }
 
-void writeMembers(JsonWriter& writer, QenRecData& data) {
+void writeMembers(JsonWriter& writer, QenRecData& data, const MissingNumbers& missing) {
     switch (data.recType()) {
     case RecTypePlanting:
-        return writeMembers(writer, static_cast<PlantingRec&>(data));
+        return writeMembers(writer, static_cast<PlantingRec&>(data), missing);
     case RecTypeCommercialFertilizer:
-        return writeMembers(writer, static_cast<CommercialFertilizerRec&>(data));
+        return writeMembers(writer, static_cast<CommercialFertilizerRec&>(data), missing);
     case RecTypeCustomFertilizer:
-        return writeMembers(writer, static_cast<CustomFertilizerRec&>(data));
+        return writeMembers(writer, static_cast<CustomFertilizerRec&>(data), missing);
     case RecTypePesticide:
-        return writeMembers(writer, static_cast<PesticideRec&>(data));
+        return writeMembers(writer, static_cast<PesticideRec&>(data), missing);
     case RecTypeNone:
         break;
     }
 }
 
-void writeProduct(JsonWriter& writer, QenRecData* data) {
+void writeProduct(JsonWriter& writer, QenRecData* data, const MissingNumbers& missing) {
     if (data == nullptr || data->recType() == RecTypeNone) {
         writer.member("recData", nullptr);
         return;
     }
     writer.beginObject("recData");
-    writeMembers(writer, *data);
+    writeMembers(writer, *data, missing);
     writer.member("recType", static_cast<int>(data->recType()));
     writer.member("recId", jsonIdentifier(data->recId()));
     writer.endObject();
@@ -93,43 +125,51 @@ nlohmann::ordered_json jsonIdentifier(const boost::uuids::uuid& id) {
     return to_string(id);
 }
 
-void writeMembers(JsonWriter& writer, QenFieldGeometry& geometry) {
-    const LLA centroid = geometry.centroid();
-    writer.member("geometryId", jsonIdentifier(geometry.geometryId()));
-    writer.member("geometryDate", jsonText(geometry.geometryDate()));
-    writer.member("geometry", jsonIdentifier(geometry.geometry()));
+void writeCentroid(JsonWriter& writer, const LLA& centroid, const MissingNumbers& missing) {
+    const NumberMembers number(writer, missing);
     writer.beginObject("centroid");
-    writer.member("latitude", jsonNumber(centroid.latitude));
-    writer.member("longitude", jsonNumber(centroid.longitude));
-    writer.member("altitude", jsonNumber(centroid.altitude));
+    number("latitude", tag::Latitude, centroid.latitude);
+    number("longitude", tag::Longitude, centroid.longitude);
+    writer.member("altitude", nullptr); // No package gives one.
     writer.endObject();
 }
 
-void writeMembers(JsonWriter& writer, QenRec& rec) {
+void writeMembers(JsonWriter& writer, QenFieldGeometry& geometry, const MissingNumbers& missing) {
+    writer.member("geometryId", jsonIdentifier(geometry.geometryId()));
+    writer.member("geometryDate", jsonText(geometry.geometryDate()));
+    writer.member("geometry", jsonIdentifier(geometry.geometry()));
+    writeCentroid(writer, geometry.centroid(), missing);
+}
+
+void writeMembers(JsonWriter& writer, QenRec& rec, const MissingNumbers& missing) {
+    const NumberMembers number(writer, missing);
     writer.member("name", jsonText(rec.name()));
     writer.member("id", jsonIdentifier(rec.id()));
     writer.member("fieldId", jsonIdentifier(rec.fieldId()));
     writer.member("fieldGeometryId", jsonIdentifier(rec.fieldGeometryId()));
-    writer.member("mgmtZoneId", jsonIdentifier(rec.mgmtZoneId()));
+    writer.member("mgmtZoneId", optionalIdentifier(rec.mgmtZoneId()));
     writer.member("recGeometry", jsonIdentifier(rec.recGeometry()));
     writer.member("recDbfCol", jsonText(rec.recDbfCol()));
     writer.member("creationDate", jsonText(rec.creationDate()));
     writer.member("editDate", jsonText(rec.editDate()));
     writer.member("operationName", jsonText(rec.operationName()));
-    writer.member("operationId", jsonIdentifier(rec.operationId()));
+    writer.member("operationId", optionalIdentifier(rec.operationId()));
     writer.member("seasonName", jsonText(rec.seasonName()));
-    writer.member("seasonId", rec.seasonId());
-    writeProduct(writer, rec.recData());
-    writer.member("minimumRate", jsonNumber(rec.minimumRate()));
-    writer.member("averageRate", jsonNumber(rec.averageRate()));
-    writer.member("maximumRate", jsonNumber(rec.maximumRate()));
-    writer.member("rateUomId", rec.rateUomId());
+    if (rec.seasonId() == -1)
+        writer.member("seasonId", nullptr);
+    else
+        number("seasonId", tag::SeasonID, rec.seasonId());
+    writeProduct(writer, rec.recData(), missing);
+    number("minimumRate", tag::MinimumRate, rec.minimumRate());
+    number("averageRate", tag::AverageRate, rec.averageRate());
+    number("maximumRate", tag::MaximumRate, rec.maximumRate());
+    number("rateUomId", tag::RateUOMID, rec.rateUomId());
     writer.member("rateUom", jsonText(rec.rateUom()));
-    writer.member("total", jsonNumber(rec.total()));
-    writer.member("totalUomId", rec.totalUomId());
+    number("total", tag::Total, rec.total());
+    number("totalUomId", tag::TotalUOMID, rec.totalUomId());
     writer.member("totalUom", jsonText(rec.totalUom()));
-    writer.member("area", jsonNumber(rec.area()));
-    writer.member("areaUomId", rec.areaUomId());
+    number("area", tag::Area, rec.area());
+    number("areaUomId", tag::AreaUOMID, rec.areaUomId());
     writer.member("areaUom", jsonText(rec.areaUom()));
     writer.member("isUsed", rec.isUsed());
     writer.member("xmlFileName", jsonIdentifier(rec.xmlFileName()));

@@ -1,5 +1,6 @@
 /// @file
-/// Records as JSON: what every accessor gives, under the accessor's name.
+/// Records as JSON: what every accessor gives, under the accessor's name; null for a number, or an
+/// identifier of an operation or zone, that the package does not give.
 
 #ifndef QENXML_TOOLS_EXPORT_RECORDJSON_H
 #define QENXML_TOOLS_EXPORT_RECORDJSON_H
@@ -11,11 +12,15 @@
 #include "model/QenFieldGeometry.h"
 #include "model/QenRec.h"
 #include "tools/JsonWriter.h"
+#include "tools/export/MissingNumbers.h"
 
 nlohmann::ordered_json jsonIdentifier(const boost::uuids::uuid& id);
 
 /// Writes them as members of the object that is being written.
-void writeMembers(JsonWriter& writer, QenFieldGeometry& geometry);
-void writeMembers(JsonWriter& writer, QenRec& rec);
+void writeMembers(JsonWriter& writer, QenFieldGeometry& geometry, const MissingNumbers& missing);
+void writeMembers(JsonWriter& writer, QenRec& rec, const MissingNumbers& missing);
+
+/// Writes a centroid as such a member.
+void writeCentroid(JsonWriter& writer, const LLA& centroid, const MissingNumbers& missing);
 
 #endif
