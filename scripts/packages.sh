@@ -9,6 +9,7 @@ packages_bench="$packages_run libbenchmark-dev python3 valgrind"
 packages_reference="$packages_run doxygen"
 packages_check="$packages_test $packages_reference clang clang-tidy clang-format libclang-rt-14-dev cppcheck valgrind gcovr git zsh fish"
 packages_full_check="$packages_test clang"
+packages_gis="$packages_run gdal-bin python3-geopandas"
 packages_libcxx="libc++-dev libc++abi-dev googletest dpkg-dev"
 packages_cross="cmake ninja-build qemu-user" # and the compiler for the processor
 packages_abi="$packages_run abigail-tools"
