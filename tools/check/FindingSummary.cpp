@@ -77,7 +77,7 @@ std::string describe(const FindingCounts& counts) {
     add(counts.errors, "error");
     add(counts.warnings, "warning");
     add(counts.notes, "note");
-    return text.empty() ? "nothing found" : text;
+    return text.empty() ? "no problems found" : text;
 }
 
 void FindingSummary::count(FindingCode code) {

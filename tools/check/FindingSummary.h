@@ -21,7 +21,7 @@ struct FindingCounts {
     FindingCounts& operator+=(const FindingCounts& other);
 };
 
-/// In words: "1 error, 2,000 warnings", or "nothing found".
+/// In words: "1 error, 2,000 warnings", or "no problems found".
 std::string describe(const FindingCounts& counts);
 
 /// The findings of one file as people want to see them: of each code the first ones, all counted.

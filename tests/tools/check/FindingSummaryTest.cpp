@@ -61,7 +61,7 @@ TEST(FindingSummary, ShowsTheFirstTenOfACodeAndCountsTheOthers) {
 
 TEST(FindingSummary, SaysThatNothingIsFound) {
     EXPECT_EQ(FindingSummary().text("a.xml", Style()), "");
-    EXPECT_EQ(describe(FindingCounts()), "nothing found");
+    EXPECT_EQ(describe(FindingCounts()), "no problems found");
 }
 
 TEST(FindingSummary, DressesWhatMattersInColour) {
