@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <memory>
 #include <string>
+#include <thread>
 
 #include <gtest/gtest.h>
 
@@ -35,6 +36,18 @@ TEST_F(ProgressLineOnTerminal, ShowsTheFileAndHowMuchOfItIsDone) {
     terminal_.clearProgress();
     terminal_.clearProgress();
     EXPECT_EQ(messages(), "\rfile 1 of 12, 0 % of it: a\\n.xml\x1b[K\r\x1b[K");
+}
+
+TEST_F(ProgressLineOnTerminal, ShowsThePercentageOfTheFileTenTimesASecond) {
+    ProgressLine progress(terminal_, 2, std::chrono::seconds(0));
+    progress.beginFile("a.xml");
+    std::this_thread::sleep_for(std::chrono::milliseconds(101));
+    progress.reach(0.254);
+    std::this_thread::sleep_for(std::chrono::milliseconds(101));
+    progress.reach(1);
+    EXPECT_EQ(messages(), "\rfile 1 of 2, 0 % of it: a.xml\x1b[K"
+                          "\rfile 1 of 2, 25 % of it: a.xml\x1b[K"
+                          "\rfile 1 of 2, 100 % of it: a.xml\x1b[K");
 }
 
 TEST_F(ProgressLineOnTerminal, GivesWayToMessages) {
