@@ -46,6 +46,7 @@ std::vector<std::string> knownNames(const CLI::App& application) {
 std::string describeUnknown(const CLI::App& application, const std::string& argument) {
     const std::vector<std::string> names = knownNames(application);
     std::vector<const char*> pointers;
+    pointers.reserve(names.size());
     for (const std::string& name : names)
         pointers.push_back(name.c_str());
     const std::string_view nearest = nearestName(argument.substr(0, argument.find('=')), pointers);

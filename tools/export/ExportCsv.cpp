@@ -145,8 +145,8 @@ struct Row {
 };
 
 struct Column {
-    const char* title;
-    std::string (*cell)(const Row&);
+    const char* title = nullptr;
+    std::string (*cell)(const Row&) = nullptr;
     const char* number = nullptr; ///< The name in a package of the number that the cell holds.
 };
 

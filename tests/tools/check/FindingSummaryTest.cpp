@@ -59,7 +59,7 @@ TEST(FindingSummary, ShowsTheFirstTenOfACodeAndCountsTheOthers) {
     EXPECT_EQ(describe(summary.counts()), "1,244 warnings");
 }
 
-TEST(FindingSummary, SaysThatNothingIsFound) {
+TEST(FindingSummary, SaysThatThereAreNoProblems) {
     EXPECT_EQ(FindingSummary().text("a.xml", Style()), "");
     EXPECT_EQ(describe(FindingCounts()), "no problems found");
 }
