@@ -7,6 +7,13 @@
 
 include(CMakePackageConfigHelpers)
 
+# The library has the same search path when built as when installed: the folder of a pugixml that is
+# not the system's. CMake gives a library whose path it changes when installing a path that ends in
+# ":" until then, and the loader takes that for the current folder.
+set_target_properties(qenxml PROPERTIES
+    BUILD_WITH_INSTALL_RPATH ON
+    INSTALL_RPATH_USE_LINK_PATH ON)
+
 install(TARGETS qenxml EXPORT qenxmlTargets
     RUNTIME COMPONENT Runtime
     LIBRARY COMPONENT Runtime NAMELINK_COMPONENT Development

@@ -20,6 +20,37 @@ function(output_of variable)
     set(${variable} "${output}" PARENT_SCOPE)
 endfunction()
 
+# expect_fixed_search_path(BINARY): the loader looks for libraries where nobody else can put one: an
+# element that is empty or relative is the current folder or one below it.
+function(expect_fixed_search_path binary)
+    output_of(dynamic readelf -dW ${binary})
+    string(REGEX MATCHALL "\\((RPATH|RUNPATH)\\)[^[]*\\[[^]]*" paths "${dynamic}")
+    foreach(path IN LISTS paths)
+        string(REGEX REPLACE "^[^[]*\\[" "" path "${path}")
+        if(NOT ":${path}" MATCHES "^(:(/|\\$ORIGIN(/|:|$))[^:]*)+$")
+            message(FATAL_ERROR "${binary} looks for libraries in the current folder: \"${path}\"")
+        endif()
+    endforeach()
+endfunction()
+
+# expect_fixed_search_paths(FOLDER): so do all programs and libraries in a folder, but those that
+# other tests are building.
+function(expect_fixed_search_paths folder)
+    file(GLOB_RECURSE files LIST_DIRECTORIES OFF ${folder}/*)
+    list(FILTER files EXCLUDE REGEX "/CMakeFiles/|^${folder}/tests/package/[^/]+/")
+    set(count 0)
+    foreach(file IN LISTS files)
+        file(READ ${file} magic LIMIT 4 HEX)
+        if(magic STREQUAL "7f454c46")
+            expect_fixed_search_path(${file})
+            math(EXPR count "${count} + 1")
+        endif()
+    endforeach()
+    if(count EQUAL 0)
+        message(FATAL_ERROR "There is no program or library in ${folder}")
+    endif()
+endfunction()
+
 # expect_protected(BINARY): the stack is guarded, and the loader's tables are read-only once it has
 # done its work, which it does at once.
 function(expect_protected binary)
@@ -61,13 +92,32 @@ endfunction()
 
 if(COMMAND)
     expect_program(${COMMAND})
+    expect_program(${PREFIX}/bin/qenxml)
 endif()
 
-# Calls of the C library are checked in optimised builds.
 file(REMOVE_RECURSE ${WORK_DIR})
-run(${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR}/hardened_program -B ${WORK_DIR} -G ${GENERATOR}
+expect_fixed_search_paths(${BUILD_DIR})
+if(SHARED OR COMMAND)
+    # Copied, since other tests use the prefix at the same time.
+    file(COPY ${PREFIX}/ DESTINATION ${WORK_DIR}/installed)
+    expect_fixed_search_paths(${WORK_DIR}/installed)
+endif()
+
+# So does a library that is linked with a pugixml which is not the system's.
+output_of(pugixml ${CXX} -print-file-name=libpugixml.so)
+string(STRIP "${pugixml}" pugixml)
+file(COPY ${pugixml} DESTINATION ${WORK_DIR}/elsewhere FOLLOW_SYMLINK_CHAIN)
+run(${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR}/subdirectory_host -B ${WORK_DIR}/other_pugixml
+    -G ${GENERATOR} -D CMAKE_CXX_COMPILER=${CXX} -D CMAKE_BUILD_TYPE=Debug
+    -D CMAKE_UNITY_BUILD=ON -D BUILD_SHARED_LIBS=ON -D QENXML_SOURCE=${SOURCE_DIR}
+    -D PUGIXML_LIBRARY=${WORK_DIR}/elsewhere/libpugixml.so)
+run(${CMAKE_COMMAND} --build ${WORK_DIR}/other_pugixml)
+expect_fixed_search_paths(${WORK_DIR}/other_pugixml)
+
+# Calls of the C library are checked in optimised builds.
+run(${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR}/hardened_program -B ${WORK_DIR}/optimised -G ${GENERATOR}
     -D CMAKE_CXX_COMPILER=${CXX} -D CMAKE_BUILD_TYPE=Release -D QENXML_SOURCE=${SOURCE_DIR})
-run(${CMAKE_COMMAND} --build ${WORK_DIR})
-expect_program(${WORK_DIR}/hardened_program)
-output_of(symbols nm -D --undefined-only ${WORK_DIR}/hardened_program)
+run(${CMAKE_COMMAND} --build ${WORK_DIR}/optimised)
+expect_program(${WORK_DIR}/optimised/hardened_program)
+output_of(symbols nm -D --undefined-only ${WORK_DIR}/optimised/hardened_program)
 expect_match("Calls of the C library are checked" "${symbols}" "__strcpy_chk")
