@@ -2,6 +2,7 @@
 # where sanitizers or the counting of lines are built in, which do not go together with it.
 
 include(CheckCXXCompilerFlag)
+include(CheckCXXSourceCompiles)
 include(CheckPIESupported)
 
 option(QENXML_HARDENING "Protect the stack, the calls and the loader's tables" ON)
@@ -11,6 +12,15 @@ check_cxx_compiler_flag(-fstack-protector-strong QENXML_STACK_PROTECTOR)
 set(CMAKE_REQUIRED_FLAGS -Werror)
 check_cxx_compiler_flag(-fcf-protection QENXML_CONTROL_FLOW_PROTECTION)        # x86
 check_cxx_compiler_flag(-mbranch-protection=standard QENXML_BRANCH_PROTECTION) # 64-bit ARM
+check_cxx_compiler_flag(-fstack-clash-protection QENXML_STACK_CLASH_PROTECTION)
+unset(CMAKE_REQUIRED_FLAGS)
+# Some compilers check calls of the C library by themselves, as well or better than is asked for here.
+set(CMAKE_REQUIRED_FLAGS -O2)
+check_cxx_source_compiles("
+    #if !defined(_FORTIFY_SOURCE) || _FORTIFY_SOURCE < 2
+    #error
+    #endif
+    int main() {}" QENXML_FORTIFIED_BY_COMPILER)
 unset(CMAKE_REQUIRED_FLAGS)
 check_pie_supported(LANGUAGES CXX)
 
@@ -20,9 +30,11 @@ function(qenxml_harden target)
     endif()
     target_compile_options(${target} PRIVATE
         $<$<BOOL:${QENXML_STACK_PROTECTOR}>:-fstack-protector-strong>
+        $<$<BOOL:${QENXML_STACK_CLASH_PROTECTION}>:-fstack-clash-protection>
         $<$<BOOL:${QENXML_CONTROL_FLOW_PROTECTION}>:-fcf-protection>
         $<$<BOOL:${QENXML_BRANCH_PROTECTION}>:-mbranch-protection=standard>)
-    if(NOT CMAKE_CXX_FLAGS MATCHES "_FORTIFY_SOURCE") # who packages it may have decided
+    # Who packages it may have decided.
+    if(NOT QENXML_FORTIFIED_BY_COMPILER AND NOT CMAKE_CXX_FLAGS MATCHES "_FORTIFY_SOURCE")
         # Needs optimisation.
         target_compile_options(${target} PRIVATE
             $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2>)

@@ -114,10 +114,25 @@ run(${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR}/subdirectory_host -B ${WORK_DI
 run(${CMAKE_COMMAND} --build ${WORK_DIR}/other_pugixml)
 expect_fixed_search_paths(${WORK_DIR}/other_pugixml)
 
-# Calls of the C library are checked in optimised builds.
-run(${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR}/hardened_program -B ${WORK_DIR}/optimised -G ${GENERATOR}
-    -D CMAKE_CXX_COMPILER=${CXX} -D CMAKE_BUILD_TYPE=Release -D QENXML_SOURCE=${SOURCE_DIR})
-run(${CMAKE_COMMAND} --build ${WORK_DIR}/optimised)
-expect_program(${WORK_DIR}/optimised/hardened_program)
-output_of(symbols nm -D --undefined-only ${WORK_DIR}/optimised/hardened_program)
+# build_optimised(NAME OPTION...): the program of hardened_program, in a folder of that name. Calls of
+# the C library are checked in optimised builds only.
+function(build_optimised name)
+    run(${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR}/hardened_program -B ${WORK_DIR}/${name}
+        -G ${GENERATOR} -D CMAKE_BUILD_TYPE=Release -D QENXML_SOURCE=${SOURCE_DIR} ${ARGN})
+    run(${CMAKE_COMMAND} --build ${WORK_DIR}/${name})
+endfunction()
+build_optimised(optimised -D CMAKE_CXX_COMPILER=${CXX} -D CMAKE_CXX_FLAGS=-DFORTIFIED=2)
+set(program ${WORK_DIR}/optimised/hardened_program)
+expect_program(${program})
+output_of(symbols nm -D --undefined-only ${program})
 expect_match("Calls of the C library are checked" "${symbols}" "__strcpy_chk")
+if(PROCESSOR MATCHES "^(x86_64|AMD64|amd64)$")
+    output_of(code objdump -d --no-show-raw-insn --disassemble=_Z5firstPKc ${program})
+    expect_match("Each page of the stack is touched" "${code}" "sub +\\$0x1000,%rsp")
+endif()
+
+# A compiler that checks more by itself goes on doing so.
+set(compiler ${WORK_DIR}/fortifying-compiler)
+file(WRITE ${compiler} "#!/bin/sh\nexec ${CXX} -D_FORTIFY_SOURCE=3 \"$@\"\n")
+file(CHMOD ${compiler} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+build_optimised(fortified -D CMAKE_CXX_COMPILER=${compiler} -D CMAKE_CXX_FLAGS=-DFORTIFIED=3)
