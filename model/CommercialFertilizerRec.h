@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "model/QenExport.h"
-#include "model/QenRecData.h"
+#include "QenExport.h"
+#include "QenRecData.h"
 
 /// Product data of a fertilizer that is bought as it is.
 ///

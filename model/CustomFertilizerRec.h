@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "model/QenExport.h"
-#include "model/QenRecData.h"
+#include "QenExport.h"
+#include "QenRecData.h"
 
 /// Product data of a fertilizer blend, described by its nutrients in percent.
 ///

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <string>
 
-#include "model/QenExport.h"
+#include "QenExport.h"
 
 /// The kind of one product of a pesticide mix. The library keeps it and never acts on it.
 enum PesticideType : std::int32_t {

@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "model/PestProduct.h"
-#include "model/QenExport.h"
+#include "PestProduct.h"
+#include "QenExport.h"
 
 /// A product line of a pesticide mix whose amount() is in a unit of its own.
 class QENXML_EXPORT PesticideByAmount : public PestProduct {

@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
-#include "model/PesticideByAmount.h"
-#include "model/PesticideByPercent.h"
-#include "model/QenExport.h"
-#include "model/QenRecData.h"
+#include "PesticideByAmount.h"
+#include "PesticideByPercent.h"
+#include "QenExport.h"
+#include "QenRecData.h"
 
 /// Product data of a pesticide mix: its name, its unit and its product lines.
 ///

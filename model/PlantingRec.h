@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "model/QenExport.h"
-#include "model/QenRecData.h"
+#include "QenExport.h"
+#include "QenRecData.h"
 
 /// Product data of a planting: the variety of a crop that is to be planted.
 ///

@@ -6,8 +6,8 @@
 
 #include <boost/uuid/uuid.hpp>
 
-#include "model/QenExport.h"
-#include "model/QenField.h"
+#include "QenExport.h"
+#include "QenField.h"
 
 /// A farm of a grower: its identity and its fields.
 ///

@@ -6,9 +6,9 @@
 
 #include <boost/uuid/uuid.hpp>
 
-#include "model/QenExport.h"
-#include "model/QenFieldGeometry.h"
-#include "model/QenRec.h"
+#include "QenExport.h"
+#include "QenFieldGeometry.h"
+#include "QenRec.h"
 
 /// A field: its identity, its boundary geometries and its recs.
 ///

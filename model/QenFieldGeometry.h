@@ -5,7 +5,7 @@
 
 #include <boost/uuid/uuid.hpp>
 
-#include "model/QenExport.h"
+#include "QenExport.h"
 
 /// A point on the earth: the centroid of a field geometry. A plain aggregate; `LLA{}` is all zeros.
 /// The values are kept as given, out of range or not.

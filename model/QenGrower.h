@@ -6,8 +6,8 @@
 
 #include <boost/uuid/uuid.hpp>
 
-#include "model/QenExport.h"
-#include "model/QenFarm.h"
+#include "QenExport.h"
+#include "QenFarm.h"
 
 /// A grower: the root of a record tree, with the grower's identity and farms.
 ///

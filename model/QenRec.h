@@ -6,8 +6,8 @@
 
 #include <boost/uuid/uuid.hpp>
 
-#include "model/QenExport.h"
-#include "model/QenRecData.h"
+#include "QenExport.h"
+#include "QenRecData.h"
 
 class QenRec;
 

@@ -8,7 +8,7 @@
 
 #include <boost/uuid/uuid.hpp>
 
-#include "model/QenExport.h"
+#include "QenExport.h"
 
 /// The kind of a rec's product data. The number is part of the interface.
 enum RecType : std::int32_t {

@@ -21,6 +21,8 @@ std::string_view packageIdentifier(std::string_view path) {
 
 } // namespace
 
+void qenxml::QENXML_DOCUMENTS() {}
+
 QenXmlParser::QenXmlParser() = default;
 
 QenXmlParser::~QenXmlParser() = default;

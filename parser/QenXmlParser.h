@@ -7,16 +7,27 @@
 #include <boost/uuid/uuid.hpp>
 #include <pugixml.hpp>
 
-#include "model/CommercialFertilizerRec.h"
-#include "model/CustomFertilizerRec.h"
-#include "model/PesticideRec.h"
-#include "model/PlantingRec.h"
-#include "model/QenExport.h"
-#include "model/QenFarm.h"
-#include "model/QenField.h"
-#include "model/QenGrower.h"
-#include "model/QenRec.h"
-#include "model/QenRecData.h"
+#include "../model/CommercialFertilizerRec.h"
+#include "../model/CustomFertilizerRec.h"
+#include "../model/PesticideRec.h"
+#include "../model/PlantingRec.h"
+#include "../model/QenExport.h"
+#include "../model/QenFarm.h"
+#include "../model/QenField.h"
+#include "../model/QenGrower.h"
+#include "../model/QenRec.h"
+#include "../model/QenRecData.h"
+
+/// @cond
+#if defined(PUGIXML_WCHAR_MODE)
+#error "This program is compiled with PUGIXML_WCHAR_MODE; libqenxml, with texts in UTF-8, never is"
+#elif defined(PUGIXML_COMPACT)
+#define QENXML_DOCUMENTS this_program_is_compiled_with_PUGIXML_COMPACT_and_its_libqenxml_without
+#else
+#define QENXML_DOCUMENTS this_program_is_compiled_without_PUGIXML_COMPACT_and_its_libqenxml_with
+#endif
+QENXML_REQUIRE(QENXML_DOCUMENTS)
+/// @endcond
 
 /// Reads package files into growers.
 ///

@@ -1,0 +1,5 @@
+#include "model/QenExport.h"
+
+void qenxml::QENXML_CONTAINERS() {}
+
+void qenxml::QENXML_STRINGS() {}
