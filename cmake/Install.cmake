@@ -3,7 +3,8 @@
 #   Development    headers, link library, the configuration for CMake and pkg-config
 #   Tools          the qenxml command
 #   Documentation  the documents, the sample packages and the example host (Documentation.cmake)
-# Everything finds its parts relative to itself, so that an installed prefix can be moved.
+# Everything finds its parts relative to itself, so that an installed prefix can be moved; pkg-config
+# is told where it is then.
 
 include(CMakePackageConfigHelpers)
 
@@ -34,11 +35,14 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/qenxmlConfig.cmake
               ${CMAKE_CURRENT_BINARY_DIR}/qenxmlConfigVersion.cmake
     DESTINATION ${package_dir} COMPONENT Development)
 
-# For pkg-config.
-set(full_pkgconfig_dir ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig)
-file(RELATIVE_PATH pkgconfig_to_prefix ${full_pkgconfig_dir} ${CMAKE_INSTALL_PREFIX})
-file(RELATIVE_PATH pkgconfig_to_include ${full_pkgconfig_dir}
-    ${CMAKE_INSTALL_FULL_INCLUDEDIR}/qenxml)
+# For pkg-config. The prefix is known for sure when installing.
+cmake_path(APPEND pkgconfig_libdir "\${prefix}" ${CMAKE_INSTALL_LIBDIR})
+cmake_path(APPEND pkgconfig_includedir "\${prefix}" ${CMAKE_INSTALL_INCLUDEDIR})
 configure_file(cmake/qenxml.pc.in qenxml.pc @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/qenxml.pc
+install(CODE "
+    file(READ \"${CMAKE_CURRENT_BINARY_DIR}/qenxml.pc\" text)
+    string(REGEX REPLACE \"^prefix=[^\n]*\" \"prefix=\${CMAKE_INSTALL_PREFIX}\" text \"\${text}\")
+    file(WRITE \"${CMAKE_CURRENT_BINARY_DIR}/installed/qenxml.pc\" \"\${text}\")"
+    COMPONENT Development)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/installed/qenxml.pc
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)

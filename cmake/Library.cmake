@@ -21,7 +21,8 @@ add_library(qenxml::qenxml ALIAS qenxml)
 target_compile_features(qenxml PUBLIC cxx_std_17)
 target_include_directories(qenxml PUBLIC
     $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>
-    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/qenxml>)
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/qenxml>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>) # for <qenxml/parser/QenXmlParser.h>
 target_link_libraries(qenxml
     PUBLIC pugixml::pugixml Boost::headers
     PRIVATE $<BUILD_INTERFACE:qenxml_developer_flags>)

@@ -36,6 +36,22 @@ foreach(component Runtime Development)
     run(${CMAKE_COMMAND} --install ${WORK_DIR}/library --prefix ${WORK_DIR}/prefix
         --component ${component})
 endforeach()
+
+# pkg_config(VARIABLE PREFIX OPTION...): what it says about the library in a prefix, as a list.
+function(pkg_config variable prefix)
+    file(GLOB_RECURSE pkgconfig_file ${prefix}/qenxml.pc)
+    get_filename_component(pkgconfig_dir ${pkgconfig_file} DIRECTORY)
+    set(ENV{PKG_CONFIG_PATH} ${pkgconfig_dir})
+    execute_process(COMMAND pkg-config ${ARGN} qenxml
+        OUTPUT_VARIABLE output OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+    separate_arguments(output UNIX_COMMAND "${output}")
+    set(${variable} ${output} PARENT_SCOPE)
+endfunction()
+pkg_config(compile_flags ${WORK_DIR}/prefix --cflags-only-I)
+set(include_dir ${WORK_DIR}/prefix/include)
+expect_same("The folders of headers for pkg-config" "${compile_flags}"
+    "-I${include_dir}/qenxml;-I${include_dir}")
+
 set(prefix ${WORK_DIR}/elsewhere/moved)
 file(MAKE_DIRECTORY ${WORK_DIR}/elsewhere)
 file(RENAME ${WORK_DIR}/prefix ${prefix})
@@ -44,22 +60,18 @@ file(REMOVE_RECURSE ${WORK_DIR}/library)
 build(find_package ${SOURCE_DIR}/examples/host -D CMAKE_PREFIX_PATH=${prefix})
 expect_host_output(${WORK_DIR}/find_package/host)
 
-file(GLOB_RECURSE pkgconfig_file ${prefix}/qenxml.pc)
-get_filename_component(pkgconfig_dir ${pkgconfig_file} DIRECTORY)
-set(ENV{PKG_CONFIG_PATH} ${pkgconfig_dir})
-# pkg_config(VARIABLE OPTION...): what it says about the library, as a list.
-function(pkg_config variable)
-    execute_process(COMMAND pkg-config ${ARGN} qenxml
-        OUTPUT_VARIABLE output OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
-    separate_arguments(output UNIX_COMMAND "${output}")
-    set(${variable} ${output} PARENT_SCOPE)
-endfunction()
-pkg_config(compile_flags --cflags)
-pkg_config(link_flags --libs)
-pkg_config(libdir --variable=libdir)
+set(moved --define-variable=prefix=${prefix})
+pkg_config(compile_flags ${prefix} ${moved} --cflags)
+pkg_config(link_flags ${prefix} ${moved} --libs)
+pkg_config(libdir ${prefix} ${moved} --variable=libdir)
 run(${CXX} -std=c++17 ${warnings} ${compile_flags} -o ${WORK_DIR}/pkg_config_host
     ${SOURCE_DIR}/examples/host/main.cpp ${link_flags} -Wl,-rpath,${libdir})
 expect_host_output(${WORK_DIR}/pkg_config_host)
+
+# Includes that begin with "qenxml/" work in all ways, too (subdirectory_host has one as well).
+build(prefixed ${CMAKE_CURRENT_LIST_DIR}/prefixed_host -D CMAKE_PREFIX_PATH=${prefix})
+run(${CXX} -std=c++17 ${warnings} ${compile_flags} -fsyntax-only
+    ${CMAKE_CURRENT_LIST_DIR}/prefixed_host/main.cpp)
 
 # As sources. A host that says nothing gets a static library, like every project of CMake.
 set(kind_option "")
@@ -72,7 +84,7 @@ expect_host_output(${WORK_DIR}/subdirectory/host)
 
 execute_process(
     COMMAND ${CMAKE_COMMAND} -E tar czf ${WORK_DIR}/qenxml.tar.gz
-        CMakeLists.txt cmake libqenxml.map model parser
+        CMakeLists.txt cmake libqenxml.map model parser qenxml
     WORKING_DIRECTORY ${SOURCE_DIR} COMMAND_ERROR_IS_FATAL ANY)
 build(fetched ${CMAKE_CURRENT_LIST_DIR}/fetched_host
     -D QENXML_SOURCE=${WORK_DIR}/qenxml.tar.gz -D QENXML_HOST=${SOURCE_DIR}/examples/host/main.cpp
