@@ -35,19 +35,37 @@ install_packages() {
         echo "Install them, or run this script as root or where sudo is available." >&2
         return 1
     fi
-    echo "Installing from Debian: ${missing[*]}" >&2
+    echo "Installing from Debian, which may take minutes: ${missing[*]}" >&2
     apt_get update && apt_get install -y --no-install-recommends "${missing[@]}"
 }
 
 # install_build_dependencies FOLDER: installs what the Debian package in a folder is built with.
 install_build_dependencies() {
-    echo "Installing from Debian what $1 is built with" >&2
+    echo "Installing from Debian what $1 is built with, which may take minutes" >&2
     apt_get update && apt_get build-dep -y --no-install-recommends "$1"
 }
 
-# apt_get ARGUMENT...: as root.
+# apt_get ARGUMENT...: as root, with a line for each package. Waits for another apt, for example one
+# that the system started by itself, up to ten minutes. apt does so by itself when it installs, but
+# neither when it fetches the lists nor the packages.
 apt_get() {
-    local as_root=()
+    local as_root=() started=$SECONDS told="" errors status
     [ "$(id -u)" = 0 ] || as_root=(sudo)
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq "$@" >&2
+    errors=$(mktemp)
+    while true; do
+        status=0
+        "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8 \
+            apt-get -q -o DPkg::Lock::Timeout=600 -o Dpkg::Use-Pty=0 "$@" 2>"$errors" |
+            sed -un 's/^Setting up \([^ ]*\).*/  installed \1/p' >&2 || status=$?
+        if [ "$status" = 0 ] || [ $((SECONDS - started)) -ge 600 ] ||
+            ! grep -q "Could not get lock" "$errors"; then
+            break
+        fi
+        [ -n "$told" ] || echo "Waiting for another apt to end, up to ten minutes" >&2
+        told=yes
+        sleep 3
+    done
+    cat "$errors" >&2
+    rm -f "$errors"
+    return "$status"
 }
