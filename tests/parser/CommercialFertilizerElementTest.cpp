@@ -42,8 +42,7 @@ using FertilizerSample = test::Sample<CommercialFertilizerElement>;
 
 } // namespace
 
-INSTANTIATE_TYPED_TEST_SUITE_P(CommercialFertilizer, ElementRules, CommercialFertilizerElement,
-                               test::ElementName);
+INSTANTIATE_TYPED_TEST_SUITE_P(CommercialFertilizer, ElementRules, CommercialFertilizerElement);
 
 TEST(CommercialFertilizerElement, GivesDataOfItsKindForTheRecThatItIsGiven) {
     const FertilizerSample sample;

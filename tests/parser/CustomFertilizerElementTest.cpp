@@ -60,8 +60,7 @@ using BlendSample = test::Sample<CustomFertilizerElement>;
 
 } // namespace
 
-INSTANTIATE_TYPED_TEST_SUITE_P(CustomFertilizer, ElementRules, CustomFertilizerElement,
-                               test::ElementName);
+INSTANTIATE_TYPED_TEST_SUITE_P(CustomFertilizer, ElementRules, CustomFertilizerElement);
 
 TEST(CustomFertilizerElement, GivesDataOfItsKindForTheRecThatItIsGiven) {
     const BlendSample sample;

@@ -49,7 +49,7 @@ struct FarmElement {
 
 } // namespace
 
-INSTANTIATE_TYPED_TEST_SUITE_P(Farm, ElementRules, FarmElement, test::ElementName);
+INSTANTIATE_TYPED_TEST_SUITE_P(Farm, ElementRules, FarmElement);
 
 TEST(FarmElement, WithAnIdentifierOnlyGivesAnEmptyFarmOfItsGrower) {
     QenFarm farm = readFarm(test::farm(11));

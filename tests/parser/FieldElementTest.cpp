@@ -68,7 +68,7 @@ using FieldSample = test::Sample<FieldElement>;
 
 } // namespace
 
-INSTANTIATE_TYPED_TEST_SUITE_P(Field, ElementRules, FieldElement, test::ElementName);
+INSTANTIATE_TYPED_TEST_SUITE_P(Field, ElementRules, FieldElement);
 
 TEST(FieldElement, WithItsThreeIdentifiersOnlyGivesOneGeometryAndNoRecs) {
     EXPECT_EQ(test::describe(QenFieldGeometry(uuid(7021), "", uuid(8021), LLA{0.0, 0.0, 0.0})),

@@ -45,7 +45,7 @@ QenGrower readGrower(const std::string& text) {
 
 } // namespace
 
-INSTANTIATE_TYPED_TEST_SUITE_P(Grower, ElementRules, GrowerElement, test::ElementName);
+INSTANTIATE_TYPED_TEST_SUITE_P(Grower, ElementRules, GrowerElement);
 
 TEST(GrowerElement, WithoutANameGivesAnEmptyName) {
     QenGrower grower = readGrower(test::grower(1));

@@ -8,7 +8,7 @@
 ///         static std::vector<test::Datum<Record>> data(); // one row per datum
 ///         static std::unique_ptr<Record> read(pugi::xml_node element); // null: no record
 ///     };
-///     INSTANTIATE_TYPED_TEST_SUITE_P(Grower, ElementRules, GrowerElement, test::ElementName);
+///     INSTANTIATE_TYPED_TEST_SUITE_P(Grower, ElementRules, GrowerElement);
 
 #ifndef QENXML_TESTS_SUPPORT_ELEMENTRULES_H
 #define QENXML_TESTS_SUPPORT_ELEMENTRULES_H
@@ -201,14 +201,6 @@ public:
 private:
     pugi::xml_document document_;
     pugi::xml_node root_;
-};
-
-/// Names a test after its element.
-struct ElementName {
-    template <class Element>
-    static std::string GetName(int) {
-        return Element::name;
-    }
 };
 
 inline std::string lowerCase(std::string text) {

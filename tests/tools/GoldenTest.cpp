@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include "model/version.h"
+#include "tests/tools/GoldenDifference.h"
 #include "tests/tools/RunCommand.h"
 
 namespace {
@@ -77,8 +78,8 @@ TEST_P(Golden, IsWhatTheCommandWrites) {
     const std::string actual = runAsWritten(expected.substr(0, expected.find('\n')));
     if (std::getenv("QENXML_UPDATE_GOLDEN") != nullptr)
         std::ofstream(path(), std::ios::binary) << actual;
-    else
-        EXPECT_EQ(actual, expected);
+    else if (actual != expected)
+        FAIL() << test::goldenDifference(path().string(), actual);
 }
 
 INSTANTIATE_TEST_SUITE_P(Command, Golden, testing::ValuesIn(goldenFiles()), [](const auto& file) {
