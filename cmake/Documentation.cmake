@@ -7,11 +7,16 @@ option(QENXML_REFERENCE "Make the reference of the public interface, with doxyge
 
 if(QENXML_REFERENCE)
     find_package(Doxygen REQUIRED)
-    set(inputs ${PROJECT_SOURCE_DIR}/docs/reference.md ${qenxml_model_headers} ${qenxml_parser_headers})
+    set(inputs ${PROJECT_SOURCE_DIR}/docs/reference.md ${PROJECT_SOURCE_DIR}/docs/guide.md
+        ${qenxml_model_headers} ${qenxml_parser_headers})
     list(JOIN inputs "\" \"" QENXML_REFERENCE_INPUT)
     string(PREPEND QENXML_REFERENCE_INPUT "\"")
     string(APPEND QENXML_REFERENCE_INPUT "\"")
     configure_file(docs/Doxyfile.in ${PROJECT_BINARY_DIR}/Doxyfile @ONLY)
+    # The pages lead to the other documents, which lie beside them when they are installed.
+    foreach(folder docs examples)
+        file(CREATE_LINK ${PROJECT_SOURCE_DIR}/${folder} ${PROJECT_BINARY_DIR}/${folder} SYMBOLIC)
+    endforeach()
     add_custom_target(qenxml_reference
         COMMAND ${CMAKE_COMMAND} -E rm -rf ${PROJECT_BINARY_DIR}/html # of items that have gone
         COMMAND Doxygen::doxygen ${PROJECT_BINARY_DIR}/Doxyfile

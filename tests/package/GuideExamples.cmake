@@ -47,7 +47,7 @@ function(expect_count document pattern expected)
 endfunction()
 
 set(shown "")
-foreach(document docs/guide.md README.md)
+foreach(document docs/guide.md docs/reference.md README.md)
     file(READ ${SOURCE_DIR}/${document} text)
     string(REGEX MATCHALL "<!-- [a-z_]+\\.cpp [^>]* -->" marks "${text}")
     set(quotes 0)
