@@ -69,7 +69,7 @@ Result run(const std::vector<const char*>& words, std::size_t point, test::Faili
     return result;
 }
 
-class MemoryShortage : public testing::TestWithParam<std::vector<const char*>> {
+class MemoryShortageOfExport : public testing::Test {
 protected:
     const test::TemporaryFolder folder_;
     const std::string path_ = folder_.writePackage(test::package(
@@ -78,6 +78,9 @@ protected:
                                                          test::recommendations(test::recWithNumbers(
                                                              4, test::planting("3.5"), "3.5")))))));
 };
+
+class MemoryShortage : public MemoryShortageOfExport,
+                       public testing::WithParamInterface<std::vector<const char*>> {};
 
 TEST_P(MemoryShortage, IsToldAndNothingIsClaimedThatWasNotDone) {
     const test::WatchedXmlMemory watched;
@@ -103,6 +106,23 @@ TEST_P(MemoryShortage, IsToldAndNothingIsClaimedThatWasNotDone) {
         }
     }
     RecordProperty("allocations", std::to_string(none.all));
+}
+
+TEST_F(MemoryShortageOfExport, ReplacesAFileByTheWholeOutputOnly) {
+    const test::WatchedXmlMemory watched;
+    const std::string out = folder_.path("out");
+    const std::vector<const char*> words = {"qenxml", "export",    "--format",   "json",
+                                            "-o",     out.c_str(), path_.c_str()};
+    test::AllocationCounts all;
+    run(words, std::numeric_limits<std::size_t>::max(), test::Failing::Once, all);
+    const std::string whole = test::contentOf(out);
+    for (std::size_t point = 1; point <= all.all && !HasFailure(); ++point) {
+        folder_.write("out", "old");
+        test::AllocationCounts counts;
+        const Result result = run(words, point, test::Failing::Once, counts);
+        EXPECT_TRUE(test::contentOf(out) == (result.code == ExitCode::Success ? whole : "old"))
+            << "allocation " << point << ": " << test::contentOf(out);
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Commands, MemoryShortage,
