@@ -41,6 +41,16 @@ TEST(Integer, OfOneCharacterManyTimesIsThatOfTheXmlLibrary) {
         }
 }
 
+TEST(Integer, BehindOrBeforeAnyCharacterIsThatOfTheXmlLibrary) {
+    for (char c = ' '; c < '\x7F'; ++c)
+        for (const std::string digits : {"7", "12"}) {
+            expectReadAsByTheXmlLibrary(c + digits);
+            const std::string before = digits + c;
+            expectReadAsByTheXmlLibrary(before);
+            expectReadAsByTheXmlLibrary(before + digits);
+        }
+}
+
 RC_GTEST_PROP(Integer, OfAnyTextIsThatOfTheXmlLibrary, ()) {
     const auto digit = rc::gen::elementOf(std::string("0123456789"));
     const auto other = rc::gen::elementOf(std::string("+-.eExX ,"));

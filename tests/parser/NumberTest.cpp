@@ -112,6 +112,16 @@ TEST(Number, OfOneCharacterManyTimesIsThatOfTheXmlLibrary) {
             EXPECT_TRUE(isReadAsByTheXmlLibrary(std::string(times, c))) << times << c;
 }
 
+TEST(Number, BehindOrBeforeAnyCharacterIsThatOfTheXmlLibrary) {
+    for (char c = ' '; c < '\x7F'; ++c)
+        for (const std::string digits : {"7", "12", "1.5"}) {
+            EXPECT_TRUE(isReadAsByTheXmlLibrary(c + digits)) << c << digits;
+            const std::string before = digits + c;
+            EXPECT_TRUE(isReadAsByTheXmlLibrary(before)) << before;
+            EXPECT_TRUE(isReadAsByTheXmlLibrary(before + digits)) << before << digits;
+        }
+}
+
 RC_GTEST_PROP(Number, OfAnyTextIsThatOfTheXmlLibrary, ()) {
     const auto digit = rc::gen::elementOf(std::string("0123456789"));
     const auto other = rc::gen::elementOf(std::string("+-.eExXpPaAfFiInN ,\t"));
