@@ -94,6 +94,40 @@ TEST(SourceText, LeavesOutUnitsThatAreNoCharacters) {
     }
 }
 
+TEST(SourceText, LeavesOutATrailUnitThatIsNotBehindItsLead) {
+    const std::u16string broken = {u'<', u'a', u'>', 0xD83D, u'x', 0xDE00, u'y'};
+    for (const bool bigEndian : {false, true})
+        EXPECT_EQ(SourceText(utf16(broken, bigEndian)).text(), "<a>xy");
+}
+
+TEST(SourceText, ConvertsEveryCharacterOfUtf16AndUtf32) {
+    // The first and last ones of each length in UTF-8, and beside the surrogates.
+    const std::u32string characters = {0x20,   0x7F,   0x80,   0x7FF,   0x800,   0xD7FF,
+                                       0xE000, 0xFFFD, 0xFFFF, 0x10000, 0x1F600, 0x10FFFF};
+    const std::string expected = "<a>\x20\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xED\x9F\xBF\xEE\x80\x80"
+                                 "\xEF\xBF\xBD\xEF\xBF\xBF\xF0\x90\x80\x80\xF0\x9F\x98\x80"
+                                 "\xF4\x8F\xBF\xBF</a>";
+    std::u16string text16 = u"<a>";
+    for (const char32_t c : characters) {
+        if (c < 0x10000) {
+            text16 += static_cast<char16_t>(c);
+        } else {
+            text16 += static_cast<char16_t>(0xD800 + ((c - 0x10000) >> 10U));
+            text16 += static_cast<char16_t>(0xDC00 + (c & 0x3FFU));
+        }
+    }
+    for (const bool bigEndian : {false, true}) {
+        EXPECT_EQ(SourceText(utf16(text16 + u"</a>", bigEndian)).text(), expected);
+        EXPECT_EQ(SourceText(utf32(U"<a>" + characters + U"</a>", bigEndian)).text(), expected);
+    }
+}
+
+TEST(SourceText, KnowsTheEncodingFromADeclarationOfAnyLength) {
+    const std::string declaration =
+        "<?xml version='1.0'" + std::string(200, ' ') + "encoding='iso-8859-1'?>";
+    EXPECT_EQ(SourceText(declaration + "<a>\xE9</a>").text(), declaration + "<a>\u00e9</a>");
+}
+
 TEST(SourceText, CountsTheBytesOfUtf32ThatIsNoCharacters) {
     const std::u32string broken = {0xD83D, 0x110000, 0xFFFFFFFF};
     EXPECT_EQ(faultIn(utf32(U"<a>" + broken + U"</b>", true)), (Position{1, 6 + 3 + 4 + 4}));
@@ -197,6 +231,19 @@ TEST(SourceText, CutsNoCharacterOfALongLine) {
         const SourceText text(before + euros);
         EXPECT_EQ(text.excerpt(before.size() + 300).line.find('\\'), std::string::npos);
     }
+}
+
+TEST(SourceText, LeavesOutACharacterAtEitherEndThatIsCut) {
+    const auto euros = [](int number) {
+        std::string text;
+        for (; number > 0; --number)
+            text += "\u20ac";
+        return text;
+    };
+    const SourceText text(euros(100) + "x" + euros(100));
+    // 60 bytes before the place and 40 behind it end within a character each.
+    EXPECT_EQ(text.excerpt(301).line, "..." + euros(19) + "x" + euros(13) + "...");
+    EXPECT_EQ(text.excerpt(301).caret, 23U);
 }
 
 TEST(SourceText, FindsAttributesAndTheirValues) {

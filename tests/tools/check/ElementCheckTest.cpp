@@ -17,8 +17,8 @@ Finding findingInStatistics(const std::string& content, const std::string& code)
 
 TEST(ElementCheck, PointsAtAnIndentedNumberAndNotAtTheLineBreakBeforeIt) {
     for (const std::string lineEnd : {"\n", "\r\n", "\r"}) {
-        const Finding finding = findingInStatistics(
-            "<Total>" + lineEnd + "   n/a" + lineEnd + "</Total>", "not-a-number");
+        const std::string value = lineEnd + "   n/a" + lineEnd;
+        const Finding finding = findingInStatistics(test::element("Total", value), "not-a-number");
         EXPECT_EQ(finding.position->line, 3U);
         EXPECT_EQ(finding.position->column, 4U);
         EXPECT_EQ(test::excerptOf(finding), "   n/a\n   ^");
