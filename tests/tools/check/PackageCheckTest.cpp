@@ -347,6 +347,17 @@ TEST_F(PackageCheck, NamesTheDeclaredEncodingAsTheCauseOfBytesThatAreNotUtf8) {
               byte + " although its declaration says \"windows-1252\"");
 }
 
+TEST_F(PackageCheck, FindsEveryByteThatIsNoCharacterByItself) {
+    for (unsigned byte = 0x80; byte <= 0xFF; ++byte) {
+        const std::string name =
+            test::element("GrowerName", "a" + std::string(1, static_cast<char>(byte)) + "b");
+        const std::vector<Finding> findings =
+            checkPackage(folder_.writePackage(test::package(test::grower(1, name))));
+        ASSERT_EQ(findings.size(), 1U) << byte;
+        EXPECT_EQ(findings.front().code, "invalid-utf8");
+    }
+}
+
 TEST_F(PackageCheck, FindsBytesThatAreNotUtf8InTheirPlace) {
     const auto codes = [&](const std::string& text) {
         std::string all;
