@@ -34,6 +34,7 @@ TEST(ValuePlace, CountsAReferenceAsItsCharacter) {
     EXPECT_EQ(before("&#32;&#x20;&#xe9;&#xE9;&#8364;&#x1F600;&#127;&#128;!"),
               "&#32;&#x20;&#xe9;&#xE9;&#8364;&#x1F600;&#127;&#128;");
     EXPECT_EQ(before("&#32;&#x21;"), "&#32;");
+    EXPECT_EQ(before("&#9;&#xa;&#xF;!"), "&#9;&#xa;&#xF;"); // the first and last digits
 }
 
 TEST(ValuePlace, TakesWhatIsNoReferenceAsItIsWritten) {
