@@ -45,6 +45,19 @@ install_build_dependencies() {
     apt_get update && apt_get build-dep -y --no-install-recommends "$1"
 }
 
+# tell_what_apt_does: of what apt-get writes, what it installs, and that it waits for another one.
+tell_what_apt_does() {
+    local words told=""
+    while read -r -a words; do
+        case "${words[*]:0:2}" in
+            "Setting up") echo "  installed ${words[2]}" ;;
+            "Waiting for")
+                [ -n "$told" ] || echo "Waiting for another apt to end, up to ten minutes"
+                told=yes ;;
+        esac
+    done
+}
+
 # apt_get ARGUMENT...: as root, with a line for each package. Waits for another apt, for example one
 # that the system started by itself, up to ten minutes. apt does so by itself when it installs, but
 # neither when it fetches the lists nor the packages.
@@ -56,7 +69,7 @@ apt_get() {
         status=0
         "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8 \
             apt-get -q -o DPkg::Lock::Timeout=600 -o Dpkg::Use-Pty=0 "$@" 2>"$errors" |
-            sed -un 's/^Setting up \([^ ]*\).*/  installed \1/p' >&2 || status=$?
+            tell_what_apt_does >&2 || status=$?
         if [ "$status" = 0 ] || [ $((SECONDS - started)) -ge 600 ] ||
             ! grep -q "Could not get lock" "$errors"; then
             break

@@ -36,6 +36,17 @@ grep -q 'Could not get lock' "$work/messages" && fail "complains of what has pas
 grep -q '^  installed some-package' "$work/messages" || fail "does not say what it installs"
 grep -q ' DPkg::Lock::Timeout=[1-9].* install ' "$work/apt" || fail "apt does not wait for another dpkg"
 
+echo "== another dpkg is running, for which apt waits by itself"
+program apt-get <<'END'
+[[ $* == *" install "* ]] || exit 0
+for _ in 1 2 3; do
+    echo "Waiting for cache lock: Could not get lock /var/lib/dpkg/lock-frontend. It is held by process 1 (apt)..."
+done
+echo "Setting up some-package (1.0) ..."
+END
+install 2>"$work/messages" || fail "does not wait: $(cat "$work/messages")"
+[ "$(grep -c '^Waiting for another apt' "$work/messages")" = 1 ] || fail "does not say that apt waits"
+
 echo "== apt fails otherwise"
 program apt-get <<<'echo "E: No such package" >&2; exit 100'
 ! install 2>"$work/messages" || fail "succeeds without apt"
@@ -75,6 +86,9 @@ expect_builds "-us -uc -S:  second" "-us -uc -b -nc:  second"
 [ "$(cd "$work/tree/build/debian" && ls ./*.deb)" = ./some_1.deb ] || fail "mixes debug symbols in"
 packages || fail "$(cat "$work/messages")"
 expect_builds "-us -uc -S:  second" "-us -uc -b -nc:  second"
+sed -i 's/ ..\/some-dbgsym_1.deb//' "$work/programs/dpkg-buildpackage"
+packages || fail "needs packages of debug symbols: $(cat "$work/messages")"
+rm "$work/builds"
 
 echo "== something takes long"
 logged() { bash -c '. "$0/scripts/progress.sh"; logged "$@"' "$source" "$work/log" "$@" 2>"$work/messages"; }
