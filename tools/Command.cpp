@@ -17,7 +17,8 @@ std::vector<std::string> guardedArguments(int argc, const char* const* argv) {
     for (int i = argc - 1; i > 0; --i) {
         arguments.emplace_back(argv[i]);
         const char first = arguments.back().empty() ? ' ' : arguments.back().front();
-        if (first == '[' || first == '{')
+        // "++" would end the sub-command.
+        if (first == '[' || first == '{' || arguments.back() == "++")
             arguments.back() += guard;
     }
     return arguments;

@@ -142,10 +142,12 @@ protected:
 };
 
 TEST_F(BracketedNames, AreTakenAsTheyAreGivenForInputs) {
-    for (const std::string name : {"[2026]", "[a,b]", "[]", "{}", "[[x]]", "{a}", "[a"}) {
+    for (const std::string name : {"[2026]", "[a,b]", "[]", "{}", "[[x]]", "{a}", "[a", "++"}) {
         const std::string skipped = "qenxml: " + name + ": not found; the file is skipped\n";
         EXPECT_EQ(run({"show", name}).errors, skipped);
         EXPECT_EQ(run({"show", "--", name}).errors, skipped);
+        EXPECT_EQ(run({"show", "a", name}).errors,
+                  "qenxml: a: not found; the file is skipped\n" + skipped);
         EXPECT_EQ(run({"export", "--format", "csv", name}).errors, skipped);
         EXPECT_EQ(run({"report", name}).errors, skipped);
         EXPECT_NE(run({"check", name}).output.find(name + ": error: not found [unreadable]"),
