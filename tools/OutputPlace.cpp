@@ -31,9 +31,8 @@ OutputFileError::OutputFileError(const std::string& path, std::string_view reaso
 OutputFileError::OutputFileError(const std::string& path, int error)
     : OutputFileError(path, std::generic_category().message(error)) {}
 
-OutputPlace::OutputPlace(const std::string& path) : path_(path) {
+OutputPlace::OutputPlace(const std::string& path) : path_(path), link_(path) {
     constexpr int mostLinks = 40; // as many as the system follows
-    link_ = path;
     for (int links = 0; links <= mostLinks; ++links) {
         enter(link_);
         lookAtName();
