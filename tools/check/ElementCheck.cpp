@@ -266,7 +266,8 @@ void ElementCheck::identifier(const DatumFormat& datum, std::string_view text, s
         report_.add(FindingCode::IdentifierDigit, at(identifier.wrongPlace), step, [&] {
             const std::string others =
                 identifier.wrongDigits > 1
-                    ? fmt::format(", nor are {} more", identifier.wrongDigits - 1)
+                    ? fmt::format(", nor {} {} more", identifier.wrongDigits == 2 ? "is" : "are",
+                                  identifier.wrongDigits - 1)
                     : "";
             const std::string_view wrong = text.substr(identifier.wrongPlace);
             return Texts{fmt::format("{} {}: {} is no hexadecimal digit{}", datum.name,

@@ -62,6 +62,9 @@ TEST(ElementCheck, CountsCharactersThatAreNoDigitsAndNotTheirBytes) {
     };
     EXPECT_EQ(found("\u00e9" + canonical.substr(2)),
               "GrowerID \"\u00e9" + canonical.substr(2) + "\": \"\u00e9\" is no hexadecimal digit");
+    EXPECT_EQ(found("gh" + canonical.substr(2)),
+              "GrowerID \"gh" + canonical.substr(2) +
+                  "\": \"g\" is no hexadecimal digit, nor is 1 more");
     EXPECT_EQ(found("\u00e9gh" + canonical.substr(4)),
               "GrowerID \"\u00e9gh" + canonical.substr(4) +
                   "\": \"\u00e9\" is no hexadecimal digit, nor are 2 more");
