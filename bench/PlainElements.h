@@ -14,7 +14,7 @@
 #include <string>
 
 #include "bench/PlainTree.h"
-#include "parser/TagNames.h"
+#include "parser/internal/TagConstants.h"
 
 namespace bench::plain {
 

@@ -12,8 +12,7 @@ endif()
 
 file(GLOB qenxml_sources CONFIGURE_DEPENDS model/*.cpp parser/*.cpp)
 file(GLOB qenxml_model_headers CONFIGURE_DEPENDS model/*.h)
-list(FILTER qenxml_model_headers EXCLUDE REGEX "/ChildList\\.h$") # internal
-set(qenxml_parser_headers ${CMAKE_CURRENT_SOURCE_DIR}/parser/QenXmlParser.h)
+file(GLOB qenxml_parser_headers CONFIGURE_DEPENDS parser/*.h)
 
 add_library(qenxml ${qenxml_sources})
 add_library(qenxml::qenxml ALIAS qenxml)

@@ -2,7 +2,7 @@
 
 #include <iostream>
 
-#include "parser/TagNames.h"
+#include "parser/internal/TagConstants.h"
 
 int main() {
     for (const char* name : qenxml::tag::all) {

@@ -9,7 +9,7 @@
 #include <boost/uuid/uuid.hpp>
 
 #include "fuzz/Require.h"
-#include "parser/Identifier.h"
+#include "parser/internal/Identifier.h"
 
 namespace {
 

@@ -5,8 +5,6 @@
 
 #include <boost/uuid/uuid_io.hpp>
 
-#include "model/ChildList.h"
-
 QenField::QenField() = default;
 
 QenField::QenField(const std::string& name, const boost::uuids::uuid& id,
@@ -91,7 +89,7 @@ std::vector<QenRec>& QenField::recs() {
 
 QenRec QenField::rec(boost::uuids::uuid recId) const {
     const auto found = std::find_if(recs_.begin(), recs_.end(), [&](const QenRec& rec) {
-        return rec.recData_ != nullptr && rec.recData_->recId() == recId;
+        return rec.recData_.get() != nullptr && rec.recData_.get()->recId() == recId;
     });
     return found != recs_.end() ? *found : QenRec();
 }
@@ -113,7 +111,7 @@ void QenField::addRec(QenRec rec) {
     if (present != recs_.end())
         present->take(rec);
     else
-        qenxml::appendEmptyRec(recs_).take(rec);
+        QenRec::appendEmpty(recs_).take(rec);
 }
 
 void QenField::merge(QenField other) {
@@ -121,7 +119,7 @@ void QenField::merge(QenField other) {
         return;
     for (QenRec& rec : other.recs_) {
         if (std::find(recs_.begin(), recs_.end(), rec) == recs_.end())
-            qenxml::appendEmptyRec(recs_).take(rec);
+            QenRec::appendEmpty(recs_).take(rec);
     }
     for (QenFieldGeometry& geometry : other.geometries_) {
         if (std::find(geometries_.begin(), geometries_.end(), geometry) == geometries_.end())

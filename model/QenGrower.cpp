@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "model/ChildList.h"
+#include "model/internal/ChildList.h"
 
 QenGrower::QenGrower() = default;
 

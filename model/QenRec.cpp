@@ -1,39 +1,8 @@
 #include "model/QenRec.h"
 
-#include <memory>
+#include <algorithm>
+#include <cstddef>
 #include <utility>
-
-#include "model/ChildList.h"
-#include "model/CommercialFertilizerRec.h"
-#include "model/CustomFertilizerRec.h"
-#include "model/PesticideRec.h"
-#include "model/PlantingRec.h"
-#include "model/QenRecData.h"
-
-namespace {
-
-/// A copy of product data as the variant that its kind names; null for any other kind.
-std::unique_ptr<QenRecData> copyOf(QenRecData* data) {
-    if (data == nullptr)
-        return nullptr;
-    switch (data->recType()) {
-    case RecTypeCommercialFertilizer:
-        return std::make_unique<CommercialFertilizerRec>(
-            static_cast<const CommercialFertilizerRec&>(*data));
-    case RecTypeCustomFertilizer:
-        return std::make_unique<CustomFertilizerRec>(
-            static_cast<const CustomFertilizerRec&>(*data));
-    case RecTypePlanting:
-        return std::make_unique<PlantingRec>(static_cast<const PlantingRec&>(*data));
-    case RecTypePesticide:
-        return std::make_unique<PesticideRec>(static_cast<const PesticideRec&>(*data));
-    case RecTypeNone:
-        break;
-    }
-    return nullptr;
-}
-
-} // namespace
 
 QenRec::QenRec() = default;
 
@@ -45,272 +14,267 @@ QenRec::QenRec(boost::uuids::uuid fieldId, boost::uuids::uuid fieldGeometryId, s
                std::string rateUom, int rateUomId, double total, int totalUomId,
                std::string totalUom, double area, int areaUomId, std::string areaUom, bool isUsed,
                boost::uuids::uuid xmlFileName)
-    : values_{fieldId,
-              fieldGeometryId,
-              std::move(name),
-              id,
-              recGeometry,
-              std::move(creationDate),
-              {},
-              std::move(recDbfCol),
-              std::move(operationName),
-              operationId,
-              std::move(seasonName),
-              seasonId,
-              mgmtZoneId,
-              minimumRate,
-              maximumRate,
-              averageRate,
-              rateUomId,
-              std::move(rateUom),
-              total,
-              totalUomId,
-              std::move(totalUom),
-              area,
-              areaUomId,
-              std::move(areaUom),
-              isUsed,
-              xmlFileName},
-      recData_(recData) {}
+    : description_{fieldId,     fieldGeometryId,       std::move(name),
+                   id,          recGeometry,           std::move(creationDate),
+                   {},          std::move(recDbfCol),  std::move(operationName),
+                   operationId, std::move(seasonName), seasonId,
+                   mgmtZoneId},
+      recData_(recData),
+      statistics_{
+          minimumRate, maximumRate,         averageRate, rateUomId, std::move(rateUom), total,
+          totalUomId,  std::move(totalUom), area,        areaUomId, std::move(areaUom)},
+      isUsed_(isUsed),
+      xmlFileName_(xmlFileName) {}
 
-QenRec::QenRec(const QenRec& other)
-    : values_(other.values_), recData_(copyOf(other.recData_).release()) {}
+QenRec::QenRec(const QenRec& other) = default;
 
-QenRec& QenRec::operator=(const QenRec& other) {
-    if (this == &other)
-        return *this;
-    values_ = other.values_;
-    // The earlier product data is the caller's from here on.
-    recData_ = copyOf(other.recData_).release();
+QenRec& QenRec::operator=(const QenRec& other) { // NOLINT(*-use-equals-default): in another order
+    description_ = other.description_;
+    statistics_ = other.statistics_;
+    isUsed_ = other.isUsed_;
+    xmlFileName_ = other.xmlFileName_;
+    // Last, so that the rec keeps the product data that it had when memory runs out.
+    recData_ = other.recData_;
     return *this;
 }
 
-void QenRec::take(QenRec& other) noexcept {
-    values_ = std::move(other.values_);
-    qenxml::dropUnknownProductData(other);
-    recData_ = std::exchange(other.recData_, nullptr);
+QenRec& QenRec::appendEmpty(std::vector<QenRec>& recs) {
+    if (recs.size() == recs.capacity()) {
+        std::vector<QenRec> larger;
+        larger.reserve(std::max<std::size_t>(2 * recs.size(), 1));
+        for (QenRec& rec : recs)
+            larger.emplace_back().take(rec);
+        recs.swap(larger);
+    }
+    return recs.emplace_back();
 }
 
-QenRec::~QenRec() {
-    delete recData_;
+void QenRec::take(QenRec& other) noexcept {
+    description_ = std::move(other.description_);
+    recData_.take(other.recData_);
+    statistics_ = std::move(other.statistics_);
+    isUsed_ = other.isUsed_;
+    xmlFileName_ = other.xmlFileName_;
 }
+
+QenRec::~QenRec() = default;
 
 bool QenRec::operator==(const QenRec& other) const {
-    return values_.id == other.values_.id;
+    return description_.id == other.description_.id;
 }
 
 boost::uuids::uuid QenRec::fieldId() {
-    return values_.fieldId;
+    return description_.fieldId;
 }
 
 boost::uuids::uuid QenRec::fieldGeometryId() {
-    return values_.fieldGeometryId;
+    return description_.fieldGeometryId;
 }
 
 std::string QenRec::name() {
-    return values_.name;
+    return description_.name;
 }
 
 boost::uuids::uuid QenRec::id() {
-    return values_.id;
+    return description_.id;
 }
 
 boost::uuids::uuid QenRec::recGeometry() {
-    return values_.recGeometry;
+    return description_.recGeometry;
 }
 
 std::string QenRec::creationDate() {
-    return values_.creationDate;
+    return description_.creationDate;
 }
 
 std::string QenRec::editDate() {
-    return values_.editDate;
+    return description_.editDate;
 }
 
 std::string QenRec::recDbfCol() {
-    return values_.recDbfCol;
+    return description_.recDbfCol;
 }
 
 std::string QenRec::operationName() {
-    return values_.operationName;
+    return description_.operationName;
 }
 
 boost::uuids::uuid QenRec::operationId() {
-    return values_.operationId;
+    return description_.operationId;
 }
 
 std::string QenRec::seasonName() {
-    return values_.seasonName;
+    return description_.seasonName;
 }
 
 int QenRec::seasonId() {
-    return values_.seasonId;
+    return description_.seasonId;
 }
 
 boost::uuids::uuid QenRec::mgmtZoneId() {
-    return values_.mgmtZoneId;
+    return description_.mgmtZoneId;
 }
 
 QenRecData* QenRec::recData() {
-    return recData_;
+    return recData_.get();
 }
 
 double QenRec::minimumRate() {
-    return values_.minimumRate;
+    return statistics_.minimumRate;
 }
 
 double QenRec::maximumRate() {
-    return values_.maximumRate;
+    return statistics_.maximumRate;
 }
 
 double QenRec::averageRate() {
-    return values_.averageRate;
+    return statistics_.averageRate;
 }
 
 int QenRec::rateUomId() {
-    return values_.rateUomId;
+    return statistics_.rateUomId;
 }
 
 std::string QenRec::rateUom() {
-    return values_.rateUom;
+    return statistics_.rateUom;
 }
 
 double QenRec::total() {
-    return values_.total;
+    return statistics_.total;
 }
 
 int QenRec::totalUomId() {
-    return values_.totalUomId;
+    return statistics_.totalUomId;
 }
 
 std::string QenRec::totalUom() {
-    return values_.totalUom;
+    return statistics_.totalUom;
 }
 
 double QenRec::area() {
-    return values_.area;
+    return statistics_.area;
 }
 
 int QenRec::areaUomId() {
-    return values_.areaUomId;
+    return statistics_.areaUomId;
 }
 
 std::string QenRec::areaUom() {
-    return values_.areaUom;
+    return statistics_.areaUom;
 }
 
 bool QenRec::isUsed() {
-    return values_.isUsed;
+    return isUsed_;
 }
 
 boost::uuids::uuid QenRec::xmlFileName() {
-    return values_.xmlFileName;
+    return xmlFileName_;
 }
 
 void QenRec::setFieldId(boost::uuids::uuid fieldId) {
-    values_.fieldId = fieldId;
+    description_.fieldId = fieldId;
 }
 
 void QenRec::setFieldGeometryId(boost::uuids::uuid fieldGeometryId) {
-    values_.fieldGeometryId = fieldGeometryId;
+    description_.fieldGeometryId = fieldGeometryId;
 }
 
 void QenRec::setName(std::string name) {
-    values_.name = std::move(name);
+    description_.name = std::move(name);
 }
 
 void QenRec::setId(boost::uuids::uuid id) {
-    values_.id = id;
+    description_.id = id;
 }
 
 void QenRec::setRecGeometry(boost::uuids::uuid recGeometry) {
-    values_.recGeometry = recGeometry;
+    description_.recGeometry = recGeometry;
 }
 
 void QenRec::setCreationDate(std::string creationDate) {
-    values_.creationDate = std::move(creationDate);
+    description_.creationDate = std::move(creationDate);
 }
 
 void QenRec::setEditDate(std::string editDate) {
-    values_.editDate = std::move(editDate);
+    description_.editDate = std::move(editDate);
 }
 
 void QenRec::setRecDbfCol(std::string recDbfCol) {
-    values_.recDbfCol = std::move(recDbfCol);
+    description_.recDbfCol = std::move(recDbfCol);
 }
 
 void QenRec::setOperationName(std::string operationName) {
-    values_.operationName = std::move(operationName);
+    description_.operationName = std::move(operationName);
 }
 
 void QenRec::setOperationId(boost::uuids::uuid operationId) {
-    values_.operationId = operationId;
+    description_.operationId = operationId;
 }
 
 void QenRec::setSeasonName(std::string seasonName) {
-    values_.seasonName = std::move(seasonName);
+    description_.seasonName = std::move(seasonName);
 }
 
 void QenRec::setSeasonId(int seasonId) {
-    values_.seasonId = seasonId;
+    description_.seasonId = seasonId;
 }
 
 void QenRec::setMgMtZoneId(boost::uuids::uuid mgmtZoneId) {
-    values_.mgmtZoneId = mgmtZoneId;
+    description_.mgmtZoneId = mgmtZoneId;
 }
 
 void QenRec::setRecData(QenRecData* recData) {
-    recData_ = recData;
+    recData_.set(recData);
 }
 
 void QenRec::setMinimumRate(double minimumRate) {
-    values_.minimumRate = minimumRate;
+    statistics_.minimumRate = minimumRate;
 }
 
 void QenRec::setMaximumRate(double maximumRate) {
-    values_.maximumRate = maximumRate;
+    statistics_.maximumRate = maximumRate;
 }
 
 void QenRec::setAverageRate(double averageRate) {
-    values_.averageRate = averageRate;
+    statistics_.averageRate = averageRate;
 }
 
 void QenRec::setRateUomId(int rateUomId) {
-    values_.rateUomId = rateUomId;
+    statistics_.rateUomId = rateUomId;
 }
 
 void QenRec::setRateUom(std::string rateUom) {
-    values_.rateUom = std::move(rateUom);
+    statistics_.rateUom = std::move(rateUom);
 }
 
 void QenRec::setTotal(double total) {
-    values_.total = total;
+    statistics_.total = total;
 }
 
 void QenRec::setTotalUomId(int totalUomId) {
-    values_.totalUomId = totalUomId;
+    statistics_.totalUomId = totalUomId;
 }
 
 void QenRec::setTotalUom(std::string totalUom) {
-    values_.totalUom = std::move(totalUom);
+    statistics_.totalUom = std::move(totalUom);
 }
 
 void QenRec::setArea(double area) {
-    values_.area = area;
+    statistics_.area = area;
 }
 
 void QenRec::setAreaUomId(int areaUomId) {
-    values_.areaUomId = areaUomId;
+    statistics_.areaUomId = areaUomId;
 }
 
 void QenRec::setAreaUom(std::string areaUom) {
-    values_.areaUom = std::move(areaUom);
+    statistics_.areaUom = std::move(areaUom);
 }
 
 void QenRec::setIsUsed(bool isUsed) {
-    values_.isUsed = isUsed;
+    isUsed_ = isUsed;
 }
 
 void QenRec::setXmlFileName(boost::uuids::uuid xmlFileName) {
-    values_.xmlFileName = xmlFileName;
+    xmlFileName_ = xmlFileName;
 }

@@ -6,14 +6,46 @@
 
 #include <boost/uuid/uuid.hpp>
 
+#include "OwnedRecData.h"
 #include "QenExport.h"
 #include "QenRecData.h"
 
-class QenRec;
+namespace qenxml { // not for hosts
 
-namespace qenxml { // not part of the public interface
-class RecElement;
-QenRec& appendEmptyRec(std::vector<QenRec>& recs);
+class PackageReader;
+
+/// What a rec says of itself, before its product data.
+struct RecDescription {
+    boost::uuids::uuid fieldId{};
+    boost::uuids::uuid fieldGeometryId{};
+    std::string name;
+    boost::uuids::uuid id{};
+    boost::uuids::uuid recGeometry{};
+    std::string creationDate;
+    std::string editDate;
+    std::string recDbfCol;
+    std::string operationName;
+    boost::uuids::uuid operationId{};
+    std::string seasonName;
+    int seasonId = -1;
+    boost::uuids::uuid mgmtZoneId{};
+};
+
+/// The rates, the total and the area of a rec.
+struct RecStatistics {
+    double minimumRate = 0.0;
+    double maximumRate = 0.0;
+    double averageRate = 0.0;
+    int rateUomId = -1;
+    std::string rateUom;
+    double total = 0.0;
+    int totalUomId = -1;
+    std::string totalUom;
+    double area = 0.0;
+    int areaUomId = -1;
+    std::string areaUom;
+};
+
 } // namespace qenxml
 
 /// One recommendation (prescription) of a field: what to apply, at which rates, in which zone and
@@ -171,45 +203,22 @@ public:
 private:
     // They take recs over, read const ones and fill new ones, without copying.
     friend class QenField;
-    friend class qenxml::RecElement;
-    friend QenRec& qenxml::appendEmptyRec(std::vector<QenRec>& recs);
+    friend class qenxml::PackageReader;
 
-    /// All that a rec holds beside its product data, as one value that copies and moves by itself.
-    struct Values {
-        boost::uuids::uuid fieldId{};
-        boost::uuids::uuid fieldGeometryId{};
-        std::string name;
-        boost::uuids::uuid id{};
-        boost::uuids::uuid recGeometry{};
-        std::string creationDate;
-        std::string editDate;
-        std::string recDbfCol;
-        std::string operationName;
-        boost::uuids::uuid operationId{};
-        std::string seasonName;
-        int seasonId = -1;
-        boost::uuids::uuid mgmtZoneId{};
-        double minimumRate = 0.0;
-        double maximumRate = 0.0;
-        double averageRate = 0.0;
-        int rateUomId = -1;
-        std::string rateUom;
-        double total = 0.0;
-        int totalUomId = -1;
-        std::string totalUom;
-        double area = 0.0;
-        int areaUomId = -1;
-        std::string areaUom;
-        bool isUsed = false;
-        boost::uuids::uuid xmlFileName{};
-    };
+    /// Appends an empty rec to @p recs, which it makes longer by hand, because a list that grows by
+    /// itself copies every rec with its product data. When memory runs out, the list has not
+    /// changed.
+    QENXML_LOCAL static QenRec& appendEmpty(std::vector<QenRec>& recs);
 
     /// Takes the content of @p other over, where nobody will look at @p other again. Like copying,
     /// it drops product data of an unknown kind and leaves that which this rec held before alone.
     QENXML_LOCAL void take(QenRec& other) noexcept;
 
-    Values values_;
-    QenRecData* recData_ = nullptr;
+    qenxml::RecDescription description_;
+    qenxml::OwnedRecData recData_;
+    qenxml::RecStatistics statistics_;
+    bool isUsed_ = false;
+    boost::uuids::uuid xmlFileName_{};
 };
 
 #endif

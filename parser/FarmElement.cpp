@@ -1,16 +1,11 @@
-#include "parser/Identifier.h"
-#include "parser/ListWalk.h"
-#include "parser/QenXmlParser.h"
-#include "parser/TagNames.h"
+#include "parser/internal/ListWalk.h"
+#include "parser/internal/PackageReader.h"
 
-namespace tag = qenxml::tag;
-
-QenFarm QenXmlParser::parseFarmNode(boost::uuids::uuid growerId, pugi::xml_node node) {
-    QenFarm farm(node.child(tag::FarmName).child_value(),
-                 qenxml::uuidFromText(node.attribute(tag::FarmID).as_string()), growerId);
+QenFarm qenxml::PackageReader::farm(const boost::uuids::uuid& growerId, pugi::xml_node node) const {
+    QenFarm farm(ValueChildren(names_, node, origin_).value(format::farmName),
+                 attributeValue(names_, node, format::farmId), growerId);
     std::vector<QenField>& fields = farm.fields();
-    qenxml::readChildren(fields, node.child(tag::Field), [&](pugi::xml_node field) {
-        fields.push_back(parseFieldNode(growerId, farm.id(), field));
-    });
+    readChildren(fields, child(node, &TagNames::Field_),
+                 [&](pugi::xml_node item) { fields.push_back(field(growerId, farm.id(), item)); });
     return farm;
 }

@@ -1,47 +1,30 @@
-#include "model/ChildList.h"
-#include "parser/ChildCursor.h"
-#include "parser/Identifier.h"
-#include "parser/ListWalk.h"
-#include "parser/QenXmlParser.h"
-#include "parser/RecElement.h"
-#include "parser/TagNames.h"
-#include "parser/ValueChildren.h"
+#include "parser/internal/ListWalk.h"
+#include "parser/internal/PackageReader.h"
 
-namespace tag = qenxml::tag;
+namespace qenxml {
 
-namespace {
-
-LLA readCentroid(pugi::xml_node node, qenxml::Origin origin) {
-    qenxml::ValueChildren child(node, origin);
-    LLA centroid{};
-    centroid.latitude = child.number(tag::Latitude);
-    centroid.longitude = child.number(tag::Longitude);
-    return centroid;
+LLA PackageReader::centroid(pugi::xml_node node) const {
+    const auto [latitude, longitude] =
+        ValueChildren(names_, node, origin_).values<format::centroidValues>();
+    return {latitude, longitude, 0.0};
 }
 
-} // namespace
-
-QenField QenXmlParser::parseFieldNode(boost::uuids::uuid growerId, boost::uuids::uuid farmId,
-                                      pugi::xml_node node) {
-    const qenxml::Origin origin =
-        node.root() == document_ ? qenxml::Origin::File : qenxml::Origin::Unknown;
-    qenxml::ChildCursor children(node);
-    const auto text = [&](const char* name) { return children.child(name).child_value(); };
-
-    const boost::uuids::uuid id = qenxml::uuidFromText(node.attribute(tag::FieldID).as_string());
-    const char* const name = text(tag::FieldName);
-    const boost::uuids::uuid geometryId = qenxml::uuidFromText(text(tag::FieldGeometryID));
-    const char* const geometryDate = text(tag::FieldGeometryDate);
-    const boost::uuids::uuid geometry = qenxml::uuidFromText(text(tag::FieldGeometry));
-    LLA centroid = readCentroid(children.child(tag::FieldCentroid), origin);
+QenField PackageReader::field(const boost::uuids::uuid& growerId, const boost::uuids::uuid& farmId,
+                              pugi::xml_node node) const {
+    ValueChildren children(names_, node, origin_);
+    const boost::uuids::uuid id = attributeValue(names_, node, format::fieldId);
+    const auto values = children.values<format::fieldValues>();
+    const auto& [name, geometryId, geometryDate, geometry] = values;
+    LLA centroid = this->centroid(children.element(&TagNames::FieldCentroid_));
 
     QenField field(name, id, growerId, farmId, geometryDate, geometryId, geometry, centroid);
     std::vector<QenRec>& recs = field.recs();
-    const pugi::xml_node firstRec = children.child(tag::Recommendations).child(tag::Rec);
-    qenxml::readChildren(recs, firstRec, [&](pugi::xml_node rec) {
-        // In its place from the start: a rec cannot be moved.
-        qenxml::RecElement(rec, origin)
-            .readInto(qenxml::appendEmptyRec(recs), id, geometryId, xmlFileName_);
+    const pugi::xml_node firstRec =
+        child(children.element(&TagNames::Recommendations_), &TagNames::Rec_);
+    readChildren(recs, firstRec, [&, &geometryId = geometryId](pugi::xml_node item) {
+        readRec(QenRec::appendEmpty(recs), id, geometryId, item);
     });
     return field;
 }
+
+} // namespace qenxml

@@ -1,16 +1,11 @@
-#include "parser/Identifier.h"
-#include "parser/ListWalk.h"
-#include "parser/QenXmlParser.h"
-#include "parser/TagNames.h"
+#include "parser/internal/ListWalk.h"
+#include "parser/internal/PackageReader.h"
 
-namespace tag = qenxml::tag;
-
-QenGrower QenXmlParser::parseGrowerNode(pugi::xml_node node) {
-    QenGrower grower(node.child(tag::GrowerName).child_value(),
-                     qenxml::uuidFromText(node.attribute(tag::GrowerID).as_string()));
+QenGrower qenxml::PackageReader::grower(pugi::xml_node node) const {
+    QenGrower grower(ValueChildren(names_, node, origin_).value(format::growerName),
+                     attributeValue(names_, node, format::growerId));
     std::vector<QenFarm>& farms = grower.farms();
-    qenxml::readChildren(farms, node.child(tag::Farm), [&](pugi::xml_node farm) {
-        farms.push_back(parseFarmNode(grower.id(), farm));
-    });
+    readChildren(farms, child(node, &TagNames::Farm_),
+                 [&](pugi::xml_node item) { farms.push_back(farm(grower.id(), item)); });
     return grower;
 }

@@ -1,8 +1,9 @@
-#include "parser/Identifier.h"
+#include "parser/internal/Identifier.h"
 
 #include <array>
 #include <cstddef>
 #include <stdexcept>
+#include <utility>
 
 #include <boost/throw_exception.hpp>
 
@@ -10,9 +11,11 @@ namespace qenxml {
 
 namespace {
 
+using DigitValues = std::array<unsigned char, 256>;
+
 /// The value of every character in the place of a digit; 255 for those that are none.
-constexpr std::array<unsigned char, 256> makeDigitValues() {
-    std::array<unsigned char, 256> values{};
+constexpr DigitValues makeDigitValues() {
+    DigitValues values{};
     for (unsigned char& value : values)
         value = 255;
     for (unsigned char i = 0; i < 10; ++i)
@@ -24,11 +27,15 @@ constexpr std::array<unsigned char, 256> makeDigitValues() {
     return values;
 }
 
-constexpr std::array<unsigned char, 256> digitValues = makeDigitValues();
-
-unsigned digitValue(char c) {
-    return digitValues[static_cast<unsigned char>(c)];
+constexpr DigitValues makeHighHalves() {
+    DigitValues values = makeDigitValues();
+    for (unsigned char& value : values)
+        value = static_cast<unsigned char>(value << 4U);
+    return values;
 }
+
+constexpr DigitValues digitValues = makeDigitValues();
+constexpr DigitValues highHalves = makeHighHalves();
 
 using Positions = std::array<unsigned char, 16>;
 
@@ -40,6 +47,25 @@ constexpr std::size_t length(const Positions& positions) {
     return positions.back() + 2U;
 }
 
+/// The UUID of digits that are all there. The positions are known while compiling, which saves a
+/// third of the instructions.
+template <const Positions& positions, std::size_t... I>
+boost::uuids::uuid uuidFromDigits(const char* text, std::index_sequence<I...> /*bytes*/) {
+    const auto digit = [text](std::size_t position) {
+        return static_cast<unsigned char>(text[position]);
+    };
+    boost::uuids::uuid uuid{};
+    ((uuid.begin()[I] = static_cast<unsigned char>(highHalves[digit(positions[I])] |
+                                                   digitValues[digit(positions[I] + 1U)])),
+     ...);
+    return uuid;
+}
+
+template <const Positions& positions>
+boost::uuids::uuid uuidFromDigits(const char* text) {
+    return uuidFromDigits<positions>(text, std::make_index_sequence<positions.size()>());
+}
+
 } // namespace
 
 boost::uuids::uuid uuidFromText(std::string_view text) {
@@ -47,20 +73,12 @@ boost::uuids::uuid uuidFromText(std::string_view text) {
     if (braced)
         text.remove_prefix(1);
     const bool hyphens = text.size() > 8 && text[8] == '-';
-    const Positions& positions = hyphens ? hyphened : plain;
-    const std::size_t digits = length(positions);
+    const std::size_t digits = length(hyphens ? hyphened : plain);
     if (text.size() < digits + (braced ? 1 : 0) ||
         (hyphens && (text[13] != '-' || text[18] != '-' || text[23] != '-')) ||
         (braced && text[digits] != '}'))
         boost::throw_exception(std::runtime_error("invalid uuid string"));
-
-    boost::uuids::uuid uuid{};
-    for (std::size_t i = 0; i < uuid.size(); ++i) {
-        const char* const digit = text.data() + positions[i];
-        uuid.begin()[i] =
-            static_cast<unsigned char>(digitValue(digit[0]) << 4U | digitValue(digit[1]));
-    }
-    return uuid;
+    return hyphens ? uuidFromDigits<hyphened>(text.data()) : uuidFromDigits<plain>(text.data());
 }
 
 } // namespace qenxml

@@ -1,4 +1,4 @@
-#include "parser/Number.h"
+#include "parser/internal/Number.h"
 
 #include <array>
 #include <cfloat>

@@ -3,9 +3,9 @@
 #include <cstddef>
 #include <string_view>
 
-#include "parser/Identifier.h"
-#include "parser/ListWalk.h"
-#include "parser/TagNames.h"
+#include "parser/internal/Identifier.h"
+#include "parser/internal/ListWalk.h"
+#include "parser/internal/PackageReader.h"
 
 namespace {
 
@@ -36,15 +36,41 @@ bool QenXmlParser::parseFile(std::string path) {
     if (!loaded)
         return false;
 
-    const pugi::xml_node package = document_.child(qenxml::tag::RecPackage);
+    const pugi::xml_node package = document_.child(names_.RecPackage_.c_str());
     if (package.empty())
         return false;
 
-    qenxml::walkList(package.child(qenxml::tag::Grower),
-                     [this](pugi::xml_node node) { growers_.push_back(parseGrowerNode(node)); });
+    const qenxml::PackageReader reader = this->reader(package);
+    qenxml::walkList(package.child(names_.Grower_.c_str()),
+                     [&](pugi::xml_node node) { growers_.push_back(reader.grower(node)); });
     return true;
 }
 
 std::vector<QenGrower> QenXmlParser::getGrowers() {
     return growers_;
+}
+
+qenxml::PackageReader QenXmlParser::reader(pugi::xml_node node) const {
+    const bool own = node.root() == document_;
+    return {names_, own ? qenxml::Origin::File : qenxml::Origin::Unknown, xmlFileName_};
+}
+
+QenGrower QenXmlParser::parseGrowerNode(pugi::xml_node node) {
+    return reader(node).grower(node);
+}
+
+QenFarm QenXmlParser::parseFarmNode(boost::uuids::uuid growerId, pugi::xml_node node) {
+    return reader(node).farm(growerId, node);
+}
+
+QenField QenXmlParser::parseFieldNode(boost::uuids::uuid growerId, boost::uuids::uuid farmId,
+                                      pugi::xml_node node) {
+    return reader(node).field(growerId, farmId, node);
+}
+
+QenRec QenXmlParser::parseRecNode(boost::uuids::uuid fieldId, boost::uuids::uuid fieldGeometryId,
+                                  pugi::xml_node node) {
+    QenRec rec;
+    reader(node).readRec(rec, fieldId, fieldGeometryId, node);
+    return rec;
 }

@@ -17,6 +17,7 @@
 #include "../model/QenGrower.h"
 #include "../model/QenRec.h"
 #include "../model/QenRecData.h"
+#include "TagNames.h"
 
 /// @cond
 #if defined(PUGIXML_WCHAR_MODE)
@@ -28,6 +29,10 @@
 #endif
 QENXML_REQUIRE(QENXML_DOCUMENTS)
 /// @endcond
+
+namespace qenxml { // not for hosts
+class PackageReader;
+}
 
 /// Reads package files into growers.
 ///
@@ -50,9 +55,10 @@ QENXML_REQUIRE(QENXML_DOCUMENTS)
 ///
 /// The element readers read one element each, whatever its name, and may be called by a host that
 /// has a document of its own. They take the identifiers of the enclosing records, and use nothing
-/// of the parser but the UUID of the package file, which parseRecNode() puts into every rec: that
-/// of the last path from which parseFile() took one, whether or not the file could be loaded, and
-/// nil before. An empty node reads like an element without attributes and children.
+/// of the parser but its table of names and the UUID of the package file, which parseRecNode() puts
+/// into every rec: that of the last path from which parseFile() took one, whether or not the file
+/// could be loaded, and nil before. An empty node reads like an element without attributes and
+/// children.
 ///
 /// Lists are read from their first item to the last node of the parent: every node behind the first
 /// item counts as one more, whatever its name, and mostly fails for lack of an identifier. Of
@@ -70,6 +76,7 @@ QENXML_REQUIRE(QENXML_DOCUMENTS)
 class QENXML_EXPORT QenXmlParser {
 public:
     /// A parser without growers.
+    /// @throws std::bad_alloc
     QenXmlParser();
 
     QenXmlParser(const QenXmlParser&) = delete;
@@ -179,8 +186,12 @@ public:
     PesticideRec* parsePesticideRecDataNode(boost::uuids::uuid recId, pugi::xml_node node);
 
 private:
+    /// The readers of the elements, for @p node and all beneath it.
+    QENXML_LOCAL qenxml::PackageReader reader(pugi::xml_node node) const;
+
     std::vector<QenGrower> growers_;
     pugi::xml_document document_;
+    const qenxml::TagNames names_{};
     boost::uuids::uuid xmlFileName_{};
 };
 

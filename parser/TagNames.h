@@ -1,15 +1,15 @@
 /// @file
-/// The names of all elements and attributes of the package format: their only home. Not part of the
-/// public interface of the shared library.
+/// The names of all elements and attributes of the package format: their only home. Only
+/// QenXmlParser holds a table of them; what is in namespace qenxml is not for hosts.
 
 #ifndef QENXML_PARSER_TAGNAMES_H
 #define QENXML_PARSER_TAGNAMES_H
 
-#include <array>
+#include <string>
 
-// TAG(name of the constant, text in the package). The texts are exact, case included;
-// "PestcideByPercent" and "PestcideByAmount" are spelt so in packages. "ProductID" and
-// "ProductName" stand twice: for fertilizers and for the lines of a pesticide mix.
+// TAG(name of the member without "_", text in the package), in the order of the table. The texts
+// are exact, case included; "PestcideByPercent" and "PestcideByAmount" are spelt so in packages.
+// "ProductID" and "ProductName" stand twice: for fertilizers and for the lines of a pesticide mix.
 //
 // From "PesticideProductID" to "Carrier" the names belong to pesticide mixes, of which only
 // "PesticideMixName" is read.
@@ -103,19 +103,19 @@
     TAG(AreaUOMID, "AreaUOMID")                                                                    \
     TAG(AreaUOM, "AreaUOM")
 
-namespace qenxml::tag {
+namespace qenxml {
 
-#define QENXML_TAG_CONSTANT(name, text) inline constexpr const char* name = text;
-QENXML_TAG_NAMES(QENXML_TAG_CONSTANT)
-#undef QENXML_TAG_CONSTANT
-
-/// All names, in the order of the list above.
-inline constexpr std::array all = {
-#define QENXML_TAG_ELEMENT(name, text) name,
-    QENXML_TAG_NAMES(QENXML_TAG_ELEMENT)
-#undef QENXML_TAG_ELEMENT
+/// The table of names that a parser holds and passes to every look-up; never changed once it is
+/// constructed. The members end in "_", so that no macro of a host ("Total") changes them.
+struct TagNames {
+#define QENXML_TAG_MEMBER(name, text) std::string name##_ = text;
+    QENXML_TAG_NAMES(QENXML_TAG_MEMBER)
+#undef QENXML_TAG_MEMBER
 };
 
-} // namespace qenxml::tag
+/// Where in the table a name stands.
+using TagName = std::string TagNames::*;
+
+} // namespace qenxml
 
 #endif

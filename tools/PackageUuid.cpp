@@ -10,7 +10,7 @@
 #include <pugixml.hpp>
 
 #include "parser/QenXmlParser.h"
-#include "parser/TagNames.h"
+#include "parser/internal/TagConstants.h"
 
 std::optional<boost::uuids::uuid> uuidOf(const std::string& text) {
     // The library converts identifiers only while it reads an element, so it gets one to read.

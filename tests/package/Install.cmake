@@ -37,6 +37,7 @@ ${link_library}
 LIB/pkgconfig/qenxml.pc
 include/qenxml/model/CommercialFertilizerRec.h
 include/qenxml/model/CustomFertilizerRec.h
+include/qenxml/model/OwnedRecData.h
 include/qenxml/model/PestProduct.h
 include/qenxml/model/PesticideByAmount.h
 include/qenxml/model/PesticideByPercent.h
@@ -50,7 +51,8 @@ include/qenxml/model/QenGrower.h
 include/qenxml/model/QenRec.h
 include/qenxml/model/QenRecData.h
 include/qenxml/model/version.h
-include/qenxml/parser/QenXmlParser.h")
+include/qenxml/parser/QenXmlParser.h
+include/qenxml/parser/TagNames.h")
 
 # The command runs wherever its prefix is.
 if(COMMAND)

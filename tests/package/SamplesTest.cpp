@@ -19,7 +19,7 @@
 #include "model/CustomFertilizerRec.h"
 #include "model/PlantingRec.h"
 #include "parser/QenXmlParser.h"
-#include "parser/TagNames.h"
+#include "parser/internal/TagConstants.h"
 #include "tests/support/BrokenPackages.h"
 #include "tests/support/Describe.h"
 #include "tests/support/TemporaryFolder.h"

@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 #include <pugixml.hpp>
 
-#include "parser/TagNames.h"
+#include "parser/internal/TagConstants.h"
 
 namespace {
 

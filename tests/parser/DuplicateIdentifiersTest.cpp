@@ -1,4 +1,4 @@
-#include "parser/DuplicateIdentifiers.h"
+#include "parser/internal/DuplicateIdentifiers.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "parser/TagNames.h"
+#include "parser/internal/TagConstants.h"
 
 #include <string>
 #include <vector>
@@ -98,4 +98,5 @@ TEST(TagNames, AreThoseOfThePackageFormatInTheirOrder) {
                                                "AreaUOM"};
     ASSERT_EQ(88U, expected.size());
     EXPECT_EQ(expected, std::vector<std::string>(qenxml::tag::all.begin(), qenxml::tag::all.end()));
+    // LayoutTest compares the table that a parser holds with this list.
 }

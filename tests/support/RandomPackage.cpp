@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "parser/TagNames.h"
+#include "parser/internal/TagConstants.h"
 #include "tests/support/Uuids.h"
 
 namespace tag = qenxml::tag;

@@ -220,9 +220,10 @@ void ElementCheck::value(const DatumFormat& datum, pugi::xml_node node) {
 
 void ElementCheck::reading(const DatumFormat& datum, const char* text, std::size_t offset,
                            std::string_view step) {
-    if (datum.kind == ValueKind::Identifier)
+    if (datum.kind == qenxml::format::Kind::Identifier)
         identifier(datum, text, offset, step);
-    else if (datum.kind == ValueKind::Integer || datum.kind == ValueKind::Number)
+    else if (datum.kind == qenxml::format::Kind::Integer ||
+             datum.kind == qenxml::format::Kind::Number)
         number(datum, text, offset, step);
 }
 
@@ -288,7 +289,7 @@ void ElementCheck::number(const DatumFormat& datum, const char* text, std::size_
                           std::string_view step) {
     using Oddity = NumberReading::Oddity;
     const NumberReading number =
-        datum.kind == ValueKind::Integer ? readInteger(text) : readNumber(text);
+        datum.kind == qenxml::format::Kind::Integer ? readInteger(text) : readNumber(text);
     const auto add = [&](FindingCode code, const char* what) {
         const std::size_t place = placeOfValue(report_.source().text(), offset, number.place);
         report_.add(code, place, step, [&] {

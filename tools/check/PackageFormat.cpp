@@ -1,193 +1,177 @@
 #include "tools/check/PackageFormat.h"
 
+#include <array>
+#include <map>
+#include <stdexcept>
+#include <utility>
+
 #include <fmt/format.h>
 
-#include "parser/TagNames.h"
+#include "parser/internal/PackageElements.h"
 
-namespace tag = qenxml::tag;
+namespace element = qenxml::format::element;
+using qenxml::TagName;
+using qenxml::TagNames;
+using qenxml::format::Datum;
+using qenxml::format::Element;
+using qenxml::format::Kind;
+using qenxml::format::Need;
+using qenxml::format::Record;
+
+namespace {
+
+const char* nameOf(TagName name) {
+    static const TagNames names;
+    return (names.*name).c_str();
+}
+
+/// What it means when a mandatory identifier cannot be read.
+FindingCode faultOf(TagName identifier) {
+    constexpr std::array faults = {
+        std::pair(&TagNames::GrowerID_, FindingCode::GrowerId),
+        std::pair(&TagNames::FarmID_, FindingCode::FarmId),
+        std::pair(&TagNames::FieldID_, FindingCode::FieldId),
+        std::pair(&TagNames::FieldGeometryID_, FindingCode::FieldGeometryId),
+        std::pair(&TagNames::FieldGeometry_, FindingCode::GeometryFileId),
+        std::pair(&TagNames::RecID_, FindingCode::RecId),
+        std::pair(&TagNames::MgmtZoneID_, FindingCode::ManagementZoneId),
+        std::pair(&TagNames::RecGeometry_, FindingCode::RecGeometryId),
+        std::pair(&TagNames::OpID_, FindingCode::OperationId)};
+    for (const auto& [name, fault] : faults) {
+        if (name == identifier)
+            return fault;
+    }
+    throw std::logic_error(fmt::format("no finding for {}", nameOf(identifier)));
+}
+
+DatumFormat formatOf(const Element& parent, const Datum& datum) {
+    DatumFormat format;
+    format.name = nameOf(datum.name);
+    format.kind = datum.kind;
+    // The library converts the identifier of a product only when all of the product is there.
+    if (datum.kind == Kind::Identifier && !parent.isProduct)
+        format.fault = faultOf(datum.name);
+    format.mayBeEmpty = datum.kind == Kind::Identifier && datum.need == Need::Optional;
+    return format;
+}
+
+const char* wordFor(Record record) {
+    switch (record) {
+    case Record::None:
+        break;
+    case Record::Grower:
+        return "grower";
+    case Record::Farm:
+        return "farm";
+    case Record::Field:
+        return "field";
+    case Record::Rec:
+        return "rec";
+    }
+    return nullptr;
+}
+
+/// The formats by the elements of the library's table, with all beneath them.
+class Formats {
+public:
+    explicit Formats(const Element& root) { add(root); }
+
+    const ElementFormat& of(const Element& element) const { return formats_.at(&element); }
+
+    /// All of them, each behind the one that it stands in.
+    const std::vector<const ElementFormat*>& all() const { return all_; }
+
+private:
+    const ElementFormat* add(const Element& element) {
+        ElementFormat& format = formats_[&element];
+        all_.push_back(&format);
+        format.name = nameOf(element.name);
+        format.record = wordFor(element.record);
+        for (const Datum& datum : element.attributes)
+            format.attributes.push_back(formatOf(element, datum));
+        for (const Datum& datum : element.values)
+            format.children.push_back(formatOf(element, datum));
+        for (const Element* part : element.parts) {
+            DatumFormat child;
+            child.name = nameOf(part->name);
+            child.element = add(*part);
+            format.children.push_back(child);
+        }
+        if (element.item != nullptr)
+            format.item = add(*element.item);
+        return &format;
+    }
+
+    std::map<const Element*, ElementFormat> formats_;
+    std::vector<const ElementFormat*> all_;
+};
+
+const Formats& formats() {
+    static const Formats formats(element::recPackage);
+    return formats;
+}
+
+} // namespace
 
 namespace format {
 
 const ElementFormat& recPackage() {
-    static const ElementFormat format = {tag::RecPackage, {}, {}, &grower()};
+    static const ElementFormat& format = formats().of(element::recPackage);
     return format;
 }
 
 const ElementFormat& grower() {
-    static const ElementFormat format = {
-        tag::Grower,
-        {{tag::GrowerID, ValueKind::Identifier, FindingCode::GrowerId}},
-        {{tag::GrowerName, ValueKind::Name}},
-        &farm(),
-        "grower"};
+    static const ElementFormat& format = formats().of(element::grower);
     return format;
 }
 
 const ElementFormat& farm() {
-    static const ElementFormat format = {
-        tag::Farm,
-        {{tag::FarmID, ValueKind::Identifier, FindingCode::FarmId}},
-        {{tag::FarmName, ValueKind::Name}},
-        &field(),
-        "farm"};
+    static const ElementFormat& format = formats().of(element::farm);
     return format;
 }
 
 const ElementFormat& field() {
-    static const ElementFormat format = {
-        tag::Field,
-        {{tag::FieldID, ValueKind::Identifier, FindingCode::FieldId}},
-        {{tag::FieldName, ValueKind::Name},
-         {tag::FieldGeometryID, ValueKind::Identifier, FindingCode::FieldGeometryId},
-         {tag::FieldGeometryDate},
-         {tag::FieldGeometry, ValueKind::Identifier, FindingCode::GeometryFileId},
-         {tag::FieldCentroid, ValueKind::Element, std::nullopt, false, &fieldCentroid()},
-         {tag::Recommendations, ValueKind::Element, std::nullopt, false, &recommendations()}},
-        nullptr,
-        "field"};
+    static const ElementFormat& format = formats().of(element::field);
     return format;
 }
 
 const ElementFormat& fieldCentroid() {
-    static const ElementFormat format = {
-        tag::FieldCentroid,
-        {},
-        {{tag::Latitude, ValueKind::Number}, {tag::Longitude, ValueKind::Number}}};
+    static const ElementFormat& format = formats().of(element::fieldCentroid);
     return format;
 }
 
 const ElementFormat& recommendations() {
-    static const ElementFormat format = {tag::Recommendations, {}, {}, &rec()};
+    static const ElementFormat& format = formats().of(element::recommendations);
     return format;
 }
 
 const ElementFormat& rec() {
-    static const ElementFormat format = {
-        tag::Rec,
-        {{tag::RecID, ValueKind::Identifier, FindingCode::RecId},
-         {tag::MgmtZoneID, ValueKind::Identifier, FindingCode::ManagementZoneId, true}},
-        {{tag::RecName, ValueKind::Name},
-         {tag::RecGeometry, ValueKind::Identifier, FindingCode::RecGeometryId},
-         {tag::CreationDate},
-         {tag::EditDate},
-         {tag::RecDBFCol},
-         {tag::Operation, ValueKind::Element, std::nullopt, false, &operation()},
-         {tag::Season, ValueKind::Element, std::nullopt, false, &season()},
-         {tag::RecData, ValueKind::Element, std::nullopt, false, &recData()},
-         {tag::RecStats, ValueKind::Element, std::nullopt, false, &recStats()}},
-        nullptr,
-        "rec"};
+    static const ElementFormat& format = formats().of(element::rec);
     return format;
 }
 
 const ElementFormat& operation() {
-    static const ElementFormat format = {
-        tag::Operation,
-        {{tag::OpID, ValueKind::Identifier, FindingCode::OperationId}},
-        {{tag::OpName}}};
+    static const ElementFormat& format = formats().of(element::operation);
     return format;
 }
 
 const ElementFormat& season() {
-    static const ElementFormat format = {
-        tag::Season, {{tag::SeasonID, ValueKind::Integer}}, {{tag::SeasonName}}};
+    static const ElementFormat& format = formats().of(element::season);
     return format;
 }
 
 const ElementFormat& recData() {
-    static const ElementFormat format = {
-        tag::RecData,
-        {},
-        {{tag::CommercialFertilizer, ValueKind::Element, std::nullopt, false,
-          &commercialFertilizer()},
-         {tag::CustomFertilizer, ValueKind::Element, std::nullopt, false, &customFertilizer()},
-         {tag::Planting, ValueKind::Element, std::nullopt, false, &planting()}}};
+    static const ElementFormat& format = formats().of(element::recData);
     return format;
 }
 
 const ElementFormat& recStats() {
-    static const ElementFormat format = {tag::RecStats,
-                                         {},
-                                         {{tag::MinimumRate, ValueKind::Number},
-                                          {tag::MaximumRate, ValueKind::Number},
-                                          {tag::AverageRate, ValueKind::Number},
-                                          {tag::RateUOMID, ValueKind::Integer},
-                                          {tag::RateUOM},
-                                          {tag::Total, ValueKind::Number},
-                                          {tag::TotalUOMID, ValueKind::Integer},
-                                          {tag::TotalUOM},
-                                          {tag::Area, ValueKind::Number},
-                                          {tag::AreaUOMID, ValueKind::Integer},
-                                          {tag::AreaUOM}}};
-    return format;
-}
-
-const ElementFormat& commercialFertilizer() {
-    static const ElementFormat format = {tag::CommercialFertilizer,
-                                         {},
-                                         {{tag::ProductID, ValueKind::Integer},
-                                          {tag::ProductName},
-                                          {tag::UOMID, ValueKind::Integer},
-                                          {tag::UOM}}};
-    return format;
-}
-
-const ElementFormat& customFertilizer() {
-    // The library converts the identifier only when all of the product is there.
-    static const ElementFormat format = {tag::CustomFertilizer,
-                                         {},
-                                         {{tag::ProductID, ValueKind::Identifier},
-                                          {tag::ProductName},
-                                          {tag::UOMID, ValueKind::Integer},
-                                          {tag::UOM},
-                                          {tag::SFertT_ID, ValueKind::Integer},
-                                          {tag::SpGravity, ValueKind::Number},
-                                          {tag::Pct_N, ValueKind::Number},
-                                          {tag::Pct_P, ValueKind::Number},
-                                          {tag::Pct_K, ValueKind::Number},
-                                          {tag::Pct_Ca, ValueKind::Number},
-                                          {tag::Pct_Mg, ValueKind::Number},
-                                          {tag::Pct_S, ValueKind::Number},
-                                          {tag::Pct_Fe, ValueKind::Number},
-                                          {tag::Pct_Mn, ValueKind::Number},
-                                          {tag::Pct_Zn, ValueKind::Number},
-                                          {tag::Pct_Cu, ValueKind::Number},
-                                          {tag::Pct_B, ValueKind::Number},
-                                          {tag::Pct_Mo, ValueKind::Number},
-                                          {tag::Pct_Cl, ValueKind::Number}}};
-    return format;
-}
-
-const ElementFormat& planting() {
-    static const ElementFormat format = {tag::Planting,
-                                         {},
-                                         {{tag::CropID, ValueKind::Integer},
-                                          {tag::CropName},
-                                          {tag::CompanyID, ValueKind::Integer},
-                                          {tag::CompanyName},
-                                          {tag::VarietyID, ValueKind::Integer},
-                                          {tag::VarietyName},
-                                          {tag::UOMID, ValueKind::Integer},
-                                          {tag::UOM}}};
+    static const ElementFormat& format = formats().of(element::recStats);
     return format;
 }
 
 const std::vector<const ElementFormat*>& all() {
-    static const std::vector<const ElementFormat*> formats = {&recPackage(),
-                                                              &grower(),
-                                                              &farm(),
-                                                              &field(),
-                                                              &fieldCentroid(),
-                                                              &recommendations(),
-                                                              &rec(),
-                                                              &operation(),
-                                                              &season(),
-                                                              &recData(),
-                                                              &commercialFertilizer(),
-                                                              &customFertilizer(),
-                                                              &planting(),
-                                                              &recStats()};
-    return formats;
+    return formats().all();
 }
 
 } // namespace format

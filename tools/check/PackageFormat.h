@@ -1,5 +1,6 @@
 /// @file
-/// Which elements and attributes the library reads, and what it takes them for.
+/// Which elements and attributes the library reads, and what it takes them for: its own table, with
+/// what `qenxml check` says when something of it cannot be read.
 
 #ifndef QENXML_TOOLS_CHECK_PACKAGEFORMAT_H
 #define QENXML_TOOLS_CHECK_PACKAGEFORMAT_H
@@ -9,26 +10,18 @@
 #include <string_view>
 #include <vector>
 
+#include "parser/internal/PackageElements.h"
 #include "tools/check/FindingCodes.h"
-
-enum class ValueKind {
-    Text,
-    Name, ///< The text that a record is called by.
-    Identifier,
-    Integer,
-    Number,
-    Element ///< Holds other elements.
-};
 
 /// An attribute, or an element that is there once.
 struct DatumFormat {
     const char* name = nullptr;
-    ValueKind kind = ValueKind::Text;
+    qenxml::format::Kind kind = qenxml::format::Kind::Text;
     /// Of an identifier: what it means when the library cannot read it. None where it reads it only
     /// under conditions.
     std::optional<FindingCode> fault = std::nullopt;
-    bool mayBeEmpty = false; ///< Of an identifier.
-    const struct ElementFormat* element = nullptr;
+    bool mayBeEmpty = false;                       ///< Of an identifier.
+    const struct ElementFormat* element = nullptr; ///< Of one that holds other elements.
 };
 
 /// An element.
@@ -53,9 +46,6 @@ const ElementFormat& operation();
 const ElementFormat& season();
 const ElementFormat& recData();
 const ElementFormat& recStats();
-const ElementFormat& commercialFertilizer();
-const ElementFormat& customFertilizer();
-const ElementFormat& planting();
 
 /// All of them.
 const std::vector<const ElementFormat*>& all();

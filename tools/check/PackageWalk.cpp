@@ -7,7 +7,7 @@
 #include <boost/uuid/uuid.hpp>
 #include <fmt/format.h>
 
-#include "parser/TagNames.h"
+#include "parser/internal/TagConstants.h"
 #include "tools/Escape.h"
 #include "tools/check/CheckReport.h"
 #include "tools/check/ElementCheck.h"
@@ -342,7 +342,7 @@ private:
     void incompleteStatistics(pugi::xml_node node) {
         std::string missing;
         for (const DatumFormat& datum : format::recStats().children) {
-            if (datum.kind == ValueKind::Number && !node.child(datum.name))
+            if (datum.kind == qenxml::format::Kind::Number && !node.child(datum.name))
                 missing += (missing.empty() ? "" : ", ") + std::string(datum.name);
         }
         if (missing.empty())

@@ -5,7 +5,7 @@
 
 #include <fmt/format.h>
 
-#include "parser/TagNames.h"
+#include "parser/internal/TagConstants.h"
 #include "tools/check/NumberReading.h"
 #include "tools/check/PackageFormat.h"
 

@@ -5,7 +5,7 @@
 
 #include <fmt/format.h>
 
-#include "parser/TagNames.h"
+#include "parser/internal/TagConstants.h"
 #include "tools/Escape.h"
 #include "tools/check/IdentifierReading.h"
 #include "tools/check/NameSuggestion.h"
@@ -38,7 +38,7 @@ std::vector<std::string> missingChildren(const ElementFormat& format, pugi::xml_
 std::string unreadIdentifier(const ElementFormat& format, pugi::xml_node node) {
     for (const DatumFormat& datum : format.children) {
         const char* const text = node.child(datum.name).text().as_string();
-        if (datum.kind != ValueKind::Identifier || !node.child(datum.name))
+        if (datum.kind != qenxml::format::Kind::Identifier || !node.child(datum.name))
             continue;
         const IdentifierReading identifier = readIdentifier(text);
         if (identifier.fault != IdentifierReading::Fault::None)
@@ -64,7 +64,7 @@ void checkProduct(ElementCheck& check, const ElementFormat& format, pugi::xml_no
         format, node,
         [&](DatumFormat datum, pugi::xml_node child) {
             // Not read at all, and so no error, while anything is missing.
-            if (datum.kind == ValueKind::Identifier && missing.empty())
+            if (datum.kind == qenxml::format::Kind::Identifier && missing.empty())
                 datum.fault = FindingCode::BlendId;
             check.value(datum, child);
         },

@@ -10,7 +10,7 @@
 #include "model/CommercialFertilizerRec.h"
 #include "model/CustomFertilizerRec.h"
 #include "model/PlantingRec.h"
-#include "parser/TagNames.h"
+#include "parser/internal/TagConstants.h"
 #include "tools/Escape.h"
 #include "tools/NumberText.h"
 #include "tools/ProductText.h"

@@ -7,7 +7,7 @@
 #include <boost/uuid/uuid.hpp>
 #include <fmt/format.h>
 
-#include "parser/TagNames.h"
+#include "parser/internal/TagConstants.h"
 #include "tools/Centroid.h"
 #include "tools/JsonWriter.h"
 #include "tools/export/RecordJson.h"

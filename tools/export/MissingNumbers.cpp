@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <new>
 
-#include "parser/TagNames.h"
+#include "parser/internal/TagConstants.h"
 #include "tools/check/IdentifierReading.h"
 #include "tools/check/NumberReading.h"
 
@@ -11,12 +11,13 @@ namespace tag = qenxml::tag;
 
 namespace {
 
-bool isNumber(ValueKind kind) {
-    return kind == ValueKind::Integer || kind == ValueKind::Number;
+bool isNumber(qenxml::format::Kind kind) {
+    return kind == qenxml::format::Kind::Integer || kind == qenxml::format::Kind::Number;
 }
 
-bool holdsNumber(ValueKind kind, const char* text) {
-    const NumberReading number = kind == ValueKind::Integer ? readInteger(text) : readNumber(text);
+bool holdsNumber(qenxml::format::Kind kind, const char* text) {
+    const NumberReading number =
+        kind == qenxml::format::Kind::Integer ? readInteger(text) : readNumber(text);
     return number.oddity != NumberReading::Oddity::Empty &&
            number.oddity != NumberReading::Oddity::NotANumber;
 }

@@ -6,7 +6,7 @@
 #include "model/CustomFertilizerRec.h"
 #include "model/PesticideRec.h"
 #include "model/PlantingRec.h"
-#include "parser/TagNames.h"
+#include "parser/internal/TagConstants.h"
 
 namespace tag = qenxml::tag;
 

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "parser/TagNames.h"
+#include "parser/internal/TagConstants.h"
 
 namespace tag = qenxml::tag;
 

@@ -1,8 +1,8 @@
 /// @file
-/// How every list of a package is walked. Not part of the public interface.
+/// How every list of a package is walked.
 
-#ifndef QENXML_PARSER_LISTWALK_H
-#define QENXML_PARSER_LISTWALK_H
+#ifndef QENXML_PARSER_INTERNAL_LISTWALK_H
+#define QENXML_PARSER_INTERNAL_LISTWALK_H
 
 #include <algorithm>
 #include <cstddef>
@@ -10,7 +10,7 @@
 
 #include <pugixml.hpp>
 
-#include "parser/DuplicateIdentifiers.h"
+#include "parser/internal/DuplicateIdentifiers.h"
 
 namespace qenxml {
 

@@ -1,8 +1,8 @@
 /// @file
-/// Lists hold one child per identifier. Not part of the public interface.
+/// Lists hold one child per identifier.
 
-#ifndef QENXML_PARSER_DUPLICATEIDENTIFIERS_H
-#define QENXML_PARSER_DUPLICATEIDENTIFIERS_H
+#ifndef QENXML_PARSER_INTERNAL_DUPLICATEIDENTIFIERS_H
+#define QENXML_PARSER_INTERNAL_DUPLICATEIDENTIFIERS_H
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 /// @file
-/// Conversion of identifier text to UUIDs. Not part of the public interface.
+/// Conversion of identifier text to UUIDs.
 
-#ifndef QENXML_PARSER_IDENTIFIER_H
-#define QENXML_PARSER_IDENTIFIER_H
+#ifndef QENXML_PARSER_INTERNAL_IDENTIFIER_H
+#define QENXML_PARSER_INTERNAL_IDENTIFIER_H
 
 #include <string_view>
 

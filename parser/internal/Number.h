@@ -1,8 +1,8 @@
 /// @file
-/// Conversion of text to numbers. Not part of the public interface.
+/// Conversion of text to numbers.
 
-#ifndef QENXML_PARSER_NUMBER_H
-#define QENXML_PARSER_NUMBER_H
+#ifndef QENXML_PARSER_INTERNAL_NUMBER_H
+#define QENXML_PARSER_INTERNAL_NUMBER_H
 
 #include <optional>
 

@@ -1,8 +1,8 @@
 /// @file
-/// Finding the children of an element by name. Not part of the public interface.
+/// Finding the children of an element by name.
 
-#ifndef QENXML_PARSER_CHILDCURSOR_H
-#define QENXML_PARSER_CHILDCURSOR_H
+#ifndef QENXML_PARSER_INTERNAL_CHILDCURSOR_H
+#define QENXML_PARSER_INTERNAL_CHILDCURSOR_H
 
 #include <cstring>
 

@@ -1,18 +1,16 @@
 /// @file
-/// What the lists of children have in common. Not part of the public interface.
+/// What the lists of farms and fields have in common.
 ///
 /// Children come into a list by value: the argument belongs to the operation, which moves from it.
 /// All the same it has to look as if they were copied, and copying a rec drops product data of an
 /// unknown kind.
 
-#ifndef QENXML_MODEL_CHILDLIST_H
-#define QENXML_MODEL_CHILDLIST_H
+#ifndef QENXML_MODEL_INTERNAL_CHILDLIST_H
+#define QENXML_MODEL_INTERNAL_CHILDLIST_H
 
 #include <algorithm>
 #include <utility>
 #include <vector>
-
-#include "model/QenRec.h"
 
 class QenFarm;
 class QenField;
@@ -20,11 +18,8 @@ class QenField;
 namespace qenxml {
 
 /// Deletes the product data that a copy would not have.
-void dropUnknownProductData(QenRec& rec) noexcept;
 void dropUnknownProductData(QenField& field) noexcept;
 void dropUnknownProductData(QenFarm& farm) noexcept;
-
-// appendEmptyRec() is declared with QenRec, whose friend it is.
 
 /// Puts @p child in the place of the first child with the same identifier, or else appends it. When
 /// memory runs out, the list has not changed.
