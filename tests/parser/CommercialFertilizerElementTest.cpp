@@ -42,7 +42,8 @@ using FertilizerSample = test::Sample<CommercialFertilizerElement>;
 
 } // namespace
 
-INSTANTIATE_TYPED_TEST_SUITE_P(CommercialFertilizer, ElementRules, CommercialFertilizerElement);
+INSTANTIATE_TYPED_TEST_SUITE_P(CommercialFertilizer, ElementRules, CommercialFertilizerElement,
+                               test::ElementNumber);
 
 TEST(CommercialFertilizerElement, GivesDataOfItsKindForTheRecThatItIsGiven) {
     const FertilizerSample sample;

@@ -60,7 +60,8 @@ using BlendSample = test::Sample<CustomFertilizerElement>;
 
 } // namespace
 
-INSTANTIATE_TYPED_TEST_SUITE_P(CustomFertilizer, ElementRules, CustomFertilizerElement);
+INSTANTIATE_TYPED_TEST_SUITE_P(CustomFertilizer, ElementRules, CustomFertilizerElement,
+                               test::ElementNumber);
 
 TEST(CustomFertilizerElement, GivesDataOfItsKindForTheRecThatItIsGiven) {
     const BlendSample sample;

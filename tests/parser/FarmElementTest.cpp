@@ -49,7 +49,7 @@ struct FarmElement {
 
 } // namespace
 
-INSTANTIATE_TYPED_TEST_SUITE_P(Farm, ElementRules, FarmElement);
+INSTANTIATE_TYPED_TEST_SUITE_P(Farm, ElementRules, FarmElement, test::ElementNumber);
 
 TEST(FarmElement, WithAnIdentifierOnlyGivesAnEmptyFarmOfItsGrower) {
     QenFarm farm = readFarm(test::farm(11));

@@ -68,7 +68,7 @@ using FieldSample = test::Sample<FieldElement>;
 
 } // namespace
 
-INSTANTIATE_TYPED_TEST_SUITE_P(Field, ElementRules, FieldElement);
+INSTANTIATE_TYPED_TEST_SUITE_P(Field, ElementRules, FieldElement, test::ElementNumber);
 
 TEST(FieldElement, WithItsThreeIdentifiersOnlyGivesOneGeometryAndNoRecs) {
     EXPECT_EQ(test::describe(QenFieldGeometry(uuid(7021), "", uuid(8021), LLA{0.0, 0.0, 0.0})),

@@ -45,7 +45,7 @@ QenGrower readGrower(const std::string& text) {
 
 } // namespace
 
-INSTANTIATE_TYPED_TEST_SUITE_P(Grower, ElementRules, GrowerElement);
+INSTANTIATE_TYPED_TEST_SUITE_P(Grower, ElementRules, GrowerElement, test::ElementNumber);
 
 TEST(GrowerElement, WithoutANameGivesAnEmptyName) {
     QenGrower grower = readGrower(test::grower(1));

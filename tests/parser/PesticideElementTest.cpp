@@ -41,7 +41,7 @@ using MixSample = test::Sample<PesticideElement>;
 
 } // namespace
 
-INSTANTIATE_TYPED_TEST_SUITE_P(Pesticide, ElementRules, PesticideElement);
+INSTANTIATE_TYPED_TEST_SUITE_P(Pesticide, ElementRules, PesticideElement, test::ElementNumber);
 
 TEST(PesticideElement, GivesDataOfItsKindForTheRecThatItIsGiven) {
     const MixSample sample;

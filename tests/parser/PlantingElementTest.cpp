@@ -44,7 +44,7 @@ struct PlantingElement {
 
 } // namespace
 
-INSTANTIATE_TYPED_TEST_SUITE_P(Planting, ElementRules, PlantingElement);
+INSTANTIATE_TYPED_TEST_SUITE_P(Planting, ElementRules, PlantingElement, test::ElementNumber);
 
 TEST(PlantingElement, GivesDataOfItsKindForTheRecThatItIsGiven) {
     const test::Sample<PlantingElement> sample;

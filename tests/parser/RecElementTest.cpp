@@ -95,7 +95,7 @@ std::string fertilizer(const std::string& uom = "kg") {
 
 } // namespace
 
-INSTANTIATE_TYPED_TEST_SUITE_P(Rec, ElementRules, RecElement);
+INSTANTIATE_TYPED_TEST_SUITE_P(Rec, ElementRules, RecElement, test::ElementNumber);
 
 TEST(RecElement, WithItsTwoIdentifiersOnlyGivesEmptyValues) {
     QenRec rec = readRec(test::rec(31));
