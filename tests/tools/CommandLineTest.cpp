@@ -183,7 +183,10 @@ TEST_F(BracketedNames, AreShownAsTheyAreGivenInMessages) {
 }
 
 TEST(CommandLine, TakesWordsThatAreCommandsForFilesAfterACommand) {
-    EXPECT_EQ(runCommand({"show", "check"}).errors,
+    const test::TemporaryFolder empty;
+    RunOptions options;
+    options.folder = empty.path("");
+    EXPECT_EQ(runCommand({"show", "check"}, options).errors,
               "qenxml: check: not found; the file is skipped\n");
 }
 
