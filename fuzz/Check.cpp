@@ -11,8 +11,8 @@
 #include "fuzz/PackageFile.h"
 #include "fuzz/Require.h"
 #include "parser/QenXmlParser.h"
-#include "tools/Escape.h"
 #include "tools/check/PackageCheck.h"
+#include "tools/text/Escape.h"
 
 namespace {
 

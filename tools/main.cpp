@@ -5,7 +5,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "tools/CommandLine.h"
+#include "tools/commands/CommandLine.h"
 
 namespace {
 

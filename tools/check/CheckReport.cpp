@@ -2,7 +2,7 @@
 
 #include <fmt/format.h>
 
-#include "tools/Escape.h"
+#include "tools/text/Escape.h"
 
 void CheckReport::send(FindingCode code, std::size_t offset, std::string_view step, Texts texts) {
     Finding finding;

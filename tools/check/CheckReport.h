@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
-#include "tools/SourceText.h"
 #include "tools/check/Finding.h"
+#include "tools/text/SourceText.h"
 
 /// Where the check of a package is, and the way of its findings to their sink.
 class CheckReport {

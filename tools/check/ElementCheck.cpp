@@ -5,11 +5,11 @@
 #include <boost/uuid/uuid_io.hpp>
 #include <fmt/format.h>
 
-#include "tools/Escape.h"
-#include "tools/Utf8.h"
 #include "tools/check/IdentifierReading.h"
-#include "tools/check/NameSuggestion.h"
 #include "tools/check/ValuePlace.h"
+#include "tools/text/Escape.h"
+#include "tools/text/NameSuggestion.h"
+#include "tools/text/Utf8.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "tools/SourceText.h"
 #include "tools/check/FindingCodes.h"
+#include "tools/text/SourceText.h"
 
 /// Something that is wrong, or likely wrong, with a package. All texts of the package in it are
 /// escaped, so that every text is valid UTF-8 in one line.

@@ -2,8 +2,8 @@
 
 #include <fmt/format.h>
 
-#include "tools/Escape.h"
-#include "tools/Utf8.h"
+#include "tools/text/Escape.h"
+#include "tools/text/Utf8.h"
 
 namespace {
 

@@ -11,12 +11,12 @@
 #include <boost/uuid/uuid_io.hpp>
 #include <fmt/format.h>
 
-#include "tools/Escape.h"
-#include "tools/FileContent.h"
-#include "tools/PackageUuid.h"
-#include "tools/Utf8.h"
 #include "tools/check/OpenElement.h"
 #include "tools/check/PackageWalk.h"
+#include "tools/files/FileContent.h"
+#include "tools/files/PackageUuid.h"
+#include "tools/text/Escape.h"
+#include "tools/text/Utf8.h"
 
 namespace {
 

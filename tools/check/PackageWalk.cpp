@@ -8,13 +8,13 @@
 #include <fmt/format.h>
 
 #include "parser/internal/TagConstants.h"
-#include "tools/Escape.h"
 #include "tools/check/CheckReport.h"
 #include "tools/check/ElementCheck.h"
 #include "tools/check/IdentifierReading.h"
-#include "tools/check/NameSuggestion.h"
 #include "tools/check/PlausibilityCheck.h"
 #include "tools/check/RecDataCheck.h"
+#include "tools/text/Escape.h"
+#include "tools/text/NameSuggestion.h"
 
 namespace tag = qenxml::tag;
 

@@ -3,8 +3,8 @@
 
 #include <pugixml.hpp>
 
-#include "tools/SourceText.h"
 #include "tools/check/Finding.h"
+#include "tools/text/SourceText.h"
 
 /// Finds what is wrong with a document: walks it as the library does, but on after each error.
 ///

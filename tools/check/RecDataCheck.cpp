@@ -6,9 +6,9 @@
 #include <fmt/format.h>
 
 #include "parser/internal/TagConstants.h"
-#include "tools/Escape.h"
 #include "tools/check/IdentifierReading.h"
-#include "tools/check/NameSuggestion.h"
+#include "tools/text/Escape.h"
+#include "tools/text/NameSuggestion.h"
 
 namespace tag = qenxml::tag;
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "tools/Utf8.h"
+#include "tools/text/Utf8.h"
 
 namespace {
 

@@ -11,10 +11,10 @@
 #include "model/CustomFertilizerRec.h"
 #include "model/PlantingRec.h"
 #include "parser/internal/TagConstants.h"
-#include "tools/Escape.h"
-#include "tools/NumberText.h"
-#include "tools/ProductText.h"
-#include "tools/Utf8.h"
+#include "tools/records/ProductText.h"
+#include "tools/text/Escape.h"
+#include "tools/text/NumberText.h"
+#include "tools/text/Utf8.h"
 
 namespace tag = qenxml::tag;
 

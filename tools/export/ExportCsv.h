@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "tools/Output.h"
 #include "tools/export/ExportFormat.h"
+#include "tools/output/Output.h"
 
 /// A table with a row per rec, as a spreadsheet opens it: comma-separated values (RFC 4180) in
 /// UTF-8, with a byte-order mark, for without one some take the text for another encoding.

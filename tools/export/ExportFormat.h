@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "model/QenGrower.h"
-#include "tools/PackageReading.h"
-#include "tools/export/MissingNumbers.h"
+#include "tools/input/PackageReading.h"
+#include "tools/records/MissingNumbers.h"
 
 /// A format of `qenxml export`. It is written while packages are read, so that no more than one of
 /// them is in memory.

@@ -8,9 +8,9 @@
 #include <fmt/format.h>
 
 #include "parser/internal/TagConstants.h"
-#include "tools/Centroid.h"
-#include "tools/JsonWriter.h"
 #include "tools/export/RecordJson.h"
+#include "tools/output/JsonWriter.h"
+#include "tools/records/Centroid.h"
 
 namespace {
 

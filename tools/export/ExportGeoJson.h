@@ -3,8 +3,8 @@
 
 #include <memory>
 
-#include "tools/Output.h"
 #include "tools/export/ExportFormat.h"
+#include "tools/output/Output.h"
 
 /// The boundaries of fields as features of GeoJSON (RFC 7946): each a point at its centroid, with
 /// its recs as properties. A feature whose centroid is no place has no point, as the format

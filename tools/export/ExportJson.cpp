@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "tools/JsonWriter.h"
 #include "tools/export/RecordJson.h"
+#include "tools/output/JsonWriter.h"
 
 using Json = nlohmann::ordered_json;
 

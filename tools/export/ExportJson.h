@@ -3,8 +3,8 @@
 
 #include <memory>
 
-#include "tools/Output.h"
 #include "tools/export/ExportFormat.h"
+#include "tools/output/Output.h"
 
 /// The whole tree as one JSON document: docs/export.schema.json.
 std::unique_ptr<ExportFormat> makeJsonExport(TextSink sink);

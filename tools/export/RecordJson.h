@@ -11,8 +11,8 @@
 #include "model/QenField.h"
 #include "model/QenFieldGeometry.h"
 #include "model/QenRec.h"
-#include "tools/JsonWriter.h"
-#include "tools/export/MissingNumbers.h"
+#include "tools/output/JsonWriter.h"
+#include "tools/records/MissingNumbers.h"
 
 nlohmann::ordered_json jsonIdentifier(const boost::uuids::uuid& id);
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "tools/NumberText.h"
+#include "tools/text/NumberText.h"
 
 std::string grouped(std::string number) {
     constexpr std::size_t group = 3;

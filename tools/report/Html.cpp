@@ -1,6 +1,6 @@
 #include "tools/report/Html.h"
 
-#include "tools/Utf8.h"
+#include "tools/text/Utf8.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "tools/Utf8.h"
+#include "tools/text/Utf8.h"
 
 namespace {
 

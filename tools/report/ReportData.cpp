@@ -7,7 +7,7 @@
 
 #include <fmt/format.h>
 
-#include "tools/ProductText.h"
+#include "tools/records/ProductText.h"
 #include "tools/report/GroupedNumber.h"
 
 RecordCounts& RecordCounts::operator+=(const RecordCounts& other) {

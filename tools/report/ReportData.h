@@ -11,8 +11,8 @@
 
 #include <boost/uuid/uuid.hpp>
 
-#include "tools/PackageReading.h"
 #include "tools/check/Finding.h"
+#include "tools/input/PackageReading.h"
 
 /// How many records there are.
 struct RecordCounts {

@@ -9,11 +9,11 @@
 
 #include <fmt/format.h>
 
-#include "tools/Utf8.h"
 #include "tools/report/GroupedNumber.h"
 #include "tools/report/Html.h"
 #include "tools/report/MapLettering.h"
 #include "tools/report/MapProjection.h"
+#include "tools/text/Utf8.h"
 
 namespace {
 

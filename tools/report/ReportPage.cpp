@@ -9,10 +9,9 @@
 #include <fmt/format.h>
 
 #include "model/version.h"
-#include "tools/Centroid.h"
-#include "tools/NumberText.h"
-#include "tools/PackageUuid.h"
-#include "tools/ProductText.h"
+#include "tools/files/PackageUuid.h"
+#include "tools/records/Centroid.h"
+#include "tools/records/ProductText.h"
 #include "tools/report/FileNames.h"
 #include "tools/report/GroupedNumber.h"
 #include "tools/report/Html.h"
@@ -20,6 +19,7 @@
 #include "tools/report/RateBar.h"
 #include "tools/report/ReportMap.h"
 #include "tools/report/ReportStyle.h"
+#include "tools/text/NumberText.h"
 
 namespace {
 

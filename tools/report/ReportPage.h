@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "tools/Output.h"
+#include "tools/output/Output.h"
 #include "tools/report/ReportData.h"
 
 /// Writes one page of HTML about packages. It needs nothing from elsewhere, and no script.

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/Uuids.h"
-#include "tools/PackageUuid.h"
+#include "tools/files/PackageUuid.h"
 
 using Fault = IdentifierReading::Fault;
 

@@ -22,7 +22,7 @@
 #include "tests/support/RandomPackage.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/tools/check/Findings.h"
-#include "tools/SourceText.h"
+#include "tools/text/SourceText.h"
 
 namespace fs = std::filesystem;
 

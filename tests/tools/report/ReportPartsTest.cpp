@@ -9,7 +9,7 @@
 
 #include "model/CommercialFertilizerRec.h"
 #include "tests/support/Uuids.h"
-#include "tools/Centroid.h"
+#include "tools/records/Centroid.h"
 #include "tools/report/GroupedNumber.h"
 #include "tools/report/RateBar.h"
 #include "tools/report/ReportData.h"

@@ -1,9 +1,0 @@
-#ifndef QENXML_TOOLS_EXPORT_H
-#define QENXML_TOOLS_EXPORT_H
-
-#include "tools/Command.h"
-
-/// Adds `qenxml export`, which writes what packages hold in other formats, to the command line.
-Command addExport(CLI::App& application);
-
-#endif

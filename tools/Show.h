@@ -1,9 +1,0 @@
-#ifndef QENXML_TOOLS_SHOW_H
-#define QENXML_TOOLS_SHOW_H
-
-#include "tools/Command.h"
-
-/// Adds `qenxml show`, which prints what packages hold, to the command line.
-Command addShow(CLI::App& application);
-
-#endif

@@ -1,0 +1,20 @@
+#ifndef QENXML_TOOLS_COMMANDS_COMMAND_H
+#define QENXML_TOOLS_COMMANDS_COMMAND_H
+
+#include <functional>
+
+#include <CLI/CLI.hpp>
+
+#include "tools/commands/ExitCode.h"
+#include "tools/output/Console.h"
+
+/// A sub-command of qenxml.
+struct Command {
+    CLI::App* parser; ///< Its part of the command line.
+
+    /// Does what the parsed command line says. Throws CLI::ParseError, before it does anything,
+    /// where what it says makes no sense.
+    std::function<ExitCode(Console&)> run;
+};
+
+#endif

@@ -1,0 +1,27 @@
+/// @file
+/// The exit codes of the qenxml command: their only home.
+
+#ifndef QENXML_TOOLS_COMMANDS_EXITCODE_H
+#define QENXML_TOOLS_COMMANDS_EXITCODE_H
+
+enum class ExitCode : int {
+    Success = 0,   ///< All files were read, or found to be readable.
+    Failure = 1,   ///< Some file cannot be read, or the output could not be written.
+    WrongUsage = 2 ///< The command line was not understood; nothing was done.
+};
+
+/// The exit codes of the command that checks files.
+inline constexpr const char* checkExitCodeHelp =
+    "Exit codes:\n"
+    "  0  nothing was found, or nothing worse than warnings; with --strict than notes\n"
+    "  1  something was found, or some file could not be read\n"
+    "  2  wrong usage; nothing was read";
+
+/// The exit codes as the help texts of the other commands explain them.
+inline constexpr const char* exitCodeHelp =
+    "Exit codes:\n"
+    "  0  all files were read\n"
+    "  1  some file could not be read, or the output could not be written\n"
+    "  2  wrong usage; nothing was read";
+
+#endif

@@ -1,0 +1,122 @@
+#include "tools/commands/Export.h"
+
+#include <cstddef>
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <boost/uuid/uuid.hpp>
+#include <fmt/format.h>
+
+#include "tools/export/ExportCsv.h"
+#include "tools/export/ExportFormat.h"
+#include "tools/export/ExportGeoJson.h"
+#include "tools/export/ExportJson.h"
+#include "tools/input/PackageInput.h"
+#include "tools/input/PackageReading.h"
+#include "tools/options/Arguments.h"
+#include "tools/options/CommonOptions.h"
+#include "tools/options/HelpFormatter.h"
+#include "tools/output/Output.h"
+#include "tools/records/MergedGrowers.h"
+#include "tools/records/MissingNumbers.h"
+#include "tools/text/Escape.h"
+
+namespace {
+
+constexpr const char* examples =
+    "  qenxml export --format csv -o recs.csv season/*.xml           for a spreadsheet\n"
+    "  qenxml export --format geojson --merge -o map.geojson *.xml   for a map\n"
+    "  qenxml export --format json 00112233-4455-6677-8899-aabbccddeeff.xml | jq .packages[0]\n";
+
+using MakeFormat = std::unique_ptr<ExportFormat> (*)(TextSink);
+
+const std::map<std::string, MakeFormat> formats = {
+    {"csv", makeCsvExport}, {"geojson", makeGeoJsonExport}, {"json", makeJsonExport}};
+
+struct ExportOptions {
+    std::string format;
+    bool merge = false;
+    std::string output;
+    PackageOptions packages;
+};
+
+/// The growers of all packages, and what is missing from them.
+class MergedPackages {
+public:
+    void add(std::vector<QenGrower> growers, std::vector<GrowerGaps> gaps) {
+        for (std::size_t i = 0; i < growers.size(); ++i)
+            gaps_[growers[i].id()].merge(std::move(gaps[i]));
+        merged_.add(std::move(growers));
+    }
+
+    std::string write(ExportFormat& format) {
+        std::vector<GrowerGaps> gaps;
+        for (QenGrower& grower : merged_.growers())
+            gaps.push_back(std::move(gaps_[grower.id()]));
+        return format.merged(merged_.growers(), gaps);
+    }
+
+private:
+    MergedGrowers merged_;
+    std::map<boost::uuids::uuid, GrowerGaps> gaps_;
+};
+
+/// Hands a package on, and complains where there is something to say about it.
+void exportPackage(const PackageInput& input, PackageReading& reading, bool merge,
+                   ExportFormat& format, MergedPackages& merged, Console& console) {
+    std::vector<GrowerGaps> gaps = findGaps(input.path(), reading.growers.size());
+    if (merge)
+        merged.add(std::exchange(reading.growers, {}), std::exchange(gaps, {}));
+    const std::string remark = format.package(reading, gaps);
+    if (!remark.empty())
+        console.complain(fmt::format("{}: {}", escape(reading.name), remark));
+}
+
+ExitCode exportPackages(const ExportOptions& options, Console& console) {
+    requireUsable(options.packages, options.output);
+    Output output(options.output, console);
+    const auto format =
+        formats.at(options.format)([&output](std::string_view text) { output.write(text); });
+    MergedPackages merged;
+    ExitCode result = ExitCode::Success;
+    bool anyRead = false;
+    format->begin(options.merge);
+    for (const std::string& file : options.packages.files) {
+        const PackageInput input(file, options.packages);
+        PackageReading reading = readAndComplain(input, "exported", console);
+        if (reading.failure)
+            result = ExitCode::Failure;
+        anyRead = anyRead || !isLost(reading);
+        exportPackage(input, reading, options.merge, *format, merged, console);
+    }
+    if (options.merge) {
+        const std::string remark = merged.write(*format);
+        if (!remark.empty())
+            console.complain(remark);
+    }
+    format->end();
+    output.finish(anyRead);
+    return result;
+}
+
+} // namespace
+
+Command addExport(CLI::App& application) {
+    CLI::App* parser =
+        application.add_subcommand("export", "Write what packages hold as JSON, CSV or GeoJSON")
+            ->group("Commands");
+    const auto options = std::make_shared<ExportOptions>();
+    parser->formatter(std::make_shared<HelpFormatter>(examples));
+    parser->footer(exitCodeHelp);
+    asGiven(parser->add_option("--format", options->format, "json, csv or geojson")
+                ->required()
+                ->option_text("FORMAT")
+                ->transform(CLI::IsMember(&formats, CLI::ignore_case).description("")));
+    parser->add_flag("--merge", options->merge, "Merge the growers of all packages into one tree");
+    addOutputOption(*parser, options->output);
+    addPackageOptions(*parser, options->packages);
+    return {parser, [options](Console& console) { return exportPackages(*options, console); }};
+}

@@ -1,0 +1,81 @@
+#include "tools/commands/Report.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tools/input/InputCheck.h"
+#include "tools/input/PackageInput.h"
+#include "tools/input/PackageReading.h"
+#include "tools/options/CommonOptions.h"
+#include "tools/options/HelpFormatter.h"
+#include "tools/output/Output.h"
+#include "tools/report/ReportData.h"
+#include "tools/report/ReportPage.h"
+
+namespace {
+
+constexpr const char* examples =
+    "  qenxml report -o report.html 00112233-4455-6677-8899-aabbccddeeff.xml\n"
+    "  qenxml report -o season.html season/*.xml      one page about all packages\n";
+
+struct ReportOptions {
+    std::string output;
+    PackageOptions packages;
+};
+
+/// Hands findings on to the report.
+class ReportSink : public FindingSink {
+public:
+    explicit ReportSink(ReportFindings& findings) : findings_(findings) {}
+
+    bool wants(FindingCode code) override { return findings_.count(code); }
+    void add(const Finding& finding) override { findings_.keep(finding); }
+
+private:
+    ReportFindings& findings_;
+};
+
+ReportPackage examine(const PackageInput& input, Console& console) {
+    ReportPackage package;
+    package.reading = readAndComplain(input, "reported", console);
+    ReportSink sink(package.findings);
+    checkInput(input, sink);
+    package.counts = countRecords(package.reading.growers);
+    return package;
+}
+
+ExitCode report(const ReportOptions& options, Console& console) {
+    if (options.output.empty() && console.isTerminal())
+        throw CLI::ValidationError("the page would fill the terminal; name a file for it, such as "
+                                   "\"-o report.html\"");
+    requireUsable(options.packages, options.output);
+    Output output(options.output, console);
+    ExitCode result = ExitCode::Success;
+    bool anyRead = false;
+    std::vector<ReportPackage> packages;
+    for (const std::string& file : options.packages.files) {
+        packages.push_back(examine(PackageInput(file, options.packages), console));
+        if (!isWhole(packages.back()))
+            result = ExitCode::Failure;
+        anyRead = anyRead || isReadable(packages.back());
+    }
+    writeReport(packages, [&output](std::string_view text) { output.write(text); });
+    output.finish(anyRead);
+    return result;
+}
+
+} // namespace
+
+Command addReport(CLI::App& application) {
+    CLI::App* parser =
+        application.add_subcommand("report", "Write a page about packages for a browser")
+            ->group("Commands");
+    const auto options = std::make_shared<ReportOptions>();
+    parser->formatter(std::make_shared<HelpFormatter>(examples));
+    parser->footer(exitCodeHelp);
+    addOutputOption(*parser, options->output);
+    addPackageOptions(*parser, options->packages);
+    return {parser, [options](Console& console) { return report(*options, console); }};
+}

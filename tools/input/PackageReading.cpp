@@ -1,0 +1,96 @@
+#include "tools/input/PackageReading.h"
+
+#include <cstddef>
+#include <exception>
+#include <filesystem>
+#include <new>
+#include <system_error>
+
+#include <boost/uuid/uuid_io.hpp>
+#include <fmt/format.h>
+
+#include "parser/QenXmlParser.h"
+#include "tools/files/PackageUuid.h"
+#include "tools/text/Escape.h"
+
+namespace {
+
+/// Whether there is something at a path that is no file with a content of its own. XML is not read
+/// from such: a named pipe would make the reader wait, a folder ask for all memory.
+bool isSpecial(const std::string& path) {
+    std::error_code ignored;
+    const std::filesystem::file_status status = std::filesystem::status(path, ignored);
+    return std::filesystem::exists(status) && !std::filesystem::is_regular_file(status);
+}
+
+bool parse(QenXmlParser& parser, const std::string& path) {
+    if (isSpecial(path))
+        return false;
+    try {
+        return parser.parseFile(path);
+    } catch (const std::bad_alloc&) {
+        throw;
+    } catch (const std::exception&) {
+        return false; // The diagnosis says more than its text.
+    }
+}
+
+} // namespace
+
+PackageReading readPackage(const PackageInput& input) {
+    PackageReading reading;
+    reading.name = input.name();
+    if (input.failure()) {
+        reading.failure = ReadFailure{*input.failure(), std::nullopt};
+        return reading;
+    }
+    try {
+        reading.uuid = packageUuid(input.path());
+        QenXmlParser parser;
+        const bool complete = parse(parser, input.path());
+        reading.growers = parser.getGrowers();
+        if (!complete)
+            reading.failure = diagnose(input.path());
+    } catch (const std::bad_alloc&) {
+        reading.failure = ReadFailure{"not enough memory", std::nullopt};
+    }
+    return reading;
+}
+
+PackageReading readPackage(const std::string& path) {
+    return readPackage(PackageInput(path));
+}
+
+PackageReading readAndComplain(const PackageInput& input, std::string_view done, Console& console) {
+    PackageReading reading = readPackage(input);
+    if (reading.failure)
+        console.complain(failureMessage(reading, done));
+    else if (!isNamedByUuid(input.path()))
+        console.complain(oddNameMessage(reading, done));
+    return reading;
+}
+
+bool isLost(const PackageReading& reading) {
+    return reading.failure && reading.growers.empty();
+}
+
+std::string failureMessage(const PackageReading& reading, std::string_view done) {
+    const ReadFailure& failure = reading.failure.value();
+    std::string place = escape(reading.name);
+    if (failure.position)
+        place += fmt::format(":{}:{}", failure.position->line, failure.position->column);
+
+    const std::size_t count = reading.growers.size();
+    const std::string consequence =
+        count == 0   ? "the file is skipped"
+        : count == 1 ? fmt::format("the grower before it is {}", done)
+                     : fmt::format("the {} growers before it are {}", count, done);
+    return fmt::format("{}: {}; {}", place, failure.reason, consequence);
+}
+
+std::string oddNameMessage(const PackageReading& reading, std::string_view done) {
+    return fmt::format(
+        "{}: file name without a proper package UUID: a name such as {} is expected; "
+        "the file is {}, its recs carry the UUID {}",
+        escape(reading.name), packageNameForm, done, to_string(reading.uuid.value()));
+}

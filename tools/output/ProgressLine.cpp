@@ -1,0 +1,22 @@
+#include "tools/output/ProgressLine.h"
+
+#include <fmt/format.h>
+
+#include "tools/text/Escape.h"
+
+void ProgressLine::beginFile(const std::string& path) {
+    ++file_;
+    path_ = path;
+    reach(0);
+}
+
+void ProgressLine::reach(double part) {
+    constexpr std::chrono::milliseconds interval(100);
+    constexpr double percent = 100;
+    const Clock::time_point now = Clock::now();
+    if (now < next_)
+        return;
+    next_ = now + interval;
+    console_.showProgress(fmt::format("file {} of {}, {:.0f} % of it: {}", file_, files_,
+                                      part * percent, escapeExcerpt(path_)));
+}

@@ -1,0 +1,223 @@
+#include "tools/text/SourceText.h"
+
+#include <algorithm>
+#include <iterator>
+#include <new>
+#include <string_view>
+#include <utility>
+
+#include "tools/text/Escape.h"
+#include "tools/text/Utf8.h"
+
+namespace {
+
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+/// The encoding that pugixml takes the content of a file for. It does not say so before it has
+/// loaded it.
+pugi::xml_encoding encodingOf(const std::string& bytes) {
+    // The first bytes and the declaration say it, so a large file need not be loaded twice.
+    constexpr std::size_t firstBytes = 64;
+    std::size_t size = firstBytes;
+    if (bytes.compare(0, 5, "<?xml") == 0)
+        size = std::max(size, bytes.find("?>", 5)) + 2;
+    const pugi::xml_parse_result loaded =
+        pugi::xml_document().load_buffer(bytes.data(), std::min(size, bytes.size()));
+    if (loaded.status == pugi::status_out_of_memory)
+        throw std::bad_alloc();
+    return loaded.encoding;
+}
+
+/// One number of @p size bytes.
+char32_t unitAt(const std::string& bytes, std::size_t index, std::size_t size, bool bigEndian) {
+    char32_t unit = 0;
+    for (std::size_t i = 0; i < size; ++i) {
+        const std::size_t place = bigEndian ? i : size - 1 - i;
+        unit = unit << 8U | static_cast<unsigned char>(bytes[index + place]);
+    }
+    return unit;
+}
+
+/// Leaves out what is no character, as pugixml does.
+std::string fromUtf16(const std::string& bytes, bool bigEndian) {
+    std::string text;
+    char32_t lead = 0;
+    for (std::size_t i = 0; i + 2 <= bytes.size(); i += 2) {
+        const char32_t unit = unitAt(bytes, i, 2, bigEndian);
+        if (unit >= 0xD800 && unit <= 0xDBFF) {
+            lead = unit;
+            continue;
+        }
+        if (unit < 0xDC00 || unit > 0xDFFF)
+            appendUtf8(text, unit);
+        else if (lead != 0)
+            appendUtf8(text, 0x10000U + ((lead & 0x3FFU) << 10U | (unit & 0x3FFU)));
+        lead = 0;
+    }
+    return text;
+}
+
+/// Keeps what is no character, as pugixml does: a host may read an identifier with it.
+std::string fromUtf32(const std::string& bytes, bool bigEndian) {
+    std::string text;
+    for (std::size_t i = 0; i + 4 <= bytes.size(); i += 4)
+        appendUtf8(text, unitAt(bytes, i, 4, bigEndian));
+    return text;
+}
+
+std::string fromLatin1(const std::string& bytes) {
+    std::string text;
+    for (const char byte : bytes)
+        appendUtf8(text, static_cast<unsigned char>(byte));
+    return text;
+}
+
+std::string toUtf8(std::string bytes) {
+    switch (encodingOf(bytes)) {
+    case pugi::encoding_utf16_le:
+        return fromUtf16(bytes, false);
+    case pugi::encoding_utf16_be:
+        return fromUtf16(bytes, true);
+    case pugi::encoding_utf32_le:
+        return fromUtf32(bytes, false);
+    case pugi::encoding_utf32_be:
+        return fromUtf32(bytes, true);
+    case pugi::encoding_latin1:
+        return fromLatin1(bytes);
+    default:
+        return bytes;
+    }
+}
+
+/// Where the text begins: behind the byte-order mark.
+std::size_t startOf(std::string_view text) {
+    return text.substr(0, byteOrderMark.size()) == byteOrderMark ? byteOrderMark.size() : 0;
+}
+
+/// Goes on by one character.
+void advance(std::string_view text, std::size_t& offset, Position& position) {
+    const char c = text[offset];
+    const bool ascii = static_cast<unsigned char>(c) < 0x80;
+    offset += ascii ? 1 : firstCharacter(text.substr(offset)).length;
+    const bool firstOfTwo = c == '\r' && offset < text.size() && text[offset] == '\n';
+    if (firstOfTwo)
+        return; // The line feed after it ends the line.
+    if (c == '\n' || c == '\r')
+        position = {position.line + 1, 1};
+    else
+        ++position.column;
+}
+
+bool endsLine(char c) {
+    return c == '\n' || c == '\r';
+}
+
+bool continuesCharacter(char c) {
+    return (static_cast<unsigned char>(c) & 0xC0U) == 0x80;
+}
+
+/// A part of a line, safe to print, with every tab as one space.
+std::string shown(std::string_view text) {
+    std::string spaced(text);
+    std::replace(spaced.begin(), spaced.end(), '\t', ' ');
+    return escape(spaced);
+}
+
+} // namespace
+
+SourceText::SourceText(std::string bytes) : utf8_(toUtf8(std::move(bytes))) {
+    constexpr std::size_t distance = 1024;
+    const std::string_view text = utf8_;
+    std::size_t next = 0;
+    Mark mark{startOf(text), {1, 1}};
+    while (mark.offset < text.size()) {
+        // A line feed is not told from the rest of a line end without what is before it.
+        if (mark.offset >= next && text[mark.offset] != '\n') {
+            marks_.push_back(mark);
+            next = mark.offset + distance;
+        }
+        advance(text, mark.offset, mark.position);
+    }
+}
+
+std::string_view SourceText::declaredEncoding() const {
+    constexpr std::string_view attribute = "encoding";
+    std::string_view text = std::string_view(utf8_).substr(startOf(utf8_));
+    if (text.substr(0, 5) != "<?xml")
+        return {};
+    text = text.substr(0, text.find("?>"));
+    const std::size_t name = text.find(attribute);
+    const std::size_t begin = text.find_first_of("\"'", name);
+    if (name == std::string_view::npos || begin == std::string_view::npos)
+        return {};
+    text.remove_prefix(begin + 1);
+    return text.substr(0, text.find_first_of("\"'"));
+}
+
+pugi::xml_parse_result SourceText::load(pugi::xml_document& document) const {
+    return document.load_buffer(utf8_.data(), utf8_.size(), pugi::parse_default,
+                                pugi::encoding_utf8);
+}
+
+Position SourceText::position(std::size_t offset) const {
+    const std::string_view text = utf8_;
+    const std::string_view before = text.substr(0, characterStart(text, offset));
+    const auto after =
+        std::upper_bound(marks_.begin(), marks_.end(), before.size(),
+                         [](std::size_t wanted, const Mark& mark) { return wanted < mark.offset; });
+    Mark mark = after == marks_.begin() ? Mark{startOf(utf8_), {1, 1}} : *std::prev(after);
+    while (mark.offset < before.size())
+        advance(before, mark.offset, mark.position);
+    return mark.position;
+}
+
+std::size_t SourceText::offset(pugi::xml_node node) const {
+    const auto offset = static_cast<std::size_t>(std::max<std::ptrdiff_t>(node.offset_debug(), 0));
+    if (node.type() == pugi::node_element)
+        return offset - 1; // pugixml points at the name
+    constexpr const char* whiteSpace = " \t\r\n";
+    const bool blank =
+        std::string_view(node.value()).find_first_not_of(whiteSpace) == std::string_view::npos;
+    // A text of white space only stands in a CDATA section, or is written as "&#32;".
+    if (blank && node.type() == pugi::node_cdata)
+        return offset;
+    return std::min(utf8_.find_first_not_of(whiteSpace, offset), utf8_.size());
+}
+
+Excerpt SourceText::excerpt(std::size_t offset) const {
+    constexpr std::size_t width = 100; // bytes shown at most
+    constexpr std::size_t before = 60; // of them before the place
+    constexpr std::string_view more = "...";
+    const std::string_view text = utf8_;
+    offset = characterStart(text, std::clamp(offset, startOf(text), text.size()));
+    std::size_t begin = offset;
+    while (begin > startOf(text) && offset - begin < before && !endsLine(text[begin - 1]))
+        --begin;
+    std::size_t end = offset;
+    while (end < text.size() && end - begin < width && !endsLine(text[end]))
+        ++end;
+    while (begin < offset && continuesCharacter(text[begin]))
+        ++begin;
+    while (end > offset && end < text.size() && continuesCharacter(text[end]))
+        --end;
+
+    const bool cutBefore = begin > startOf(text) && !endsLine(text[begin - 1]);
+    const bool cutAfter = end < text.size() && !endsLine(text[end]);
+    Excerpt excerpt;
+    excerpt.line = (cutBefore ? more : "");
+    excerpt.line += shown(text.substr(begin, offset - begin));
+    for (std::string_view rest = excerpt.line; !rest.empty(); ++excerpt.caret)
+        rest.remove_prefix(firstCharacter(rest).length);
+    excerpt.line += shown(text.substr(offset, end - offset));
+    excerpt.line += (cutAfter ? more : "");
+    return excerpt;
+}
+
+std::size_t nameOffset(pugi::xml_node element, pugi::xml_attribute attribute) {
+    // Names and values stay where they are in the text.
+    return static_cast<std::size_t>(element.offset_debug() + (attribute.name() - element.name()));
+}
+
+std::size_t valueOffset(pugi::xml_node element, pugi::xml_attribute attribute) {
+    return static_cast<std::size_t>(element.offset_debug() + (attribute.value() - element.name()));
+}
