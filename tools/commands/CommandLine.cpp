@@ -35,12 +35,12 @@ constexpr const char* examples = "  qenxml show 00112233-4455-6677-8899-aabbccdd
 std::vector<std::string> knownNames(const CLI::App& application) {
     std::vector<std::string> names;
     const std::vector<CLI::App*> chosen = application.get_subcommands();
-    const CLI::App& place = chosen.empty() ? application : *chosen.front();
-    for (const CLI::Option* option : place.get_options()) {
+    const CLI::App& context = chosen.empty() ? application : *chosen.front();
+    for (const CLI::Option* option : context.get_options()) {
         for (const std::string& name : option->get_lnames())
             names.push_back("--" + name);
     }
-    for (const CLI::App* command : place.get_subcommands([](const CLI::App*) { return true; }))
+    for (const CLI::App* command : context.get_subcommands([](const CLI::App*) { return true; }))
         names.push_back(command->get_name());
     return names;
 }

@@ -10,7 +10,8 @@ struct FileContent {
     std::string failure; ///< In words; empty when there is none.
 };
 
-/// Reads a regular file. Waits for nothing and nobody.
+/// Reads a regular file. Of anything else it does not wait for content: a pipe without a writer
+/// would never give any.
 FileContent readFileContent(const std::string& path);
 
 /// Reads @p size bytes of an open file, or all that there are.

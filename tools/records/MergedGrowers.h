@@ -18,7 +18,7 @@ public:
 
 private:
     std::vector<QenGrower> growers_;
-    std::map<boost::uuids::uuid, std::size_t> places_;
+    std::map<boost::uuids::uuid, std::size_t> indices_;
 };
 
 #endif

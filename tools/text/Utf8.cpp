@@ -23,13 +23,13 @@ Utf8Character firstCharacter(std::string_view text) {
     return {codePoint, length, true};
 }
 
-std::size_t characterStart(std::string_view text, std::size_t place) {
+std::size_t characterStart(std::string_view text, std::size_t offset) {
     constexpr std::size_t longest = 4;
-    for (std::size_t back = 1; back < longest && back <= place && place < text.size(); ++back) {
-        if (firstCharacter(text.substr(place - back)).length > back)
-            return place - back;
+    for (std::size_t back = 1; back < longest && back <= offset && offset < text.size(); ++back) {
+        if (firstCharacter(text.substr(offset - back)).length > back)
+            return offset - back;
     }
-    return place;
+    return offset;
 }
 
 std::string validUtf8(std::string_view text) {

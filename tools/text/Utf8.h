@@ -18,9 +18,9 @@ struct Utf8Character {
 /// @param text not empty
 Utf8Character firstCharacter(std::string_view text);
 
-/// Where the character begins that a place in a text is in: the place itself, unless it is in the
-/// middle of one.
-std::size_t characterStart(std::string_view text, std::size_t place);
+/// Where the character begins to which the byte at an offset belongs: the offset itself, unless it
+/// is in the middle of one.
+std::size_t characterStart(std::string_view text, std::size_t offset);
 
 /// The text with U+FFFD, the replacement character, in the place of each byte that belongs to no
 /// character.
