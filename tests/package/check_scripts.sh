@@ -52,6 +52,31 @@ program apt-get <<<'echo "E: No such package" >&2; exit 100'
 ! install 2>"$work/messages" || fail "succeeds without apt"
 grep -q '^E: No such package' "$work/messages" || fail "does not say why apt fails"
 
+echo "== a test is skipped"
+mkdir -p "$work/tested/build/dev"
+cp -r "$source/scripts" "$work/tested/scripts"
+program dpkg-query <<<'echo installed'
+program cmake <<<':'
+program ctest <<'END'
+while [ "$1" != --output-junit ]; do shift; done
+cp "$WORK/results" "$2"
+END
+cat >"$work/results" <<'END'
+<testsuite tests="3">
+	<testcase name="Some.Passes" status="run"/>
+	<testcase name="Package.IsSkipped" classname="Package.IsSkipped" status="notrun">
+		<skipped message="SKIP_REGULAR_EXPRESSION_MATCHED"/>
+	</testcase>
+	<testcase name="Some.PassesToo" status="run"/>
+</testsuite>
+END
+tests() { "$work/tested/scripts/test" >"$work/output" 2>"$work/messages"; }
+! tests || fail "takes a skipped test for one that passes"
+[ "$(grep -c '^  ' "$work/messages")" = 1 ] || fail "names other tests: $(cat "$work/messages")"
+grep -qx '  Package.IsSkipped' "$work/messages" || fail "does not name the skipped test"
+sed -i '/skipped/d' "$work/results"
+tests || fail "fails although no test was skipped: $(cat "$work/messages")"
+
 echo "== the building of packages is interrupted"
 program dpkg-query <<<'echo installed'
 program dpkg-parsechangelog <<<'echo 1.0.0'
