@@ -1,5 +1,6 @@
 #include "tools/files/TemporaryName.h"
 
+#include <array>
 #include <csignal>
 #include <filesystem>
 #include <stdexcept>
@@ -19,6 +20,15 @@ using test::namesIn;
 namespace {
 
 const std::vector<std::string> nothing;
+const std::array signals = {SIGHUP, SIGINT, SIGQUIT, SIGTERM, SIGXCPU, SIGXFSZ};
+
+/// What starts the tests may have some signals ignored, as nohup and "&" in a script do; a process
+/// keeps that, and such signals do not end it.
+[[maybe_unused]] const bool signalsEndTheProcess = [] {
+    for (const int signal : signals)
+        std::signal(signal, SIG_DFL);
+    return true;
+}();
 
 class TemporaryNames : public testing::Test {
 protected:
@@ -43,7 +53,7 @@ TEST_F(TemporaryNames, GoAwayWithTheirObjects) {
 }
 
 TEST_F(TemporaryNames, GoAwayWhenASignalEndsTheProcess) {
-    for (const int signal : {SIGHUP, SIGINT, SIGQUIT, SIGTERM, SIGXCPU, SIGXFSZ}) {
+    for (const int signal : signals) {
         EXPECT_EXIT(
             {
                 const rlimit none = {}; // no core files
@@ -70,6 +80,23 @@ TEST_F(TemporaryNames, GoAwayWhenTheSignalComesAsSoonAsTheyAreMade) {
         },
         testing::KilledBySignal(SIGTERM), "");
     EXPECT_EQ(namesIn(folder_.path("")), nothing);
+}
+
+TEST_F(TemporaryNames, LeaveTheirRoomToOthers) {
+    EXPECT_EXIT(
+        {
+            TemporaryName last(folder_.path("last"));
+            for (int i = 0; i < 20; ++i) {
+                TemporaryName first(folder_.path("first"));
+                first.make(makeFile);
+                if (i % 2 == 0)
+                    first.release();
+            }
+            last.make(makeFile);
+            raise(SIGTERM);
+        },
+        testing::KilledBySignal(SIGTERM), "");
+    EXPECT_EQ(namesIn(folder_.path("")), std::vector<std::string>{"first"});
 }
 
 TEST_F(TemporaryNames, LeaveAloneWhatOthersHaveMade) {

@@ -4,8 +4,10 @@
 #include <cstdio>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 namespace {
 
@@ -42,6 +44,25 @@ TEST(Console, WritesTheResultsSoFarBeforeAMessage) {
     console.print("two\n");
     console.flush();
     EXPECT_EQ(contentOf(both.get()), "one\nqenxml: went wrong\ntwo\n");
+}
+
+TEST(Console, KeepsNoMessageBack) {
+    const File output(std::tmpfile());
+    const File messages(std::tmpfile()); // has a buffer, as streams have that are no terminals
+    std::string written;
+    const auto newlyWritten = [&messages, &written] {
+        std::string all(1000, '\0');
+        all.resize(
+            static_cast<std::size_t>(pread(fileno(messages.get()), all.data(), all.size(), 0)));
+        return all.substr(std::exchange(written, all).size());
+    };
+    Console console(output.get(), messages.get(), Style(), true);
+    console.complain("went wrong");
+    EXPECT_EQ(newlyWritten(), "qenxml: went wrong\n");
+    console.showProgress("half");
+    EXPECT_EQ(newlyWritten(), "\rhalf\x1b[K");
+    console.clearProgress();
+    EXPECT_EQ(newlyWritten(), "\r\x1b[K");
 }
 
 TEST(Console, RaisesWhatTheSystemSaysWhenTheOutputCannotBeWritten) {

@@ -117,6 +117,27 @@ TEST_P(OutputFileOfAnyKind, TakesANameOfTheLargestLength) {
     EXPECT_EQ(namesIn(path("")), std::vector<std::string>{name});
 }
 
+/// Takes the first names that an output could have until it is whole.
+void takeNames(const test::TemporaryFolder& folder, int number) {
+    for (int i = 0; i < number; ++i)
+        folder.write(".qenxml-" + std::to_string(getpid()) + "-" + std::to_string(i) + ".tmp", "");
+}
+
+TEST_P(OutputFileOfAnyKind, TakesTheFirstOfAHundredNamesThatIsFree) {
+    takeNames(folder_, 99);
+    OutputFile file(path(), GetParam());
+    file.commit();
+    EXPECT_EQ(namesIn(path("")).size(), 100U);
+    takeNames(folder_, 100);
+    try {
+        OutputFile(path("other"), GetParam()).commit();
+        FAIL() << "found a name";
+    } catch (const OutputFileError& error) {
+        EXPECT_EQ(error.what(), path("other") + ": cannot be written: File exists");
+    }
+    EXPECT_EQ(namesIn(path("")).size(), 101U);
+}
+
 TEST_P(OutputFileOfAnyKind, MayBeOneOfTwoInAFolderAtATime) {
     OutputFile one(path("one"), GetParam());
     OutputFile two(path("two"), GetParam());
@@ -173,6 +194,21 @@ TEST(OutputFile, HasNoNameAtAllUntilItIsWhole) {
     EXPECT_EQ(namesIn(folder.path("")).size(), possible ? 0U : 1U);
     file.commit();
     EXPECT_EQ(namesIn(folder.path("")), onlyTheOutput);
+}
+
+TEST(OutputFile, HasTheFirstNameThatIsFreeUntilItIsWhole) {
+    const test::TemporaryFolder folder;
+    const std::string name = ".qenxml-" + std::to_string(getpid()) + "-";
+    const OutputFile one(folder.path("one"), FileKind::Named);
+    const OutputFile two(folder.path("two"), FileKind::Named);
+    EXPECT_EQ(namesIn(folder.path("")), (std::vector<std::string>{name + "0.tmp", name + "1.tmp"}));
+}
+
+TEST(OutputFile, IsNobodyElsesUntilItReplacesAnother) {
+    const test::TemporaryFolder folder;
+    folder.write("out", "old");
+    const OutputFile file(folder.path("out"), FileKind::Named);
+    EXPECT_EQ(modeOf(folder.path(namesIn(folder.path("")).front())) & 077U, 0U);
 }
 
 TEST(OutputFile, CreatesWhatADanglingLinkLeadsTo) {

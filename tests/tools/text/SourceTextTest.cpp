@@ -122,6 +122,16 @@ TEST(SourceText, ConvertsEveryCharacterOfUtf16AndUtf32) {
     }
 }
 
+TEST(SourceText, LeavesOutWhatIsLessThanACharacterAtTheEnd) {
+    for (const bool bigEndian : {false, true}) {
+        const std::string text16 = utf16(u"<a/>", bigEndian);
+        const std::string text32 = utf32(U"<a/>", bigEndian);
+        EXPECT_EQ(SourceText(text16 + "x").text(), "<a/>");
+        for (const std::string rest : {"x", "xy", "xyz"})
+            EXPECT_EQ(SourceText(text32 + rest).text(), "<a/>") << rest;
+    }
+}
+
 TEST(SourceText, KnowsTheEncodingFromADeclarationOfAnyLength) {
     const std::string declaration =
         "<?xml version='1.0'" + std::string(200, ' ') + "encoding='iso-8859-1'?>";
