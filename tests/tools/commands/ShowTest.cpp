@@ -1,6 +1,5 @@
 // Runs the built command and compares all that it writes.
 
-#include <chrono>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -389,17 +388,6 @@ TEST_F(Show, RemarksThatAFileIsNotNamedByAUuid) {
                   "00112233-4455-6677-8899-aabbccddeeff.xml is expected; the file is shown, its "
                   "recs carry the UUID fefdffff-ffff-ffff-ffff-f202ffffffff\n");
     EXPECT_EQ(result.exitCode, 0);
-}
-
-TEST_F(Show, MergesManyGrowersWithoutSearchingThemAll) {
-    std::string package = "<RecPackage>";
-    for (unsigned i = 0; i < 60'000; ++i)
-        package += "<Grower GrowerID='" + to_string(test::uuid(i)) + "'/>";
-    folder_.write(nameA, package + "</RecPackage>");
-    const auto start = std::chrono::steady_clock::now();
-    EXPECT_EQ(show({"--merge", nameA, nameA}).exitCode, 0);
-    // It took half a minute when each grower was compared with all others.
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(15));
 }
 
 } // namespace
