@@ -19,6 +19,7 @@ namespace {
 using test::uuid;
 
 const std::string name = "00112233-4455-6677-8899-aabbccddeeff";
+const std::string nowhere = "/dev/null/"; // where no file can be
 
 /// The UUID that a parser took from its last path: every rec that it reads carries it.
 boost::uuids::uuid takenBy(QenXmlParser& parser) {
@@ -70,7 +71,7 @@ TEST(PackageName, IsNilBeforeTheFirstFile) {
 TEST(PackageName, IsThatOfTheFileThatWasReadLast) {
     QenXmlParser parser;
     for (const unsigned number : {1U, 2U, 1U}) {
-        EXPECT_FALSE(parser.parseFile("/nowhere/" + test::uuidText(number) + ".xml"));
+        EXPECT_FALSE(parser.parseFile(nowhere + test::uuidText(number) + ".xml"));
         EXPECT_EQ(uuid(number), takenBy(parser));
     }
 }
@@ -78,12 +79,12 @@ TEST(PackageName, IsThatOfTheFileThatWasReadLast) {
 TEST(PackageName, MayBeFollowedByAnyFourCharacters) {
     for (const std::string last : {".xml", ".XML", "....", "abcd", "-000", "}   "}) {
         SCOPED_TRACE(last);
-        EXPECT_EQ(uuid(name), takenFrom("/nowhere/" + name + last));
+        EXPECT_EQ(uuid(name), takenFrom(std::string(nowhere).append(name).append(last)));
     }
 }
 
 TEST(PackageName, MayBePrecededByAnything) {
-    for (const std::string before : {"/nowhere/", "", "package-", "{", "0"}) {
+    for (const std::string& before : std::vector<std::string>{nowhere, "", "package-", "{", "0"}) {
         SCOPED_TRACE(before);
         EXPECT_EQ(uuid(name), takenFrom(before + name + ".xml"));
     }
@@ -99,27 +100,26 @@ TEST(PackageName, MayBeTheNameOfAFolder) {
 
 TEST(PackageName, MayBeCutBySlashesThatCountAsDigits) {
     EXPECT_EQ(uuid("00112233-f445-5667-7889-9aabbccddeef"),
-              takenFrom("nowhere/00112233/445566778899aabbccddeeff123.xml"));
+              takenFrom(nowhere + "00112233/445566778899aabbccddeeff123.xml"));
 }
 
 TEST(PackageName, BeforeALongerExtensionStartsOneCharacterLate) {
-    EXPECT_EQ(uuid("011223ff-4455-f667-ff88-99faabbccdde"),
-              takenFrom("/nowhere/" + name + ".json"));
+    EXPECT_EQ(uuid("011223ff-4455-f667-ff88-99faabbccdde"), takenFrom(nowhere + name + ".json"));
 }
 
 TEST(PackageName, OfOtherCharactersIsTakenAsDigitsThatAreNone) {
     EXPECT_EQ(uuid("ffffffff-ffff-ffff-ffff-ffffffffffff"),
-              takenFrom("/nowhere/" + std::string(36, 'z') + ".xml"));
+              takenFrom(nowhere + std::string(36, 'z') + ".xml"));
 }
 
 TEST(PackageName, WithoutHyphensOrInBracesIsTakenAsWell) {
-    EXPECT_EQ(uuid(name), takenFrom("/nowhere/00112233445566778899AABBCCDDEEFF-001.xml"));
-    EXPECT_EQ(uuid(name), takenFrom("/nowhere/{00112233445566778899aabbccddeeff}--.xml"));
+    EXPECT_EQ(uuid(name), takenFrom(nowhere + "00112233445566778899AABBCCDDEEFF-001.xml"));
+    EXPECT_EQ(uuid(name), takenFrom(nowhere + "{00112233445566778899aabbccddeeff}--.xml"));
 }
 
 TEST(PackageName, EndsAfterItsThirtySixCharacters) {
     // The last digit and the closing brace belong to the last four characters and are not seen.
-    EXPECT_EQ("invalid uuid string", messageFor("/nowhere/{" + name + "}.x"));
+    EXPECT_EQ("invalid uuid string", messageFor(nowhere + "{" + name + "}.x"));
 }
 
 TEST(PackageName, WithHyphensInOtherPlacesRaisesAlthoughTheFileIsFine) {
@@ -131,8 +131,8 @@ TEST(PackageName, WithHyphensInOtherPlacesRaisesAlthoughTheFileIsFine) {
 
 TEST(PackageName, ThatIsNotTakenLeavesTheLastOne) {
     QenXmlParser parser;
-    parser.parseFile("/nowhere/" + name + ".xml");
-    EXPECT_THROW(parser.parseFile("/nowhere/ffffffff-ffffffff-ffff-ffffffffffff-.xml"),
+    parser.parseFile(nowhere + name + ".xml");
+    EXPECT_THROW(parser.parseFile(nowhere + "ffffffff-ffffffff-ffff-ffffffffffff-.xml"),
                  std::runtime_error);
     EXPECT_EQ(uuid(name), takenBy(parser));
     EXPECT_THROW(parser.parseFile("a.xml"), std::out_of_range);
@@ -152,7 +152,6 @@ TEST(PackageName, OfAPathThatIsTooShortRaises) {
 }
 
 TEST(PackageName, MayHoldAnyCharacterAtAnyPosition) {
-    const std::string folder = "/nowhere/";
     const std::string digits = "0123456789abcdeffedcba9876543210....";
     const auto text = [](const boost::uuids::uuid& id) { return to_string(id); };
     const std::string hexadecimal = "0123456789abcdefABCDEF";
@@ -161,8 +160,8 @@ TEST(PackageName, MayHoldAnyCharacterAtAnyPosition) {
             const char c = static_cast<char>(character);
             if ((c == '{' && position == 0) || (c == '-' && position == 8))
                 continue; // They are not read as digits there.
-            std::string path = folder + digits + ".xml";
-            path[folder.size() + position] = c;
+            std::string path = nowhere + digits + ".xml";
+            path[nowhere.size() + position] = c;
 
             // Hyphens of the canonical text stand after the digits 8, 12, 16 and 20.
             std::string wanted = "01234567-89ab-cdef-fedc-ba9876543210";

@@ -37,7 +37,7 @@ TEST(RaisedErrors, ABrokenIdentifierInAPackageIsCaughtAsEachOfItsTypes) {
 
 TEST(RaisedErrors, ABrokenPackageNameIsCaughtAsEachOfItsTypes) {
     expectInvalidIdentifier(
-        [] { QenXmlParser().parseFile("/nowhere/ffffffff-ffffffff-ffff-ffffffffffff-.xml"); });
+        [] { QenXmlParser().parseFile("/dev/null/ffffffff-ffffffff-ffff-ffffffffffff-.xml"); });
 }
 
 TEST(RaisedErrors, ABrokenElementIsCaughtAsEachOfItsTypes) {

@@ -17,6 +17,8 @@
 #include <termios.h>
 #include <unistd.h>
 
+#include "tests/support/TemporaryFolder.h"
+
 namespace test {
 
 namespace {
@@ -130,6 +132,9 @@ std::vector<char*> pointers(std::vector<std::string>& texts) {
 } // namespace
 
 RunResult runCommand(const std::vector<std::string>& arguments, const RunOptions& options) {
+    // Whatever is in the folders of this machine, a test finds nothing that it has not made.
+    const TemporaryFolder empty;
+    const std::string folder = options.folder.empty() ? empty.path("") : options.folder;
     Channel output = openOutput(options.output);
     Channel errors = openPipe();
     require(output.writer.number() >= 0, "output");
@@ -137,7 +142,7 @@ RunResult runCommand(const std::vector<std::string>& arguments, const RunOptions
     const bool together = options.output == Output::SameAsErrors;
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addchdir_np(&actions, options.folder.c_str());
+    posix_spawn_file_actions_addchdir_np(&actions, folder.c_str());
     posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, options.input.c_str(), O_RDONLY, 0);
     posix_spawn_file_actions_adddup2(
         &actions, together ? errors.writer.number() : output.writer.number(), STDOUT_FILENO);

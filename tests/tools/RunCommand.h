@@ -22,7 +22,7 @@ enum class Output {
 };
 
 struct RunOptions {
-    std::string folder = "/";             ///< Current folder of the command.
+    std::string folder;                   ///< Current folder of the command; none for an empty one.
     std::vector<std::string> environment; ///< Its whole environment, as NAME=VALUE.
     std::string input = "/dev/null";      ///< The file that is its standard input.
     Output output = Output::File;
