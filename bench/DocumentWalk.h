@@ -11,7 +11,7 @@
 
 #include "bench/PlainElements.h"
 
-namespace bench::plain {
+namespace plain {
 
 /// @tparam Element what an XML library's element looks like to the walk: name(), text(),
 ///         forEachAttribute(visit(name, value)), firstChild() and nextSibling(), which are false
@@ -115,17 +115,16 @@ private:
     static void readProduct(Element element, Rec& rec) {
         if (is(element, tag::CommercialFertilizer))
             readChildren(element, commercialFertilizerChildren,
-                         newProduct(rec.commercialFertilizer, rec.id));
+                         newProduct<CommercialFertilizer>(rec));
         else if (is(element, tag::CustomFertilizer))
-            readChildren(element, customFertilizerChildren,
-                         newProduct(rec.customFertilizer, rec.id));
+            readChildren(element, customFertilizerChildren, newProduct<CustomFertilizer>(rec));
         else if (is(element, tag::Planting))
-            readChildren(element, plantingChildren, newProduct(rec.planting, rec.id));
+            readChildren(element, plantingChildren, newProduct<Planting>(rec));
     }
 
     boost::uuids::uuid package_;
 };
 
-} // namespace bench::plain
+} // namespace plain
 
 #endif

@@ -26,7 +26,7 @@ struct PugixmlElement {
 
 struct DocumentAndGrowers {
     pugi::xml_document document;
-    std::vector<bench::plain::Grower> growers;
+    std::vector<plain::Grower> growers;
 };
 
 } // namespace

@@ -2,14 +2,15 @@
 
 #include <cstddef>
 #include <stdexcept>
+#include <string>
 #include <vector>
 
 #include <benchmark/benchmark.h>
 
 #include "bench/LookUps.h"
 #include "bench/Operations.h"
-#include "bench/PackageFile.h"
 #include "bench/PackageGenerator.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace {
 
@@ -17,8 +18,9 @@ void lookUp(benchmark::State& state, const bench::LookUp& lookUp) {
     bench::PackageShape shape;
     shape.recsPerField = static_cast<std::size_t>(state.range(0));
     shape.bytes = 2500 * shape.recsPerField; // More than a field takes: it has all its recs.
-    const bench::PackageFile file(bench::generatePackage(shape));
-    std::vector<QenGrower> growers = bench::growersOf(file.path());
+    const test::TemporaryFolder folder;
+    const std::string file = folder.writePackage(bench::generatePackage(shape));
+    std::vector<QenGrower> growers = bench::growersOf(file);
     QenField& field = growers.at(0).farms().at(0).fields().at(0);
     std::vector<QenRec>& recs = field.recs();
     if (recs.size() != shape.recsPerField)

@@ -8,8 +8,8 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/Operations.h"
-#include "bench/PackageFile.h"
 #include "bench/PackageGenerator.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace {
 
@@ -17,10 +17,11 @@ namespace {
 void measure(benchmark::State& state, const std::string& operationName) {
     bench::PackageShape shape;
     shape.bytes = static_cast<std::size_t>(state.range(0));
-    const bench::PackageFile first(bench::generatePackage(shape));
+    const std::string otherUuid = "11112233-4455-6677-8899-aabbccddeeff";
+    const test::TemporaryFolder folder;
+    std::vector<std::string> files = {folder.writePackage(bench::generatePackage(shape))};
     shape.firstField = shape.fieldsPerFarm / 2;
-    const bench::PackageFile second(bench::generatePackage(shape));
-    const std::vector<std::string> files = {first.path(), second.path()};
+    files.push_back(folder.writePackage(bench::generatePackage(shape), otherUuid));
     for (auto _ : state)
         state.SetIterationTime(bench::secondsOf(bench::operationNamed(operationName, files)));
 }

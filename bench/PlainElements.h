@@ -13,10 +13,10 @@
 #include <cstring>
 #include <string>
 
-#include "bench/PlainTree.h"
 #include "parser/internal/TagConstants.h"
+#include "tests/support/PlainTree.h"
 
-namespace bench::plain {
+namespace plain {
 
 /// Value of a hexadecimal digit by its character; 0 for all others.
 inline constexpr std::array<std::uint8_t, 256> digitValues = [] {
@@ -83,6 +83,12 @@ void readInto(Record& record, const char* text) {
     read(record.*MemberPointer, text);
 }
 
+/// A package has one geometry per field.
+template <auto MemberPointer>
+void readIntoGeometry(Field& field, const char* text) {
+    read(field.geometries.front().*MemberPointer, text);
+}
+
 namespace tag = qenxml::tag;
 
 inline constexpr std::array growerAttributes = {
@@ -99,13 +105,13 @@ inline constexpr std::array fieldAttributes = {Member<Field>{tag::FieldID, readI
 
 inline constexpr std::array fieldChildren = {
     Member<Field>{tag::FieldName, readInto<&Field::name>},
-    Member<Field>{tag::FieldGeometryID, readInto<&Field::geometryId>},
-    Member<Field>{tag::FieldGeometryDate, readInto<&Field::geometryDate>},
-    Member<Field>{tag::FieldGeometry, readInto<&Field::geometryFile>}};
+    Member<Field>{tag::FieldGeometryID, readIntoGeometry<&Geometry::id>},
+    Member<Field>{tag::FieldGeometryDate, readIntoGeometry<&Geometry::date>},
+    Member<Field>{tag::FieldGeometry, readIntoGeometry<&Geometry::file>}};
 
 inline constexpr std::array centroidChildren = {
-    Member<Field>{tag::Latitude, readInto<&Field::latitude>},
-    Member<Field>{tag::Longitude, readInto<&Field::longitude>}};
+    Member<Field>{tag::Latitude, readIntoGeometry<&Geometry::latitude>},
+    Member<Field>{tag::Longitude, readIntoGeometry<&Geometry::longitude>}};
 
 inline constexpr std::array recAttributes = {Member<Rec>{tag::RecID, readInto<&Rec::id>},
                                              Member<Rec>{tag::MgmtZoneID, readInto<&Rec::zoneId>}};
@@ -180,11 +186,11 @@ inline constexpr std::array plantingChildren = {
     Member<Planting>{tag::UOM, readInto<&Planting::uom>}};
 
 /// Gives a rec empty product data.
-template <class Product>
-Product& newProduct(std::unique_ptr<Product>& product, const boost::uuids::uuid& recId) {
-    product = std::make_unique<Product>();
-    product->recId = recId;
-    return *product;
+template <class Kind>
+Kind& newProduct(Rec& rec) {
+    Kind& product = rec.product.emplace<Kind>();
+    product.recId = rec.id;
+    return product;
 }
 
 // New children carry what they take over from those around them.
@@ -199,13 +205,14 @@ inline Field& newField(Farm& farm) {
     Field& field = farm.fields.emplace_back();
     field.growerId = farm.growerId;
     field.farmId = farm.id;
+    field.geometries.emplace_back();
     return field;
 }
 
 inline Rec& newRec(Field& field, const boost::uuids::uuid& package) {
     Rec& rec = field.recs.emplace_back();
     rec.fieldId = field.id;
-    rec.fieldGeometryId = field.geometryId;
+    rec.fieldGeometryId = field.geometries.front().id;
     rec.package = package;
     return rec;
 }
@@ -219,6 +226,6 @@ inline boost::uuids::uuid packageOf(const std::string& path) {
     return package;
 }
 
-} // namespace bench::plain
+} // namespace plain
 
 #endif

@@ -8,9 +8,9 @@
 #include <malloc.h>
 
 #include "bench/Operations.h"
-#include "bench/PackageFile.h"
 #include "bench/PackageGenerator.h"
 #include "bench/Readers.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace {
 
@@ -18,8 +18,9 @@ constexpr std::size_t small = 43'000;
 
 void read(benchmark::State& state, const std::string& operationName) {
     const auto bytes = static_cast<std::size_t>(state.range(0));
-    const bench::PackageFile file(bench::generatePackage(bytes));
-    const bench::Operation operation = bench::operationNamed(operationName, {file.path()});
+    const test::TemporaryFolder folder;
+    const std::string file = folder.writePackage(bench::generatePackage(bytes));
+    const bench::Operation operation = bench::operationNamed(operationName, {file});
     for (auto _ : state) {
         // A small package is read again and again in the same memory, a large one once in new
         // memory, as by a host.

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "bench/PlainTree.h"
+#include "tests/support/PlainTree.h"
 
 namespace bench {
 

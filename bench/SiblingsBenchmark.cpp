@@ -12,7 +12,7 @@
 #include <malloc.h>
 
 #include "bench/Operations.h"
-#include "bench/PackageFile.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace {
 
@@ -56,8 +56,9 @@ void measure(benchmark::State& state, const char* operationName, const Item& ite
     std::string items;
     for (std::uint64_t i = 1; i <= children; ++i)
         items += item(i);
-    const bench::PackageFile file(around(items));
-    const bench::Operation operation = bench::operationNamed(operationName, {file.path()});
+    const test::TemporaryFolder folder;
+    const std::string file = folder.writePackage(around(items));
+    const bench::Operation operation = bench::operationNamed(operationName, {file});
     for (auto _ : state) {
         // Otherwise short lists would find memory that the reading before them had left, long ones
         // not: the allocator gives large amounts back. A host reads a package once, in new memory.

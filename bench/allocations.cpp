@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "bench/Operations.h"
-#include "tests/robustness/counting/CountedMemory.h"
+#include "tests/support/WatchedMemory.h"
 
 namespace {
 
@@ -40,7 +40,7 @@ int main(int argc, char** argv) {
     try {
         const std::vector<std::string> both(argv + 1, argv + argc);
         const std::vector<std::string> first = {both.at(0)};
-        const test::CountedXmlMemory xml;
+        const test::WatchedXmlMemory xml;
         std::printf("{");
         for (const char* operation : {"load", "parse", "copy"}) {
             count(operation, first);

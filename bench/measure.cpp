@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <fstream>
 #include <map>
 #include <memory>
 #include <stdexcept>
@@ -14,7 +15,6 @@
 
 #include "bench/LookUps.h"
 #include "bench/Operations.h"
-#include "bench/PackageFile.h"
 #include "bench/PackageGenerator.h"
 #include "bench/Readers.h"
 
@@ -50,7 +50,10 @@ void generate(const Arguments& arguments) {
         shape.firstField = std::stoul(arguments[2]);
     if (arguments.size() > 3)
         shape.seed = std::stoul(arguments[3]);
-    bench::writeFile(arguments[0], bench::generatePackage(shape));
+    std::ofstream file(arguments[0], std::ios::binary);
+    file << bench::generatePackage(shape);
+    if (!file.flush())
+        throw std::runtime_error("cannot write " + arguments[0]);
 }
 
 void timeRepeatedly(const Arguments& arguments) {
@@ -91,8 +94,9 @@ void listReaders(const Arguments& /*arguments*/) {
 /// Every reader has to read what the library reads.
 void verify(const Arguments& arguments) {
     const std::string& path = arguments.at(0);
-    const std::vector<bench::plain::Grower> expected =
-        bench::plain::fromLibrary(bench::growersOf(path));
+    std::vector<plain::Grower> expected;
+    for (const QenGrower& grower : bench::growersOf(path))
+        expected.push_back(plain::fromLibrary(grower));
     if (expected.empty())
         throw std::runtime_error("nothing was read");
     for (const bench::Reader& reader : bench::readers()) {

@@ -8,9 +8,9 @@
 #include <optional>
 #include <string>
 
-#include "fuzz/PackageFile.h"
 #include "fuzz/Require.h"
 #include "parser/QenXmlParser.h"
+#include "tests/support/TemporaryFolder.h"
 #include "tools/check/PackageCheck.h"
 #include "tools/text/Escape.h"
 
@@ -51,16 +51,16 @@ bool isInOrder(const std::optional<Position>& earlier, const std::optional<Posit
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const PackageFile file;
-    file.write(data, size);
+    static const auto folder = test::TemporaryFolder::inMemory();
+    const std::string path = folder.writePackage({reinterpret_cast<const char*>(data), size});
     bool hasError = false;
     std::optional<Position> last;
-    for (const Finding& finding : checkPackage(file.path())) {
+    for (const Finding& finding : checkPackage(path)) {
         requireSense(finding);
         require(isInOrder(last, finding.position), "findings come in the order of their places");
         last = finding.position;
         hasError = hasError || finding.severity == Severity::Error;
     }
-    require(hasError != canRead(file.path()), "errors are found in what cannot be read, only");
+    require(hasError != canRead(path), "errors are found in what cannot be read, only");
     return 0;
 }

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "fuzz/Require.h"
-#include "tests/support/PlainTree.h"
+#include "tests/support/MergeModel.h"
 
 namespace {
 
@@ -31,31 +31,31 @@ std::string name(Bytes& bytes) {
     return std::string(1, static_cast<char>('a' + bytes.below(26)));
 }
 
-test::plain::Field field(Bytes& bytes) {
-    test::plain::Field field;
+plain::Field field(Bytes& bytes) {
+    plain::Field field;
     field.id = identifier(bytes);
     field.growerId = identifier(bytes);
     field.farmId = identifier(bytes);
     field.name = name(bytes);
     for (unsigned i = bytes.below(4); i > 0; --i) {
-        test::plain::Geometry geometry;
+        plain::Geometry geometry;
         geometry.id = identifier(bytes);
         geometry.date = name(bytes);
         field.geometries.push_back(geometry);
     }
     for (unsigned i = bytes.below(4); i > 0; --i) {
-        test::plain::Rec rec;
+        plain::Rec rec;
         rec.id = identifier(bytes);
         rec.name = name(bytes);
         if (bytes.below(2) == 1)
-            rec.cropId = static_cast<int>(bytes.below(256));
+            rec.product.emplace<plain::Planting>().cropId = static_cast<int>(bytes.below(256));
         field.recs.push_back(rec);
     }
     return field;
 }
 
-test::plain::Farm farm(Bytes& bytes) {
-    test::plain::Farm farm;
+plain::Farm farm(Bytes& bytes) {
+    plain::Farm farm;
     farm.id = identifier(bytes);
     farm.growerId = identifier(bytes);
     farm.name = name(bytes);
@@ -64,8 +64,8 @@ test::plain::Farm farm(Bytes& bytes) {
     return farm;
 }
 
-test::plain::Grower grower(Bytes& bytes) {
-    test::plain::Grower grower;
+plain::Grower grower(Bytes& bytes) {
+    plain::Grower grower;
     grower.id = identifier(bytes);
     grower.name = name(bytes);
     for (unsigned i = bytes.below(4); i > 0; --i)
@@ -75,12 +75,12 @@ test::plain::Grower grower(Bytes& bytes) {
 
 template <class Record>
 void compare(const Record& record, const Record& other) {
-    auto merged = test::plain::toLibrary(record);
-    auto argument = test::plain::toLibrary(other);
+    auto merged = plain::toLibrary(record);
+    auto argument = plain::toLibrary(other);
     merged.merge(argument);
-    require(test::plain::fromLibrary(merged) == test::plain::merged(record, other),
+    require(plain::fromLibrary(merged) == plain::merged(record, other),
             "the merged tree is that of the model");
-    require(test::plain::fromLibrary(argument) == other, "the argument is as before");
+    require(plain::fromLibrary(argument) == other, "the argument is as before");
 }
 
 } // namespace
@@ -89,17 +89,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Bytes bytes(data, size);
     switch (bytes.below(3)) {
     case 0: {
-        const test::plain::Grower record = grower(bytes);
+        const plain::Grower record = grower(bytes);
         compare(record, grower(bytes));
         break;
     }
     case 1: {
-        const test::plain::Farm record = farm(bytes);
+        const plain::Farm record = farm(bytes);
         compare(record, farm(bytes));
         break;
     }
     default: {
-        const test::plain::Field record = field(bytes);
+        const plain::Field record = field(bytes);
         compare(record, field(bytes));
         break;
     }

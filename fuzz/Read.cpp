@@ -7,10 +7,10 @@
 #include <string_view>
 #include <vector>
 
-#include "fuzz/PackageFile.h"
 #include "fuzz/Require.h"
 #include "parser/QenXmlParser.h"
 #include "tests/support/Describe.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace {
 
@@ -27,11 +27,11 @@ std::string read(QenXmlParser& parser, const std::string& path) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const PackageFile file;
-    file.write(data, size);
+    static const auto folder = test::TemporaryFolder::inMemory();
+    const std::string path = folder.writePackage({reinterpret_cast<const char*>(data), size});
 
     QenXmlParser parser;
-    const std::string outcome = read(parser, file.path());
+    const std::string outcome = read(parser, path);
     std::vector<QenGrower> growers = parser.getGrowers();
     const std::string content = test::describe(growers);
     require(outcome != "not read" || growers.empty(), "nothing comes from a file that is not read");
@@ -43,7 +43,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(test::describe(merged) == test::describe(grower), "merging with itself");
     }
 
-    require(read(parser, file.path()) == outcome, "a second reading ends as the first");
+    require(read(parser, path) == outcome, "a second reading ends as the first");
     std::vector<QenGrower> both = parser.getGrowers();
     require(both.size() == 2 * growers.size(), "the second reading adds as many growers");
     for (std::size_t i = 0; i < growers.size(); ++i) {

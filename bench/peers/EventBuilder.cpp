@@ -4,7 +4,7 @@
 
 #include "bench/PlainElements.h"
 
-namespace bench::plain {
+namespace plain {
 
 void EventBuilder::open(const char* name) {
     const Level level = opened(name);
@@ -69,14 +69,14 @@ EventBuilder::Level EventBuilder::openedInRec(const char* name) const {
 EventBuilder::Level EventBuilder::openedInData(const char* name) {
     const std::string_view element = name;
     if (element == tag::CommercialFertilizer) {
-        newProduct(rec().commercialFertilizer, rec().id);
+        newProduct<CommercialFertilizer>(rec());
         return Level::CommercialFertilizer;
     }
     if (element == tag::CustomFertilizer) {
-        newProduct(rec().customFertilizer, rec().id);
+        newProduct<CustomFertilizer>(rec());
         return Level::CustomFertilizer;
     }
-    newProduct(rec().planting, rec().id);
+    newProduct<Planting>(rec());
     return Level::Planting;
 }
 
@@ -120,15 +120,15 @@ void EventBuilder::value(const char* name) {
     case Level::Statistics:
         return readMember(statisticsChildren, next_, rec(), name, text);
     case Level::CommercialFertilizer:
-        return readMember(commercialFertilizerChildren, next_, *rec().commercialFertilizer, name,
-                          text);
+        return readMember(commercialFertilizerChildren, next_, product<CommercialFertilizer>(),
+                          name, text);
     case Level::CustomFertilizer:
-        return readMember(customFertilizerChildren, next_, *rec().customFertilizer, name, text);
+        return readMember(customFertilizerChildren, next_, product<CustomFertilizer>(), name, text);
     case Level::Planting:
-        return readMember(plantingChildren, next_, *rec().planting, name, text);
+        return readMember(plantingChildren, next_, product<Planting>(), name, text);
     default:
         return;
     }
 }
 
-} // namespace bench::plain
+} // namespace plain

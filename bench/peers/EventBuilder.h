@@ -7,11 +7,12 @@
 #include <cstddef>
 #include <string>
 #include <utility>
+#include <variant>
 #include <vector>
 
-#include "bench/PlainTree.h"
+#include "tests/support/PlainTree.h"
 
-namespace bench::plain {
+namespace plain {
 
 class EventBuilder {
 public:
@@ -55,6 +56,11 @@ private:
     Field& field() { return farm().fields.back(); }
     Rec& rec() { return field().recs.back(); }
 
+    template <class Kind>
+    Kind& product() {
+        return std::get<Kind>(rec().product);
+    }
+
     boost::uuids::uuid package_;
     std::vector<Grower> growers_;
     std::vector<Level> levels_ = {Level::Document};
@@ -62,6 +68,6 @@ private:
     std::size_t next_ = 0; ///< Where the next value of a level is looked for first.
 };
 
-} // namespace bench::plain
+} // namespace plain
 
 #endif

@@ -10,7 +10,7 @@
 
 namespace {
 
-using bench::plain::EventBuilder;
+using plain::EventBuilder;
 
 void onStart(void* builder, const XML_Char* name, const XML_Char** attributes) {
     auto& events = *static_cast<EventBuilder*>(builder);

@@ -8,7 +8,7 @@
 
 namespace {
 
-using bench::plain::EventBuilder;
+using plain::EventBuilder;
 
 const char* characters(const xmlChar* text) {
     return reinterpret_cast<const char*>(text);

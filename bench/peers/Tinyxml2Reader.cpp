@@ -30,7 +30,7 @@ struct Tinyxml2Element {
 
 struct DocumentAndGrowers {
     tinyxml2::XMLDocument document;
-    std::vector<bench::plain::Grower> growers;
+    std::vector<plain::Grower> growers;
 };
 
 } // namespace

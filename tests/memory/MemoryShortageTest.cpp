@@ -14,10 +14,10 @@
 #include <unistd.h>
 
 #include "tests/robustness/NumberPackage.h"
-#include "tests/robustness/WatchedMemory.h"
 #include "tests/support/FileFacts.h"
 #include "tests/support/PackageText.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/WatchedMemory.h"
 #include "tools/commands/CommandLine.h"
 #include "tools/input/InputCopy.h"
 #include "tools/output/OutputFile.h"

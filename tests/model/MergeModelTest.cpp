@@ -6,20 +6,31 @@
 #include <set>
 #include <sstream>
 #include <string>
+#include <variant>
 
 #include <gtest/gtest.h>
 #include <rapidcheck.h>
 
 #include "tests/support/Describe.h"
-#include "tests/support/PlainTree.h"
+#include "tests/support/MergeModel.h"
 #include "tests/support/Uuids.h"
+
+namespace plain {
+
+/// How RapidCheck shows the values of a counterexample.
+template <class Record>
+auto operator<<(std::ostream& out, const Record& record)
+    -> decltype(out << test::describe(toLibrary(record))) {
+    return out << test::describe(toLibrary(record));
+}
+
+} // namespace plain
 
 namespace {
 
 using boost::uuids::uuid;
+using plain::fromLibrary;
 using test::describe;
-using test::plain::fromLibrary;
-namespace plain = test::plain;
 
 /// Checks a property on so many random cases. RC_PARAMS asks for more, or sets the seed.
 template <class Testable>
@@ -47,8 +58,8 @@ rc::Gen<uuid> anId() {
 rc::Gen<plain::Rec> aRec() {
     return rc::gen::build<plain::Rec>(
         rc::gen::set(&plain::Rec::id, anId()),
-        rc::gen::set(&plain::Rec::cropId,
-                     rc::gen::element(std::optional<int>(), std::optional<int>(0))));
+        rc::gen::set(&plain::Rec::product,
+                     rc::gen::element(plain::Product(), plain::Product(plain::Planting()))));
 }
 
 rc::Gen<plain::Geometry> aGeometry() {
@@ -86,8 +97,8 @@ public:
         rec.name = label();
         rec.editDate = label();
         rec.averageRate = number_;
-        if (rec.cropId)
-            rec.cropId = static_cast<int>(number_);
+        if (auto* const planting = std::get_if<plain::Planting>(&rec.product))
+            planting->cropId = static_cast<int>(number_);
     }
 
     void operator()(plain::Geometry& geometry) {

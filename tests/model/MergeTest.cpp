@@ -9,9 +9,9 @@
 
 #include "model/PlantingRec.h"
 #include "model/QenGrower.h"
-#include "tests/model/Allocations.h"
 #include "tests/support/Describe.h"
 #include "tests/support/Uuids.h"
+#include "tests/support/WatchedMemory.h"
 
 namespace {
 
@@ -91,9 +91,9 @@ void mergeShortOfMemory(const Record& here, const Record& there,
     const string unchanged = describe(there);
     std::size_t state = 0;
     bool failed = true;
-    for (long successes = 0; failed; ++successes) {
+    for (std::size_t successes = 0; failed; ++successes) {
         SCOPED_TRACE(successes);
-        const long before = test::livingBlocks();
+        const test::LivingMemory before = test::livingMemory();
         {
             Record record = here;
             failed = test::runsOutOfMemory(successes, [&] { record.merge(there); });
@@ -101,7 +101,7 @@ void mergeShortOfMemory(const Record& here, const Record& there,
                 ++state;
             ASSERT_LT(state, states.size()) << describe(record);
         }
-        EXPECT_EQ(test::livingBlocks(), before);
+        EXPECT_EQ(test::livingMemory(), before);
     }
     EXPECT_EQ(state, states.size() - 1);
     EXPECT_EQ(describe(there), unchanged);
@@ -489,7 +489,7 @@ TEST(MergeOfGrowers, LeavesTheOtherGrowerAlone) {
 }
 
 TEST(Merge, ReleasesEverythingThatItReplaces) {
-    const long before = test::livingBlocks();
+    const test::LivingMemory before = test::livingMemory();
     {
         QenGrower here = growerHere();
         here.merge(growerThere());
@@ -498,7 +498,7 @@ TEST(Merge, ReleasesEverythingThatItReplaces) {
         here.farms()[0].merge(here.farms()[1]);
         here.farms()[1].fields()[0].merge(fieldThere());
     }
-    EXPECT_EQ(test::livingBlocks(), before);
+    EXPECT_EQ(test::livingMemory(), before);
 }
 
 TEST(MergeOfFields, WithoutMemoryKeepsWhatWasAddedSoFar) {

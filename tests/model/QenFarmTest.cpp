@@ -5,10 +5,10 @@
 #include <gtest/gtest.h>
 
 #include "model/PlantingRec.h"
-#include "tests/model/Allocations.h"
 #include "tests/support/Describe.h"
 #include "tests/support/Signatures.h"
 #include "tests/support/Uuids.h"
+#include "tests/support/WatchedMemory.h"
 
 namespace {
 
@@ -178,13 +178,13 @@ TEST(QenFarm, ReplacingAFieldReleasesTheEarlierOne) {
     QenFarm farm = threeFields();
     const QenField replacement = field(12, "second");
     farm.addField(replacement);
-    const long before = test::livingBlocks();
+    const test::LivingMemory before = test::livingMemory();
     farm.addField(replacement);
-    EXPECT_EQ(test::livingBlocks(), before);
+    EXPECT_EQ(test::livingMemory(), before);
 }
 
 TEST(QenFarm, AssignmentReplacesEverythingAndReleasesTheEarlierFields) {
-    const long before = test::livingBlocks();
+    const test::LivingMemory before = test::livingMemory();
     {
         QenFarm source("source", test::uuid(21), test::uuid(22));
         source.addField(field(23, "field"));
@@ -198,7 +198,7 @@ TEST(QenFarm, AssignmentReplacesEverythingAndReleasesTheEarlierFields) {
         target = source; // element by element
         target.fields() = QenFarm(source).fields();
     }
-    EXPECT_EQ(test::livingBlocks(), before);
+    EXPECT_EQ(test::livingMemory(), before);
 }
 
 TEST(QenFarm, ACopyIsIndependent) {
@@ -219,13 +219,13 @@ TEST(QenFarm, WithoutMemoryForAFieldItsListDoesNotChange) {
         const QenField added = field(id, string(100, 'x'));
         QenFarm farm = threeFields();
         const string unchanged = describe(farm);
-        const long before = test::livingBlocks();
-        long successes = 0;
+        const test::LivingMemory before = test::livingMemory();
+        std::size_t successes = 0;
         while (test::runsOutOfMemory(successes, [&] { farm.addField(added); })) {
-            EXPECT_EQ(test::livingBlocks(), before);
+            EXPECT_EQ(test::livingMemory(), before);
             EXPECT_EQ(describe(farm), unchanged);
             ++successes;
         }
-        EXPECT_GE(successes, 5);
+        EXPECT_GE(successes, 5U);
     }
 }

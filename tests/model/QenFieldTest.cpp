@@ -7,10 +7,10 @@
 #include <gtest/gtest.h>
 
 #include "model/PlantingRec.h"
-#include "tests/model/Allocations.h"
 #include "tests/support/Describe.h"
 #include "tests/support/Signatures.h"
 #include "tests/support/Uuids.h"
+#include "tests/support/WatchedMemory.h"
 
 namespace {
 
@@ -456,7 +456,7 @@ TEST(QenField, SelfAssignmentChangesNothing) {
 }
 
 TEST(QenField, AssignmentReleasesTheRecsHeldBefore) {
-    const long before = test::livingBlocks();
+    const test::LivingMemory before = test::livingMemory();
     {
         QenField source;
         source.addRec(makeRec(1, "rec", 11));
@@ -466,7 +466,7 @@ TEST(QenField, AssignmentReleasesTheRecsHeldBefore) {
         target = source;
         target = QenField(source);
     }
-    EXPECT_EQ(test::livingBlocks(), before);
+    EXPECT_EQ(test::livingMemory(), before);
 }
 
 TEST(QenField, WithoutMemoryForAnAssignmentNothingChanges) {
@@ -475,13 +475,13 @@ TEST(QenField, WithoutMemoryForAnAssignmentNothingChanges) {
     QenField target;
     target.addRec(makeRec(2, "earlier", 12));
     const string unchanged = describe(target);
-    const long before = test::livingBlocks();
-    long successes = 0;
+    const test::LivingMemory before = test::livingMemory();
+    std::size_t successes = 0;
     while (test::runsOutOfMemory(successes, [&] { target = source; })) {
-        EXPECT_EQ(test::livingBlocks(), before);
+        EXPECT_EQ(test::livingMemory(), before);
         EXPECT_EQ(describe(target), unchanged);
         ++successes;
     }
     EXPECT_EQ(describe(target), describe(source));
-    EXPECT_GE(successes, 3);
+    EXPECT_GE(successes, 3U);
 }

@@ -5,10 +5,10 @@
 #include <gtest/gtest.h>
 
 #include "model/PlantingRec.h"
-#include "tests/model/Allocations.h"
 #include "tests/support/Describe.h"
 #include "tests/support/Signatures.h"
 #include "tests/support/Uuids.h"
+#include "tests/support/WatchedMemory.h"
 
 namespace {
 
@@ -174,13 +174,13 @@ TEST(QenGrower, ReplacingAFarmReleasesTheEarlierOne) {
     QenGrower grower = threeFarms();
     const QenFarm replacement = farm(12, "second");
     grower.addFarm(replacement);
-    const long before = test::livingBlocks();
+    const test::LivingMemory before = test::livingMemory();
     grower.addFarm(replacement);
-    EXPECT_EQ(test::livingBlocks(), before);
+    EXPECT_EQ(test::livingMemory(), before);
 }
 
 TEST(QenGrower, AssignmentReplacesEverythingAndReleasesTheEarlierFarms) {
-    const long before = test::livingBlocks();
+    const test::LivingMemory before = test::livingMemory();
     {
         QenGrower source("source", test::uuid(21));
         source.addFarm(farm(22, "farm"));
@@ -196,7 +196,7 @@ TEST(QenGrower, AssignmentReplacesEverythingAndReleasesTheEarlierFarms) {
         growers = {source, source};
         growers.erase(growers.begin());
     }
-    EXPECT_EQ(test::livingBlocks(), before);
+    EXPECT_EQ(test::livingMemory(), before);
 }
 
 TEST(QenGrower, ACopyIsIndependent) {
@@ -218,13 +218,13 @@ TEST(QenGrower, WithoutMemoryForAFarmItsListDoesNotChange) {
         const QenFarm added = farm(id, string(100, 'x'));
         QenGrower grower = threeFarms();
         const string unchanged = describe(grower);
-        const long before = test::livingBlocks();
-        long successes = 0;
+        const test::LivingMemory before = test::livingMemory();
+        std::size_t successes = 0;
         while (test::runsOutOfMemory(successes, [&] { grower.addFarm(added); })) {
-            EXPECT_EQ(test::livingBlocks(), before);
+            EXPECT_EQ(test::livingMemory(), before);
             EXPECT_EQ(describe(grower), unchanged);
             ++successes;
         }
-        EXPECT_GE(successes, 5);
+        EXPECT_GE(successes, 5U);
     }
 }

@@ -8,11 +8,11 @@
 #include "model/CustomFertilizerRec.h"
 #include "model/PesticideRec.h"
 #include "model/PlantingRec.h"
-#include "tests/model/Allocations.h"
 #include "tests/support/Describe.h"
 #include "tests/support/Property.h"
 #include "tests/support/Signatures.h"
 #include "tests/support/Uuids.h"
+#include "tests/support/WatchedMemory.h"
 
 namespace {
 
@@ -600,13 +600,13 @@ TEST(QenRec, TheCopysKindDecidesAndNotItsClass) {
 }
 
 TEST(QenRec, CopiesLeaveNothingBehind) {
-    const long before = test::livingBlocks();
+    const test::LivingMemory before = test::livingMemory();
     {
         const QenRec rec = wholeRec(planting());
         const QenRec copy(rec);
         const QenRec copyOfCopy(copy);
     }
-    EXPECT_EQ(test::livingBlocks(), before);
+    EXPECT_EQ(test::livingMemory(), before);
 }
 
 TEST(QenRec, WithoutMemoryForProductDataTheTargetKeepsItsOwnAndHasTheSourcesOtherValues) {
@@ -631,10 +631,10 @@ TEST(QenRec, RunningOutOfMemoryAnywhereLeavesTheTargetItsProductDataAndLeaksNoth
         new PlantingRec(test::uuid(1), 2, longText, 3, longText, 4, longText, 5, longText));
     source.setName(longText);
     source.setAreaUom(longText);
-    long successes = 0;
+    std::size_t successes = 0;
     for (;; ++successes) {
         SCOPED_TRACE(successes);
-        const long before = test::livingBlocks();
+        const test::LivingMemory before = test::livingMemory();
         {
             QenRec target = wholeRec(planting(5));
             const std::unique_ptr<QenRecData> earlier(target.recData());
@@ -644,9 +644,9 @@ TEST(QenRec, RunningOutOfMemoryAnywhereLeavesTheTargetItsProductDataAndLeaksNoth
             EXPECT_EQ(target.recData(), earlier.get());
             target.setRecData(nullptr); // The test deletes it.
         }
-        EXPECT_EQ(test::livingBlocks(), before);
+        EXPECT_EQ(test::livingMemory(), before);
     }
-    EXPECT_GE(successes, 5) << "the object, its texts and those of the rec";
+    EXPECT_GE(successes, 5U) << "the object, its texts and those of the rec";
 }
 
 TEST(QenRec, RunningOutOfMemoryWhileCopyingLeaksNothing) {
@@ -655,14 +655,14 @@ TEST(QenRec, RunningOutOfMemoryWhileCopyingLeaksNothing) {
         test::uuid(21), {PesticideByPercent(1, longText, 2, longText, Herbicide, 12.5)},
         {PesticideByAmount(5, longText, 6, longText, Carrier, 3.5, 7, longText)}, longText, 22,
         longText));
-    long successes = 0;
+    std::size_t successes = 0;
     for (;; ++successes) {
         SCOPED_TRACE(successes);
-        const long before = test::livingBlocks();
+        const test::LivingMemory before = test::livingMemory();
         const bool failed = test::runsOutOfMemory(successes, [&] { const QenRec copy(source); });
-        EXPECT_EQ(test::livingBlocks(), before);
+        EXPECT_EQ(test::livingMemory(), before);
         if (!failed)
             break;
     }
-    EXPECT_GE(successes, 5);
+    EXPECT_GE(successes, 5U);
 }

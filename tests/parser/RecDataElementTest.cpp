@@ -175,8 +175,7 @@ TEST(RecDataElement, IsReadWithTheIdentifierOfItsRecFromAFile) {
                              recWith(36, "text" + planting);
     const test::TemporaryFolder folder;
     QenXmlParser parser;
-    parser.parseFile(folder.writePackage(test::package(
-        test::grower(1, test::farm(11, test::field(21, test::recommendations(recs)))))));
+    parser.parseFile(folder.writePackage(test::packageWithRecs(recs)));
     std::vector<QenGrower> growers = parser.getGrowers();
     std::vector<std::string> kinds;
     for (QenRec& rec : growers.at(0).farms().at(0).fields().at(0).recs()) {

@@ -72,8 +72,7 @@ void expectReadAsTheXmlLibraryReadsIt(const std::string& content) {
     const test::TemporaryFolder folder;
     QenXmlParser parser;
     const std::string rec = recWith(content);
-    ASSERT_TRUE(parser.parseFile(folder.writePackage(test::package(
-        test::grower(1, test::farm(11, test::field(21, test::recommendations(rec))))))));
+    ASSERT_TRUE(parser.parseFile(folder.writePackage(test::packageWithRecs(rec))));
     QenRec read = parser.getGrowers().at(0).farms().at(0).fields().at(0).recs().at(0);
     const test::Xml xml(rec);
     for (const Value& value : values) {

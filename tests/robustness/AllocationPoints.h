@@ -8,7 +8,7 @@
 #include <functional>
 #include <string>
 
-#include "tests/robustness/WatchedMemory.h"
+#include "tests/support/WatchedMemory.h"
 
 namespace test {
 

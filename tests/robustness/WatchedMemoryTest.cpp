@@ -1,6 +1,6 @@
 // The watch itself: that it sees the library's allocations, and that it can fail.
 
-#include "tests/robustness/WatchedMemory.h"
+#include "tests/support/WatchedMemory.h"
 
 #include <cstddef>
 #include <memory>

@@ -58,6 +58,11 @@ inline std::string package(const std::string& growers = "") {
     return element("RecPackage", growers);
 }
 
+/// A package with one grower, farm and field.
+inline std::string packageWithRecs(const std::string& recs) {
+    return package(grower(1, farm(11, field(21, recommendations(recs)))));
+}
+
 } // namespace test
 
 #endif

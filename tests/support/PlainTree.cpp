@@ -1,38 +1,89 @@
 #include "tests/support/PlainTree.h"
 
-#include <ostream>
-#include <set>
+#include <cstdint>
+#include <cstring>
+#include <stdexcept>
 #include <tuple>
 
+#include "model/CommercialFertilizerRec.h"
+#include "model/CustomFertilizerRec.h"
 #include "model/PlantingRec.h"
-#include "tests/support/Describe.h"
 
-namespace test::plain {
+namespace plain {
 
 namespace {
 
+std::uint64_t bits(double number) {
+    std::uint64_t result = 0;
+    static_assert(sizeof result == sizeof number);
+    std::memcpy(&result, &number, sizeof result);
+    return result;
+}
+
+template <class... Numbers>
+auto bitsOf(Numbers... numbers) {
+    return std::make_tuple(bits(numbers)...);
+}
+
+auto content(const CommercialFertilizer& product) {
+    return std::tie(product.recId, product.productId, product.productName, product.uomId,
+                    product.uom);
+}
+
+auto content(const CustomFertilizer& product) {
+    return std::tuple_cat(std::tie(product.recId, product.productId, product.productName,
+                                   product.uomId, product.uom, product.typeId),
+                          bitsOf(product.gravity, product.n, product.p, product.k, product.ca,
+                                 product.mg, product.s, product.fe, product.mn, product.zn,
+                                 product.cu, product.b, product.mo, product.cl));
+}
+
+auto content(const Planting& product) {
+    return std::tie(product.recId, product.cropId, product.cropName, product.companyId,
+                    product.companyName, product.varietyId, product.varietyName, product.uomId,
+                    product.uom);
+}
+
 auto content(const Rec& rec) {
-    return std::tie(rec.id, rec.name, rec.editDate, rec.averageRate, rec.cropId);
+    return std::tuple_cat(
+        std::tie(rec.fieldId, rec.fieldGeometryId, rec.name, rec.id, rec.geometry, rec.creationDate,
+                 rec.editDate, rec.dbfCol, rec.operationName, rec.operationId, rec.seasonName,
+                 rec.seasonId, rec.zoneId, rec.rateUomId, rec.rateUom, rec.totalUomId, rec.totalUom,
+                 rec.areaUomId, rec.areaUom, rec.isUsed, rec.package, rec.product),
+        bitsOf(rec.minimumRate, rec.maximumRate, rec.averageRate, rec.total, rec.area));
 }
 
 auto content(const Geometry& geometry) {
-    return std::tie(geometry.id, geometry.date, geometry.file, geometry.latitude);
+    return std::tuple_cat(std::tie(geometry.id, geometry.date, geometry.file),
+                          bitsOf(geometry.latitude, geometry.longitude, geometry.altitude));
 }
 
 auto content(const Field& field) {
-    return std::tie(field.id, field.growerId, field.farmId, field.name, field.geometries,
+    return std::tie(field.name, field.id, field.growerId, field.farmId, field.geometries,
                     field.recs);
 }
 
 auto content(const Farm& farm) {
-    return std::tie(farm.id, farm.growerId, farm.name, farm.fields);
+    return std::tie(farm.name, farm.id, farm.growerId, farm.fields);
 }
 
 auto content(const Grower& grower) {
-    return std::tie(grower.id, grower.name, grower.farms);
+    return std::tie(grower.name, grower.id, grower.farms);
 }
 
 } // namespace
+
+bool operator==(const CommercialFertilizer& left, const CommercialFertilizer& right) {
+    return content(left) == content(right);
+}
+
+bool operator==(const CustomFertilizer& left, const CustomFertilizer& right) {
+    return content(left) == content(right);
+}
+
+bool operator==(const Planting& left, const Planting& right) {
+    return content(left) == content(right);
+}
 
 bool operator==(const Rec& left, const Rec& right) {
     return content(left) == content(right);
@@ -54,133 +105,40 @@ bool operator==(const Grower& left, const Grower& right) {
     return content(left) == content(right);
 }
 
-std::ostream& operator<<(std::ostream& out, const Field& field) {
-    return out << describe(toLibrary(field));
-}
-
-std::ostream& operator<<(std::ostream& out, const Farm& farm) {
-    return out << describe(toLibrary(farm));
-}
-
-std::ostream& operator<<(std::ostream& out, const Grower& grower) {
-    return out << describe(toLibrary(grower));
-}
-
-// Merging. Everything is said in terms of the versions of one record, all with the same identifier,
-// from the oldest to the newest: the one that is present, if any, and then the incoming ones. The
-// newest absorbs the older ones.
-
 namespace {
 
-/// The elements of @p own, duplicates included, then the first of each new id in @p other.
-template <class Element>
-std::vector<Element> joined(std::vector<Element> own, const std::vector<Element>& other) {
-    std::set<boost::uuids::uuid> ids;
-    for (const Element& element : own)
-        ids.insert(element.id);
-    for (const Element& element : other) {
-        if (ids.insert(element.id).second)
-            own.push_back(element);
+/// Makes product data, which the rec that it is given to owns.
+struct ProductDataMaker {
+    QenRecData* operator()(std::monostate) const { return nullptr; }
+
+    QenRecData* operator()(const CommercialFertilizer& from) const {
+        return new CommercialFertilizerRec(from.recId, from.productId, from.productName, from.uomId,
+                                           from.uom);
     }
-    return own;
-}
 
-/// The newest field's name and identifiers, and the recs and geometries of all, the newest first.
-Field absorbed(const std::vector<Field>& versions) {
-    Field result = versions.back();
-    for (auto version = versions.rbegin() + 1; version != versions.rend(); ++version) {
-        result.recs = joined(result.recs, version->recs);
-        result.geometries = joined(result.geometries, version->geometries);
+    QenRecData* operator()(const CustomFertilizer& from) const {
+        return new CustomFertilizerRec(from.recId, from.productId, from.productName, from.uomId,
+                                       from.uom, from.typeId, from.gravity, from.n, from.p, from.k,
+                                       from.ca, from.mg, from.s, from.fe, from.mn, from.zn, from.cu,
+                                       from.b, from.mo, from.cl);
     }
-    return result;
-}
 
-template <class Child>
-std::vector<Child> mergedChildren(const std::vector<Child>& present,
-                                  const std::vector<Child>& incoming);
-
-/// The newest farm, to whose fields those of the older versions come in.
-Farm absorbed(const std::vector<Farm>& versions) {
-    Farm result = versions.back();
-    if (versions.size() > 1) {
-        const Farm older = absorbed(std::vector<Farm>(versions.begin(), versions.end() - 1));
-        result.fields = mergedChildren(result.fields, older.fields);
+    QenRecData* operator()(const Planting& from) const {
+        return new PlantingRec(from.recId, from.cropId, from.cropName, from.companyId,
+                               from.companyName, from.varietyId, from.varietyName, from.uomId,
+                               from.uom);
     }
-    return result;
-}
-
-/// The present children in their order, the first of each id together with all incoming versions of
-/// it, a further one alone; then the incoming ones with new ids, in the order of their first
-/// versions.
-template <class Child>
-std::vector<Child> mergedChildren(const std::vector<Child>& present,
-                                  const std::vector<Child>& incoming) {
-    const auto withIncoming = [&](std::vector<Child> versions, const boost::uuids::uuid& id) {
-        for (const Child& child : incoming) {
-            if (child.id == id)
-                versions.push_back(child);
-        }
-        return absorbed(versions);
-    };
-    std::vector<Child> result;
-    std::set<boost::uuids::uuid> ids;
-    for (const Child& child : present)
-        result.push_back(ids.insert(child.id).second ? withIncoming({child}, child.id) : child);
-    for (const Child& child : incoming) {
-        if (ids.insert(child.id).second)
-            result.push_back(withIncoming({}, child.id));
-    }
-    return result;
-}
-
-} // namespace
-
-Field merged(const Field& record, const Field& other) {
-    return record.id == other.id ? absorbed(std::vector<Field>{other, record}) : record;
-}
-
-Farm merged(const Farm& record, const Farm& other) {
-    Farm result = record;
-    if (record.id == other.id)
-        result.fields = mergedChildren(record.fields, other.fields);
-    return result;
-}
-
-Grower merged(const Grower& record, const Grower& other) {
-    Grower result = record;
-    if (record.id == other.id)
-        result.farms = mergedChildren(record.farms, other.farms);
-    return result;
-}
-
-namespace {
+};
 
 QenRec toLibrary(const Rec& rec) {
-    QenRec result;
-    result.setId(rec.id);
-    result.setName(rec.name);
+    QenRec result(rec.fieldId, rec.fieldGeometryId, rec.name, rec.id, rec.geometry,
+                  rec.creationDate, rec.dbfCol, rec.operationName, rec.operationId, rec.seasonName,
+                  rec.seasonId, rec.zoneId, std::visit(ProductDataMaker(), rec.product),
+                  rec.minimumRate, rec.maximumRate, rec.averageRate, rec.rateUom, rec.rateUomId,
+                  rec.total, rec.totalUomId, rec.totalUom, rec.area, rec.areaUomId, rec.areaUom,
+                  rec.isUsed, rec.package);
     result.setEditDate(rec.editDate);
-    result.setAverageRate(rec.averageRate);
-    if (rec.cropId)
-        result.setRecData(new PlantingRec(rec.id, *rec.cropId, "crop", 0, "", 0, "", 0, ""));
     return result;
-}
-
-QenFieldGeometry toLibrary(const Geometry& geometry) {
-    return QenFieldGeometry(geometry.id, geometry.date, geometry.file,
-                            LLA{geometry.latitude, 0.0, 0.0});
-}
-
-Rec fromLibrary(QenRec& rec) {
-    Rec result{rec.id(), rec.name(), rec.editDate(), rec.averageRate(), std::nullopt};
-    if (rec.recData() != nullptr && rec.recData()->recType() == RecTypePlanting)
-        result.cropId = static_cast<PlantingRec*>(rec.recData())->cropId();
-    return result;
-}
-
-Geometry fromLibrary(QenFieldGeometry& geometry) {
-    return {geometry.geometryId(), geometry.geometryDate(), geometry.geometry(),
-            geometry.centroid().latitude};
 }
 
 } // namespace
@@ -188,7 +146,9 @@ Geometry fromLibrary(QenFieldGeometry& geometry) {
 QenField toLibrary(const Field& field) {
     QenField result(field.name, field.id, field.growerId, field.farmId);
     for (const Geometry& geometry : field.geometries)
-        result.addFieldGeometry(toLibrary(geometry));
+        result.addFieldGeometry(
+            QenFieldGeometry(geometry.id, geometry.date, geometry.file,
+                             LLA{geometry.latitude, geometry.longitude, geometry.altitude}));
     for (const Rec& rec : field.recs)
         result.recs().push_back(toLibrary(rec));
     return result;
@@ -208,8 +168,69 @@ QenGrower toLibrary(const Grower& grower) {
     return result;
 }
 
+namespace {
+
+CommercialFertilizer fromLibrary(CommercialFertilizerRec& product) {
+    return {product.recId(), product.productId(), product.productName(), product.uomId(),
+            product.uom()};
+}
+
+CustomFertilizer fromLibrary(CustomFertilizerRec& product) {
+    return {product.recId(),  product.productId(), product.productName(), product.uomId(),
+            product.uom(),    product.sFertT_ID(), product.spGravity(),   product.pct_N(),
+            product.pct_P(),  product.pct_K(),     product.pct_Ca(),      product.pct_Mg(),
+            product.pct_S(),  product.pct_Fe(),    product.pct_Mn(),      product.pct_Zn(),
+            product.pct_Cu(), product.pct_B(),     product.pct_Mo(),      product.pct_Cl()};
+}
+
+Planting fromLibrary(PlantingRec& product) {
+    return {product.recId(),       product.cropId(),      product.cropName(),
+            product.companyId(),   product.companyName(), product.varietyId(),
+            product.varietyName(), product.uomId(),       product.uom()};
+}
+
+Product fromLibrary(QenRecData* product) {
+    if (product == nullptr)
+        return {};
+    switch (product->recType()) {
+    case RecTypeCommercialFertilizer:
+        return fromLibrary(static_cast<CommercialFertilizerRec&>(*product));
+    case RecTypeCustomFertilizer:
+        return fromLibrary(static_cast<CustomFertilizerRec&>(*product));
+    case RecTypePlanting:
+        return fromLibrary(static_cast<PlantingRec&>(*product));
+    default:
+        throw std::runtime_error("product data of an unexpected kind");
+    }
+}
+
+Rec fromLibrary(QenRec& rec) {
+    return {rec.fieldId(),       rec.fieldGeometryId(),
+            rec.name(),          rec.id(),
+            rec.recGeometry(),   rec.creationDate(),
+            rec.editDate(),      rec.recDbfCol(),
+            rec.operationName(), rec.operationId(),
+            rec.seasonName(),    rec.seasonId(),
+            rec.mgmtZoneId(),    fromLibrary(rec.recData()),
+            rec.minimumRate(),   rec.maximumRate(),
+            rec.averageRate(),   rec.rateUomId(),
+            rec.rateUom(),       rec.total(),
+            rec.totalUomId(),    rec.totalUom(),
+            rec.area(),          rec.areaUomId(),
+            rec.areaUom(),       rec.isUsed(),
+            rec.xmlFileName()};
+}
+
+Geometry fromLibrary(QenFieldGeometry& geometry) {
+    const LLA centroid = geometry.centroid();
+    return {geometry.geometryId(), geometry.geometryDate(), geometry.geometry(),
+            centroid.latitude,     centroid.longitude,      centroid.altitude};
+}
+
+} // namespace
+
 Field fromLibrary(QenField field) {
-    Field result{field.id(), field.growerId(), field.farmId(), field.name(), {}, {}};
+    Field result{field.name(), field.id(), field.growerId(), field.farmId(), {}, {}};
     for (QenFieldGeometry& geometry : field.geometries())
         result.geometries.push_back(fromLibrary(geometry));
     for (QenRec& rec : field.recs())
@@ -218,17 +239,17 @@ Field fromLibrary(QenField field) {
 }
 
 Farm fromLibrary(QenFarm farm) {
-    Farm result{farm.id(), farm.growerId(), farm.name(), {}};
+    Farm result{farm.name(), farm.id(), farm.growerId(), {}};
     for (const QenField& field : farm.fields())
         result.fields.push_back(fromLibrary(field));
     return result;
 }
 
 Grower fromLibrary(QenGrower grower) {
-    Grower result{grower.id(), grower.name(), {}};
+    Grower result{grower.name(), grower.id(), {}};
     for (const QenFarm& farm : grower.farms())
         result.farms.push_back(fromLibrary(farm));
     return result;
 }
 
-} // namespace test::plain
+} // namespace plain

@@ -1,29 +1,82 @@
 /// @file
-/// The record tree as plain structs, with a model of merging that is independent of the library's:
-/// it puts together, list by list, what a merged tree consists of, instead of adding child after
-/// child.
+/// The record tree as plain structs: what tests make random trees of, what readers other than the
+/// library's read into, and what tells whether two of them are the same.
 
 #ifndef QENXML_TESTS_SUPPORT_PLAINTREE_H
 #define QENXML_TESTS_SUPPORT_PLAINTREE_H
 
-#include <iosfwd>
-#include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include <boost/uuid/uuid.hpp>
 
 #include "model/QenGrower.h"
 
-namespace test::plain {
+namespace plain {
 
-/// Of a rec, what tells two versions of it apart.
+struct CommercialFertilizer {
+    boost::uuids::uuid recId{};
+    int productId = 0;
+    std::string productName;
+    int uomId = 0;
+    std::string uom;
+};
+
+struct CustomFertilizer {
+    boost::uuids::uuid recId{};
+    boost::uuids::uuid productId{};
+    std::string productName;
+    int uomId = 0;
+    std::string uom;
+    int typeId = 0;
+    double gravity = 0.0;
+    double n = 0.0, p = 0.0, k = 0.0, ca = 0.0, mg = 0.0, s = 0.0, fe = 0.0, mn = 0.0, zn = 0.0,
+           cu = 0.0, b = 0.0, mo = 0.0, cl = 0.0;
+};
+
+struct Planting {
+    boost::uuids::uuid recId{};
+    int cropId = 0;
+    std::string cropName;
+    int companyId = 0;
+    std::string companyName;
+    int varietyId = 0;
+    std::string varietyName;
+    int uomId = 0;
+    std::string uom;
+};
+
+using Product = std::variant<std::monostate, CommercialFertilizer, CustomFertilizer, Planting>;
+
 struct Rec {
-    boost::uuids::uuid id{};
+    boost::uuids::uuid fieldId{};
+    boost::uuids::uuid fieldGeometryId{};
     std::string name;
+    boost::uuids::uuid id{};
+    boost::uuids::uuid geometry{};
+    std::string creationDate;
     std::string editDate;
+    std::string dbfCol;
+    std::string operationName;
+    boost::uuids::uuid operationId{};
+    std::string seasonName;
+    int seasonId = -1;
+    boost::uuids::uuid zoneId{};
+    Product product;
+    double minimumRate = 0.0;
+    double maximumRate = 0.0;
     double averageRate = 0.0;
-    std::optional<int> cropId; ///< Of its product data, if that is a planting.
+    int rateUomId = 0;
+    std::string rateUom;
+    double total = 0.0;
+    int totalUomId = 0;
+    std::string totalUom;
+    double area = 0.0;
+    int areaUomId = 0;
+    std::string areaUom;
+    bool isUsed = false;
+    boost::uuids::uuid package{};
 };
 
 struct Geometry {
@@ -31,44 +84,41 @@ struct Geometry {
     std::string date;
     boost::uuids::uuid file{};
     double latitude = 0.0;
+    double longitude = 0.0;
+    double altitude = 0.0;
 };
 
 struct Field {
+    std::string name;
     boost::uuids::uuid id{};
     boost::uuids::uuid growerId{};
     boost::uuids::uuid farmId{};
-    std::string name;
     std::vector<Geometry> geometries;
     std::vector<Rec> recs;
 };
 
 struct Farm {
+    std::string name;
     boost::uuids::uuid id{};
     boost::uuids::uuid growerId{};
-    std::string name;
     std::vector<Field> fields;
 };
 
 struct Grower {
-    boost::uuids::uuid id{};
     std::string name;
+    boost::uuids::uuid id{};
     std::vector<Farm> farms;
 };
 
+// Everything is compared, doubles bit for bit.
+bool operator==(const CommercialFertilizer& left, const CommercialFertilizer& right);
+bool operator==(const CustomFertilizer& left, const CustomFertilizer& right);
+bool operator==(const Planting& left, const Planting& right);
 bool operator==(const Rec& left, const Rec& right);
 bool operator==(const Geometry& left, const Geometry& right);
 bool operator==(const Field& left, const Field& right);
 bool operator==(const Farm& left, const Farm& right);
 bool operator==(const Grower& left, const Grower& right);
-
-std::ostream& operator<<(std::ostream& out, const Field& field);
-std::ostream& operator<<(std::ostream& out, const Farm& farm);
-std::ostream& operator<<(std::ostream& out, const Grower& grower);
-
-/// What @p record is after `record.merge(other)`.
-Field merged(const Field& record, const Field& other);
-Farm merged(const Farm& record, const Farm& other);
-Grower merged(const Grower& record, const Grower& other);
 
 // The lists are filled directly, so children with the same identifier all get into the tree.
 QenField toLibrary(const Field& field);
@@ -76,10 +126,11 @@ QenFarm toLibrary(const Farm& farm);
 QenGrower toLibrary(const Grower& grower);
 
 // Taken by value, because most accessors are not const members.
+/// @throws std::runtime_error for product data of another kind
 Field fromLibrary(QenField field);
 Farm fromLibrary(QenFarm farm);
 Grower fromLibrary(QenGrower grower);
 
-} // namespace test::plain
+} // namespace plain
 
 #endif

@@ -1,5 +1,5 @@
 /// @file
-/// A folder for the files of one test.
+/// A folder for the files of one test, measurement or fuzz target.
 
 #ifndef QENXML_TESTS_SUPPORT_TEMPORARYFOLDER_H
 #define QENXML_TESTS_SUPPORT_TEMPORARYFOLDER_H
@@ -11,16 +11,25 @@
 #include <string>
 #include <string_view>
 
+#include <unistd.h>
+
 namespace test {
 
-/// A new folder, deleted with everything in it at the end of the test.
+/// A new folder, deleted with everything in it at the end of its life.
 class TemporaryFolder {
 public:
-    TemporaryFolder() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "qenxml-XXXXXX").string();
+    explicit TemporaryFolder(
+        const std::filesystem::path& parent = std::filesystem::temp_directory_path()) {
+        std::string pattern = (parent / "qenxml-XXXXXX").string();
         if (mkdtemp(pattern.data()) == nullptr)
             throw std::runtime_error("no temporary folder: " + pattern);
         path_ = pattern;
+    }
+
+    /// Where files are written fastest: in memory, if the system has such a folder.
+    static TemporaryFolder inMemory() {
+        const char* const memory = "/dev/shm";
+        return access(memory, W_OK) == 0 ? TemporaryFolder(memory) : TemporaryFolder();
     }
 
     TemporaryFolder(const TemporaryFolder&) = delete;

@@ -19,10 +19,10 @@
 
 #include "parser/QenXmlParser.h"
 #include "tests/robustness/Instrumented.h"
-#include "tests/robustness/counting/CountedMemory.h"
 #include "tests/robustness/linear/ExecutedBlocks.h"
 #include "tests/support/PackageText.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/WatchedMemory.h"
 
 namespace {
 
@@ -52,10 +52,7 @@ const std::vector<List> lists = {
      [](unsigned id, const std::string& name) {
          return test::rec(id, test::element("RecName", name) + commercialFertilizer);
      },
-     [](const std::string& items) {
-         return test::package(
-             test::grower(1, test::farm(11, test::field(21, test::recommendations(items)))));
-     },
+     [](const std::string& items) { return test::packageWithRecs(items); },
      [](QenGrower& grower) { return namesOf(grower.farms().at(0).fields().at(0).recs()); }},
     {"fields",
      [](unsigned id, const std::string& name) {
@@ -128,7 +125,7 @@ Work read(const List& list, const Identifiers& ids, unsigned count) {
     const test::TemporaryFolder folder;
     const std::string path = folder.writePackage(list.package(items));
 
-    const test::CountedXmlMemory xml;
+    const test::WatchedXmlMemory xml;
     QenXmlParser parser;
     const std::size_t blocks = test::executedBlocks();
     const test::MemoryCounts memory = test::memoryCounts();

@@ -14,11 +14,15 @@
 
 #include "parser/QenXmlParser.h"
 #include "tests/robustness/Outcome.h"
-#include "tests/robustness/counting/CountedMemory.h"
 #include "tests/support/PackageText.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/Texts.h"
+#include "tests/support/WatchedMemory.h"
 
 namespace {
+
+using test::inUtf16;
+using test::repeated;
 
 // The limit: so many bytes per byte of the file, and so many for any file. The first is what the
 // XML library takes for the smallest nodes; the second is room reserved for the children that a
@@ -40,10 +44,6 @@ std::string listOf(std::size_t count, const std::function<std::string(std::size_
     for (std::size_t place = 0; place < count; ++place)
         result += item(place);
     return result;
-}
-
-std::string repeated(const std::string& text, std::size_t count) {
-    return listOf(count, [&](std::size_t) { return text; });
 }
 
 std::string inFarm(const std::string& content) {
@@ -79,15 +79,6 @@ std::size_t oneTwice(std::size_t place) {
     return std::max<std::size_t>(place, 1);
 }
 
-std::string utf16(const std::string& ascii) {
-    std::string result = "\xFF\xFE";
-    for (const char c : ascii) {
-        result += c;
-        result += '\0';
-    }
-    return result;
-}
-
 const std::string latin1 = "<?xml version=\"1.0\" encoding=\"latin1\"?>";
 const std::string shortestProduct =
     "<RecData><CommercialFertilizer><ProductID/><ProductName/><UOMID/><UOM/>"
@@ -103,11 +94,11 @@ struct Shape {
 const std::vector<Shape> shapes = {
     {"nested <a>", [](std::size_t count) { return repeated("<a>", count); }},
     {"nested <a>x", [](std::size_t count) { return repeated("<a>x", count); }},
-    {"nested <a>x in UTF-16", [](std::size_t count) { return utf16(repeated("<a>x", count)); }},
+    {"nested <a>x in UTF-16", [](std::size_t count) { return inUtf16(repeated("<a>x", count)); }},
     {"<a/>", [](std::size_t count) { return test::package(repeated("<a/>", count)); }},
     {"<a/>x", [](std::size_t count) { return test::package(repeated("<a/>x", count)); }},
     {"<a/>x in UTF-16",
-     [](std::size_t count) { return utf16(test::package(repeated("<a/>x", count))); }},
+     [](std::size_t count) { return inUtf16(test::package(repeated("<a/>x", count))); }},
     {"attributes",
      [](std::size_t count) { return "<RecPackage" + repeated(" a=\"\"", count) + "/>"; }},
     {"one text",
@@ -124,7 +115,7 @@ const std::vector<Shape> shapes = {
      }},
     {"one name in UTF-16",
      [](std::size_t count) {
-         return utf16(
+         return inUtf16(
              test::package(test::grower(1, test::element("GrowerName", std::string(count, 'x')))));
      }},
     {"growers", [](std::size_t count) { return test::package(listOf(count, shortestGrower)); }},
@@ -157,7 +148,7 @@ const std::vector<Shape> shapes = {
      }},
     {"recs with products in UTF-16",
      [](std::size_t count) {
-         return utf16(
+         return inUtf16(
              inField(listOf(count, [](std::size_t n) { return shortestRec(n, shortestProduct); })));
      }},
     {"recs with names beyond the small-string size",
@@ -198,7 +189,7 @@ struct Peak {
 Peak peakOf(const std::string& content) {
     const test::TemporaryFolder folder;
     const std::string path = folder.writePackage(content);
-    const test::CountedXmlMemory xml;
+    const test::WatchedXmlMemory xml;
     const std::size_t before = test::memoryCounts().living;
     test::restartPeak();
     std::size_t peak = 0;
@@ -238,7 +229,7 @@ TEST(MemoryLimit, HoldsForEachOfManyFilesThatOneParserReads) {
     const test::TemporaryFolder folder;
     const std::string content = repeated("<a>x", 100'000);
     const std::string path = folder.writePackage(content);
-    const test::CountedXmlMemory xml;
+    const test::WatchedXmlMemory xml;
     const std::size_t before = test::memoryCounts().living;
     test::restartPeak();
     QenXmlParser parser;

@@ -1,5 +1,6 @@
-#include "tests/robustness/WatchedMemory.h"
+#include "tests/support/WatchedMemory.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -65,9 +66,10 @@ Blocks& blocks() {
 
 std::mutex mutex;
 test::LivingMemory living;
+test::MemoryCounts counts;
 std::size_t firstToFail = 0;
 test::Failing failing = test::Failing::Once;
-test::AllocationCounts* counts = nullptr;
+test::AllocationCounts* sinceArmed = nullptr;
 
 [[noreturn]] void end(const char* reason) {
     std::fprintf(stderr, "watched memory: %s\n", reason);
@@ -75,13 +77,13 @@ test::AllocationCounts* counts = nullptr;
 }
 
 bool mustFail(Source source) {
-    if (counts == nullptr)
+    if (sinceArmed == nullptr)
         return false;
-    ++counts->all;
+    const std::size_t number = ++sinceArmed->all;
     const bool fails =
-        failing == test::Failing::Once ? counts->all == firstToFail : counts->all >= firstToFail;
+        failing == test::Failing::Once ? number == firstToFail : number >= firstToFail;
     if (fails)
-        ++(source == Source::Xml ? counts->failedXml : counts->failedCpp);
+        ++(source == Source::Xml ? sinceArmed->failedXml : sinceArmed->failedCpp);
     return fails;
 }
 
@@ -95,6 +97,10 @@ void* allocate(std::size_t size, Source source) noexcept {
     blocks().emplace(keyOf(block), Block{size, source});
     ++(source == Source::Xml ? living.xmlBlocks : living.cppBlocks);
     (source == Source::Xml ? living.xmlBytes : living.cppBytes) += size;
+    ++counts.allocations;
+    counts.allocated += size;
+    counts.living += size;
+    counts.peak = std::max(counts.peak, counts.living);
     return block;
 }
 
@@ -119,6 +125,7 @@ void release(void* block, Source source, const std::size_t* size = nullptr) noex
         end("released with a wrong size");
     --(source == Source::Xml ? living.xmlBlocks : living.cppBlocks);
     (source == Source::Xml ? living.xmlBytes : living.cppBytes) -= known->second.size;
+    counts.living -= known->second.size;
     blocks().erase(known);
     std::free(block);
 }
@@ -193,6 +200,16 @@ LivingMemory livingMemory() {
     return living;
 }
 
+MemoryCounts memoryCounts() {
+    const std::lock_guard<std::mutex> lock(mutex);
+    return counts;
+}
+
+void restartPeak() {
+    const std::lock_guard<std::mutex> lock(mutex);
+    counts.peak = counts.living;
+}
+
 WatchedXmlMemory::WatchedXmlMemory()
     : earlierAllocate_(pugi::get_memory_allocation_function()),
       earlierRelease_(pugi::get_memory_deallocation_function()) {
@@ -208,12 +225,12 @@ FailingAllocations::FailingAllocations(std::size_t first, Failing mode,
     const std::lock_guard<std::mutex> lock(mutex);
     firstToFail = first;
     failing = mode;
-    counts = &allocations;
+    sinceArmed = &allocations;
 }
 
 FailingAllocations::~FailingAllocations() {
     const std::lock_guard<std::mutex> lock(mutex);
-    counts = nullptr;
+    sinceArmed = nullptr;
 }
 
 } // namespace test
