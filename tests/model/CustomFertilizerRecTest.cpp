@@ -29,70 +29,40 @@ static_assert(std::is_constructible_v<Rec, const uuid&, const uuid&, const strin
                                       const double&, const double&, const double&, const double&,
                                       const double&, const double&, const double&, const double&>);
 
-static_assert(hasType<Getter<uuid>>(&Rec::productId), "a UUID, not a number");
-static_assert(hasType<Getter<string>>(&Rec::productName));
-static_assert(hasType<Getter<int>>(&Rec::uomId));
 static_assert(hasType<Getter<string>>(&Rec::uom));
-static_assert(hasType<Getter<int>>(&Rec::sFertT_ID));
-static_assert(hasType<Getter<double>>(&Rec::spGravity));
-static_assert(hasType<Getter<double>>(&Rec::pct_N));
-static_assert(hasType<Getter<double>>(&Rec::pct_P));
-static_assert(hasType<Getter<double>>(&Rec::pct_K));
-static_assert(hasType<Getter<double>>(&Rec::pct_Ca));
-static_assert(hasType<Getter<double>>(&Rec::pct_Mg));
-static_assert(hasType<Getter<double>>(&Rec::pct_S));
-static_assert(hasType<Getter<double>>(&Rec::pct_Fe));
-static_assert(hasType<Getter<double>>(&Rec::pct_Mn));
-static_assert(hasType<Getter<double>>(&Rec::pct_Zn));
-static_assert(hasType<Getter<double>>(&Rec::pct_Cu));
-static_assert(hasType<Getter<double>>(&Rec::pct_B));
-static_assert(hasType<Getter<double>>(&Rec::pct_Mo));
-static_assert(hasType<Getter<double>>(&Rec::pct_Cl));
-
-static_assert(hasType<Setter<uuid>>(&Rec::setRecId));
-static_assert(hasType<Setter<uuid>>(&Rec::setProductId));
-static_assert(hasType<Setter<string>>(&Rec::setProductName));
-static_assert(hasType<Setter<int>>(&Rec::setUomId));
 static_assert(hasType<Setter<int>>(&Rec::setUom), "a number, not a text");
-static_assert(hasType<Setter<int>>(&Rec::setSFert_ID), "spelt unlike its getter");
-static_assert(hasType<Setter<double>>(&Rec::setSpGravity));
-static_assert(hasType<Setter<double>>(&Rec::setPct_N));
-static_assert(hasType<Setter<double>>(&Rec::setPct_P));
-static_assert(hasType<Setter<double>>(&Rec::setPct_K));
-static_assert(hasType<Setter<double>>(&Rec::setPct_Ca));
-static_assert(hasType<Setter<double>>(&Rec::setPct_Mg));
-static_assert(hasType<Setter<double>>(&Rec::setPct_S));
-static_assert(hasType<Setter<double>>(&Rec::setPct_Fe));
-static_assert(hasType<Setter<double>>(&Rec::setPct_Mn));
-static_assert(hasType<Setter<double>>(&Rec::setPct_Zn));
-static_assert(hasType<Setter<double>>(&Rec::setPct_Cu));
-static_assert(hasType<Setter<double>>(&Rec::setPct_B));
-static_assert(hasType<Setter<double>>(&Rec::setPct_Mo));
-static_assert(hasType<Setter<double>>(&Rec::setPct_Cl));
 
-/// Every value that a plain setter replaces: all but the text of the unit.
+/// The types of getter and setter are exactly those that are expected.
+template <class Value>
+test::Property<Rec> row(const string& name, Getter<Value> getter, Setter<Value> setter,
+                        const Value& initial, const Value& built, const Value& changed) {
+    return test::property<Rec>(name, getter, setter, initial, built, changed);
+}
+
+/// Every value that a plain setter replaces: all but the text of the unit. Note
+/// setSFert_ID, spelt unlike its getter.
 std::vector<test::Property<Rec>> properties() {
-    using test::property;
     return {
-        property<Rec>("recId", &Rec::recId, &Rec::setRecId, test::uuid(101)),
-        property<Rec>("productId", &Rec::productId, &Rec::setProductId, test::uuid(102)),
-        property<Rec>("productName", &Rec::productName, &Rec::setProductName, string("other")),
-        property<Rec>("uomId", &Rec::uomId, &Rec::setUomId, 103),
-        property<Rec>("sFertT_ID", &Rec::sFertT_ID, &Rec::setSFert_ID, 104),
-        property<Rec>("spGravity", &Rec::spGravity, &Rec::setSpGravity, 1.05),
-        property<Rec>("pct_N", &Rec::pct_N, &Rec::setPct_N, 106.5),
-        property<Rec>("pct_P", &Rec::pct_P, &Rec::setPct_P, 107.5),
-        property<Rec>("pct_K", &Rec::pct_K, &Rec::setPct_K, 108.5),
-        property<Rec>("pct_Ca", &Rec::pct_Ca, &Rec::setPct_Ca, 109.5),
-        property<Rec>("pct_Mg", &Rec::pct_Mg, &Rec::setPct_Mg, 110.5),
-        property<Rec>("pct_S", &Rec::pct_S, &Rec::setPct_S, 111.5),
-        property<Rec>("pct_Fe", &Rec::pct_Fe, &Rec::setPct_Fe, 112.5),
-        property<Rec>("pct_Mn", &Rec::pct_Mn, &Rec::setPct_Mn, 113.5),
-        property<Rec>("pct_Zn", &Rec::pct_Zn, &Rec::setPct_Zn, 114.5),
-        property<Rec>("pct_Cu", &Rec::pct_Cu, &Rec::setPct_Cu, 115.5),
-        property<Rec>("pct_B", &Rec::pct_B, &Rec::setPct_B, 116.5),
-        property<Rec>("pct_Mo", &Rec::pct_Mo, &Rec::setPct_Mo, 117.5),
-        property<Rec>("pct_Cl", &Rec::pct_Cl, &Rec::setPct_Cl, -118.5),
+        row<uuid>("recId", &Rec::recId, &Rec::setRecId, {}, test::uuid(1), test::uuid(101)),
+        row<uuid>("productId", &Rec::productId, &Rec::setProductId, {}, test::uuid(2),
+                  test::uuid(102)),
+        row<string>("productName", &Rec::productName, &Rec::setProductName, "", "blend", "other"),
+        row<int>("uomId", &Rec::uomId, &Rec::setUomId, -1, 3, 103),
+        row<int>("sFertT_ID", &Rec::sFertT_ID, &Rec::setSFert_ID, -1, 4, 104),
+        row<double>("spGravity", &Rec::spGravity, &Rec::setSpGravity, 0.0, 5.5, 1.05),
+        row<double>("pct_N", &Rec::pct_N, &Rec::setPct_N, 0.0, 6.5, 106.5),
+        row<double>("pct_P", &Rec::pct_P, &Rec::setPct_P, 0.0, 7.5, 107.5),
+        row<double>("pct_K", &Rec::pct_K, &Rec::setPct_K, 0.0, 8.5, 108.5),
+        row<double>("pct_Ca", &Rec::pct_Ca, &Rec::setPct_Ca, 0.0, 9.5, 109.5),
+        row<double>("pct_Mg", &Rec::pct_Mg, &Rec::setPct_Mg, 0.0, 10.5, 110.5),
+        row<double>("pct_S", &Rec::pct_S, &Rec::setPct_S, 0.0, 11.5, 111.5),
+        row<double>("pct_Fe", &Rec::pct_Fe, &Rec::setPct_Fe, 0.0, 12.5, 112.5),
+        row<double>("pct_Mn", &Rec::pct_Mn, &Rec::setPct_Mn, 0.0, 13.5, 113.5),
+        row<double>("pct_Zn", &Rec::pct_Zn, &Rec::setPct_Zn, 0.0, 14.5, 114.5),
+        row<double>("pct_Cu", &Rec::pct_Cu, &Rec::setPct_Cu, 0.0, 15.5, 115.5),
+        row<double>("pct_B", &Rec::pct_B, &Rec::setPct_B, 0.0, 16.5, 116.5),
+        row<double>("pct_Mo", &Rec::pct_Mo, &Rec::setPct_Mo, 0.0, 17.5, 117.5),
+        row<double>("pct_Cl", &Rec::pct_Cl, &Rec::setPct_Cl, 0.0, 18.5, -118.5),
     };
 }
 
@@ -106,50 +76,14 @@ Rec blend() {
 TEST(CustomFertilizerRec, IsEmptyAndOfNoKindByDefault) {
     CustomFertilizerRec data;
     EXPECT_EQ(data.recType(), RecTypeNone);
-    EXPECT_EQ(data.recId(), uuid{});
-    EXPECT_EQ(data.productId(), uuid{});
-    EXPECT_EQ(data.productName(), "");
-    EXPECT_EQ(data.uomId(), -1);
+    EXPECT_EQ(values(properties(), data), values(properties(), &test::Property<Rec>::initialValue));
     EXPECT_EQ(data.uom(), "");
-    EXPECT_EQ(data.sFertT_ID(), -1);
-    EXPECT_EQ(data.spGravity(), 0.0);
-    EXPECT_EQ(data.pct_N(), 0.0);
-    EXPECT_EQ(data.pct_P(), 0.0);
-    EXPECT_EQ(data.pct_K(), 0.0);
-    EXPECT_EQ(data.pct_Ca(), 0.0);
-    EXPECT_EQ(data.pct_Mg(), 0.0);
-    EXPECT_EQ(data.pct_S(), 0.0);
-    EXPECT_EQ(data.pct_Fe(), 0.0);
-    EXPECT_EQ(data.pct_Mn(), 0.0);
-    EXPECT_EQ(data.pct_Zn(), 0.0);
-    EXPECT_EQ(data.pct_Cu(), 0.0);
-    EXPECT_EQ(data.pct_B(), 0.0);
-    EXPECT_EQ(data.pct_Mo(), 0.0);
-    EXPECT_EQ(data.pct_Cl(), 0.0);
 }
 
 TEST(CustomFertilizerRec, ReturnsEveryValueThatItWasBuiltWith) {
     CustomFertilizerRec data = blend();
-    EXPECT_EQ(data.recId(), test::uuid(1));
-    EXPECT_EQ(data.productId(), test::uuid(2));
-    EXPECT_EQ(data.productName(), "blend");
-    EXPECT_EQ(data.uomId(), 3);
+    EXPECT_EQ(values(properties(), data), values(properties(), &test::Property<Rec>::builtValue));
     EXPECT_EQ(data.uom(), "unit");
-    EXPECT_EQ(data.sFertT_ID(), 4);
-    EXPECT_EQ(data.spGravity(), 5.5);
-    EXPECT_EQ(data.pct_N(), 6.5);
-    EXPECT_EQ(data.pct_P(), 7.5);
-    EXPECT_EQ(data.pct_K(), 8.5);
-    EXPECT_EQ(data.pct_Ca(), 9.5);
-    EXPECT_EQ(data.pct_Mg(), 10.5);
-    EXPECT_EQ(data.pct_S(), 11.5);
-    EXPECT_EQ(data.pct_Fe(), 12.5);
-    EXPECT_EQ(data.pct_Mn(), 13.5);
-    EXPECT_EQ(data.pct_Zn(), 14.5);
-    EXPECT_EQ(data.pct_Cu(), 15.5);
-    EXPECT_EQ(data.pct_B(), 16.5);
-    EXPECT_EQ(data.pct_Mo(), 17.5);
-    EXPECT_EQ(data.pct_Cl(), 18.5);
 }
 
 TEST(CustomFertilizerRec, IsOfTheKindCustomFertilizerWhenBuiltWhole) {

@@ -2,11 +2,10 @@
 
 #include <algorithm>
 #include <iterator>
-#include <memory>
 
 #include <gtest/gtest.h>
 
-#include "model/PlantingRec.h"
+#include "tests/model/Fields.h"
 #include "tests/support/Describe.h"
 #include "tests/support/Signatures.h"
 #include "tests/support/Uuids.h"
@@ -18,6 +17,9 @@ using boost::uuids::uuid;
 using std::string;
 using test::describe;
 using test::hasType;
+using test::makeRec;
+using test::recNames;
+using test::Texts;
 
 template <class Value>
 using ConstGetter = test::ConstGetter<QenField, Value>;
@@ -66,39 +68,12 @@ QenFieldGeometry geometry(unsigned id, const string& date, unsigned file = 90) {
     return QenFieldGeometry(test::uuid(id), date, test::uuid(file), LLA{file + 0.5, 2.0, 3.0});
 }
 
-/// A rec with an id and a name, and with product data of the given recId unless it is 0.
-QenRec makeRec(unsigned id, const string& name, unsigned recId = 0) {
-    QenRec rec;
-    rec.setId(test::uuid(id));
-    rec.setName(name);
-    if (recId != 0)
-        rec.setRecData(
-            new PlantingRec(test::uuid(recId), 1, name, 2, "company", 3, "variety", 4, "seeds"));
-    return rec;
-}
-
-/// A rec whose product data is of a kind that copies drop.
-QenRec recOfUnknownKind(unsigned id, int kind = 5) {
-    return QenRec({}, {}, "unknown", test::uuid(id), {}, "", "", "", {}, "", 0, {},
-                  new QenRecData(test::uuid(99), static_cast<RecType>(kind)), 0.0, 0.0, 0.0, "", 0,
-                  0.0, 0, "", 0.0, 0, "", false, {});
-}
-
-std::vector<string> recNames(QenField field) {
-    std::vector<string> result;
-    for (QenRec& rec : field.recs())
-        result.push_back(rec.name());
-    return result;
-}
-
-std::vector<string> dates(const QenField& field) {
-    std::vector<string> result;
+Texts dates(const QenField& field) {
+    Texts result;
     for (QenFieldGeometry& geometry : field.geometries())
         result.push_back(geometry.geometryDate());
     return result;
 }
-
-using Texts = std::vector<string>;
 
 } // namespace
 
@@ -276,145 +251,6 @@ TEST(QenField, HandsOutACopyOfItsGeometries) {
     EXPECT_EQ(dates(field), Texts{"date"});
     field.geometries().push_back(geometry(9, "lost"));
     EXPECT_EQ(dates(field), Texts{"date"});
-}
-
-TEST(QenField, HandsOutItsListOfRecsItself) {
-    QenField field;
-    field.recs().push_back(makeRec(1, "first"));
-    field.recs().push_back(makeRec(1, "same id"));
-    EXPECT_EQ(recNames(field), (Texts{"first", "same id"}));
-    field.recs()[0].setName("renamed");
-    EXPECT_EQ(recNames(field), (Texts{"renamed", "same id"}));
-    field.recs().clear();
-    EXPECT_EQ(recNames(field), Texts{});
-}
-
-TEST(QenField, AddingARecWithANewIdAppendsIt) {
-    QenField field;
-    field.addRec(makeRec(2, "first"));
-    field.addRec(makeRec(1, "second"));
-    field.addRec(makeRec(3, "third"));
-    EXPECT_EQ(recNames(field), (Texts{"first", "second", "third"}));
-}
-
-TEST(QenField, AddingARecWithAPresentIdReplacesItInPlace) {
-    QenField field;
-    field.addRec(makeRec(1, "first", 11));
-    field.addRec(makeRec(2, "second", 12));
-    field.addRec(makeRec(3, "third", 13));
-    const std::unique_ptr<QenRecData> earlier(field.recs()[1].recData());
-
-    field.addRec(makeRec(2, "new second", 22));
-    EXPECT_EQ(recNames(field), (Texts{"first", "new second", "third"}));
-    QenRec expected = makeRec(2, "new second", 22);
-    EXPECT_EQ(describe(field.recs()[1]), describe(expected));
-    EXPECT_EQ(field.rec(test::uuid(12)).name(), "");
-}
-
-TEST(QenField, AddingARecLeavesTheEarlierProductDataToTheCaller) {
-    QenField field;
-    field.addRec(makeRec(1, "rec", 11));
-    std::unique_ptr<QenRecData> earlier(field.recs()[0].recData());
-    field.addRec(makeRec(1, "rec", 12));
-    EXPECT_NE(field.recs()[0].recData(), earlier.get());
-    EXPECT_EQ(earlier->recId(), test::uuid(11)) << "it is still there";
-}
-
-TEST(QenField, AddingARecReplacesOnlyTheFirstOfSeveralWithItsId) {
-    QenField field;
-    field.recs().push_back(makeRec(1, "first"));
-    field.recs().push_back(makeRec(1, "second"));
-    field.addRec(makeRec(1, "new"));
-    EXPECT_EQ(recNames(field), (Texts{"new", "second"}));
-}
-
-TEST(QenField, AddedRecsHaveProductDataOfTheirOwn) {
-    QenRec rec = makeRec(1, "rec", 11);
-    QenField field;
-    field.addRec(rec);
-    EXPECT_NE(field.recs()[0].recData(), rec.recData());
-    EXPECT_EQ(describe(field.recs()[0]), describe(rec));
-    rec.setName("changed");
-    EXPECT_EQ(recNames(field), Texts{"rec"});
-}
-
-TEST(QenField, AddedRecsLoseProductDataOfAnUnknownKind) {
-    ASSERT_NE(recOfUnknownKind(1).recData(), nullptr);
-    QenField field;
-    field.addRec(recOfUnknownKind(1));
-    EXPECT_EQ(recNames(field), Texts{"unknown"});
-    EXPECT_EQ(field.recs()[0].recData(), nullptr) << "a new rec";
-    field.addRec(recOfUnknownKind(1));
-    EXPECT_EQ(recNames(field), Texts{"unknown"});
-    EXPECT_EQ(field.recs()[0].recData(), nullptr) << "a rec replaced";
-}
-
-TEST(QenField, AddedRecsLoseProductDataOfEveryKindButTheFour) {
-    for (const int kind : {-1, 0, 5}) {
-        SCOPED_TRACE(kind);
-        QenField field;
-        field.addRec(recOfUnknownKind(1, kind));
-        EXPECT_EQ(field.recs()[0].recData(), nullptr);
-    }
-}
-
-TEST(QenField, FindsARecByTheRecIdOfItsProductData) {
-    QenField field;
-    field.addRec(makeRec(1, "first", 11));
-    field.addRec(makeRec(2, "second", 12));
-    QenRec expected = makeRec(2, "second", 12);
-    EXPECT_EQ(describe(field.rec(test::uuid(12))), describe(expected));
-}
-
-TEST(QenField, DoesNotFindARecByItsOwnId) {
-    QenField field;
-    field.addRec(makeRec(1, "rec", 11));
-    QenRec none = field.rec(test::uuid(1));
-    EXPECT_EQ(describe(none), describe(QenRec()));
-    EXPECT_EQ(none.recData(), nullptr);
-}
-
-TEST(QenField, OfRecsWhoseProductDataHasOneRecIdTheFirstIsFound) {
-    QenField field;
-    field.addRec(makeRec(1, "first", 11));
-    field.addRec(makeRec(2, "second", 11));
-    EXPECT_EQ(field.rec(test::uuid(11)).name(), "first");
-}
-
-TEST(QenField, SkipsRecsWithoutProductDataWhenItLooksForARec) {
-    QenField field;
-    field.addRec(makeRec(1, "without"));
-    field.addRec(makeRec(2, "with", 11));
-    EXPECT_EQ(field.rec(test::uuid(11)).name(), "with");
-    EXPECT_EQ(field.rec(uuid{}).name(), "") << "having none is not having one with a nil recId";
-}
-
-TEST(QenField, FindsARecWhoseProductDataHasANilRecId) {
-    QenField field;
-    QenRec& rec = field.recs().emplace_back();
-    rec.setName("rec");
-    rec.setRecData(new PlantingRec(uuid{}, 1, "crop", 2, "c", 3, "v", 4, "seeds"));
-    EXPECT_EQ(field.rec(uuid{}).name(), "rec");
-}
-
-TEST(QenField, TheRecFoundIsACopyWithProductDataOfItsOwn) {
-    QenField field;
-    field.addRec(makeRec(1, "rec", 11));
-    QenRec found = field.rec(test::uuid(11));
-    ASSERT_NE(found.recData(), nullptr);
-    EXPECT_NE(found.recData(), field.recs()[0].recData());
-    found.setName("changed");
-    EXPECT_EQ(recNames(field), Texts{"rec"});
-}
-
-TEST(QenField, TheRecFoundLosesProductDataOfAnUnknownKind) {
-    // A copy, as any other.
-    QenField field;
-    field.recs().emplace_back().setRecData(new QenRecData(test::uuid(11), RecTypeNone));
-    field.recs()[0].setName("rec");
-    QenRec found = field.rec(test::uuid(11));
-    EXPECT_EQ(found.name(), "rec");
-    EXPECT_EQ(found.recData(), nullptr);
 }
 
 TEST(QenField, ACopyIsIndependent) {

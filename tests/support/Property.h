@@ -28,13 +28,20 @@ struct Property {
     std::function<std::string(Record&)> get;
     std::function<void(Record&)> set; ///< Sets one certain value, that of newValue.
     std::string newValue;
+    std::string initialValue; ///< Of a record constructed by default.
+    std::string builtValue;   ///< Of the record that the tests build whole.
 };
 
 template <class Record, class GetterOfRecord, class SetterOfRecord, class Value>
 Property<Record> property(const std::string& name, GetterOfRecord getter, SetterOfRecord setter,
+                          const Value& initialValue, const Value& builtValue,
                           const Value& newValue) {
-    return {name, [getter](Record& record) { return toText((record.*getter)()); },
-            [setter, newValue](Record& record) { (record.*setter)(newValue); }, toText(newValue)};
+    return {name,
+            [getter](Record& record) { return toText((record.*getter)()); },
+            [setter, newValue](Record& record) { (record.*setter)(newValue); },
+            toText(newValue),
+            toText(initialValue),
+            toText(builtValue)};
 }
 
 /// All values of a record, each with its name.
@@ -43,6 +50,16 @@ std::vector<std::string> values(const std::vector<Property<Record>>& properties,
     std::vector<std::string> result;
     for (const Property<Record>& property : properties)
         result.push_back(property.name + " " + property.get(record));
+    return result;
+}
+
+/// Those of a column of the table, as values() has them.
+template <class Record>
+std::vector<std::string> values(const std::vector<Property<Record>>& properties,
+                                std::string Property<Record>::*column) {
+    std::vector<std::string> result;
+    for (const Property<Record>& property : properties)
+        result.push_back(property.name + " " + property.*column);
     return result;
 }
 
