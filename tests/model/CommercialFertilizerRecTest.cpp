@@ -9,7 +9,6 @@ namespace {
 
 using boost::uuids::uuid;
 using std::string;
-using test::hasType;
 using Rec = CommercialFertilizerRec;
 
 static_assert(std::is_base_of_v<QenRecData, Rec>);
@@ -21,20 +20,16 @@ static_assert(std::is_constructible_v<Rec, const uuid&, const int&, const string
 static_assert(!std::is_constructible_v<Rec, const uuid&, const uuid&, const string&, const int&,
                                        const string&>,
               "the product identifier is a number");
-static_assert(hasType<test::Getter<Rec, int>>(&Rec::productId));
-static_assert(hasType<test::Getter<Rec, string>>(&Rec::productName));
-static_assert(hasType<test::Getter<Rec, int>>(&Rec::uomId));
-static_assert(hasType<test::Getter<Rec, string>>(&Rec::uom));
 
 } // namespace
 
 TEST(CommercialFertilizerRec, ReturnsEveryValueThatItWasBuiltWith) {
     CommercialFertilizerRec data(test::uuid(1), 2, "product", 3, "unit");
     EXPECT_EQ(data.recId(), test::uuid(1));
-    EXPECT_EQ(data.productId(), 2);
-    EXPECT_EQ(data.productName(), "product");
-    EXPECT_EQ(data.uomId(), 3);
-    EXPECT_EQ(data.uom(), "unit");
+    EXPECT_EQ(test::valueOf<int>(data, &CommercialFertilizerRec::productId), 2);
+    EXPECT_EQ(test::valueOf<string>(data, &CommercialFertilizerRec::productName), "product");
+    EXPECT_EQ(test::valueOf<int>(data, &CommercialFertilizerRec::uomId), 3);
+    EXPECT_EQ(test::valueOf<string>(data, &CommercialFertilizerRec::uom), "unit");
 }
 
 TEST(CommercialFertilizerRec, IsOfTheKindCommercialFertilizer) {

@@ -7,7 +7,6 @@
 namespace {
 
 using std::string;
-using test::hasType;
 
 static_assert(std::is_same_v<std::underlying_type_t<PesticideType>, std::int32_t>);
 static_assert(std::is_convertible_v<PesticideType, int>, "the enumeration is unscoped");
@@ -22,23 +21,17 @@ static_assert(!std::is_polymorphic_v<PestProduct>, "nothing virtual, the destruc
 static_assert(!std::is_default_constructible_v<PestProduct>);
 static_assert(std::is_constructible_v<PestProduct, const int&, const string&, const int&,
                                       const string&, const PesticideType&, const double&>);
-static_assert(hasType<test::Getter<PestProduct, int>>(&PestProduct::productId));
-static_assert(hasType<test::Getter<PestProduct, string>>(&PestProduct::productName));
-static_assert(hasType<test::Getter<PestProduct, int>>(&PestProduct::regCodeId));
-static_assert(hasType<test::Getter<PestProduct, string>>(&PestProduct::regCode));
-static_assert(hasType<test::Getter<PestProduct, PesticideType>>(&PestProduct::pesticideType));
-static_assert(hasType<test::Getter<PestProduct, double>>(&PestProduct::amount));
 
 } // namespace
 
 TEST(PestProduct, ReturnsEveryValueThatItWasBuiltWith) {
     PestProduct product(1, "product", 2, "code", Fungicide, 3.5);
-    EXPECT_EQ(product.productId(), 1);
-    EXPECT_EQ(product.productName(), "product");
-    EXPECT_EQ(product.regCodeId(), 2);
-    EXPECT_EQ(product.regCode(), "code");
-    EXPECT_EQ(product.pesticideType(), Fungicide);
-    EXPECT_EQ(product.amount(), 3.5);
+    EXPECT_EQ(test::valueOf<int>(product, &PestProduct::productId), 1);
+    EXPECT_EQ(test::valueOf<string>(product, &PestProduct::productName), "product");
+    EXPECT_EQ(test::valueOf<int>(product, &PestProduct::regCodeId), 2);
+    EXPECT_EQ(test::valueOf<string>(product, &PestProduct::regCode), "code");
+    EXPECT_EQ(test::valueOf<PesticideType>(product, &PestProduct::pesticideType), Fungicide);
+    EXPECT_EQ(test::valueOf<double>(product, &PestProduct::amount), 3.5);
 }
 
 TEST(PestProduct, KeepsEveryKindUnchanged) {

@@ -9,7 +9,6 @@ namespace {
 
 using boost::uuids::uuid;
 using std::string;
-using test::hasType;
 
 static_assert(std::is_base_of_v<QenRecData, PlantingRec>);
 static_assert(std::is_convertible_v<PlantingRec*, QenRecData*>, "the base is public");
@@ -18,28 +17,20 @@ static_assert(!std::is_default_constructible_v<PlantingRec>);
 static_assert(
     std::is_constructible_v<PlantingRec, const uuid&, const int&, const string&, const int&,
                             const string&, const int&, const string&, const int&, const string&>);
-static_assert(hasType<test::Getter<PlantingRec, int>>(&PlantingRec::cropId));
-static_assert(hasType<test::Getter<PlantingRec, string>>(&PlantingRec::cropName));
-static_assert(hasType<test::Getter<PlantingRec, int>>(&PlantingRec::companyId));
-static_assert(hasType<test::Getter<PlantingRec, string>>(&PlantingRec::companyName));
-static_assert(hasType<test::Getter<PlantingRec, int>>(&PlantingRec::varietyId));
-static_assert(hasType<test::Getter<PlantingRec, string>>(&PlantingRec::varietyName));
-static_assert(hasType<test::Getter<PlantingRec, int>>(&PlantingRec::uomId));
-static_assert(hasType<test::Getter<PlantingRec, string>>(&PlantingRec::uom));
 
 } // namespace
 
 TEST(PlantingRec, ReturnsEveryValueThatItWasBuiltWith) {
     PlantingRec data(test::uuid(1), 2, "crop", 3, "company", 4, "variety", 5, "unit");
     EXPECT_EQ(data.recId(), test::uuid(1));
-    EXPECT_EQ(data.cropId(), 2);
-    EXPECT_EQ(data.cropName(), "crop");
-    EXPECT_EQ(data.companyId(), 3);
-    EXPECT_EQ(data.companyName(), "company");
-    EXPECT_EQ(data.varietyId(), 4);
-    EXPECT_EQ(data.varietyName(), "variety");
-    EXPECT_EQ(data.uomId(), 5);
-    EXPECT_EQ(data.uom(), "unit");
+    EXPECT_EQ(test::valueOf<int>(data, &PlantingRec::cropId), 2);
+    EXPECT_EQ(test::valueOf<string>(data, &PlantingRec::cropName), "crop");
+    EXPECT_EQ(test::valueOf<int>(data, &PlantingRec::companyId), 3);
+    EXPECT_EQ(test::valueOf<string>(data, &PlantingRec::companyName), "company");
+    EXPECT_EQ(test::valueOf<int>(data, &PlantingRec::varietyId), 4);
+    EXPECT_EQ(test::valueOf<string>(data, &PlantingRec::varietyName), "variety");
+    EXPECT_EQ(test::valueOf<int>(data, &PlantingRec::uomId), 5);
+    EXPECT_EQ(test::valueOf<string>(data, &PlantingRec::uom), "unit");
 }
 
 TEST(PlantingRec, IsOfTheKindPlanting) {

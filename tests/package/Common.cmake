@@ -12,6 +12,12 @@ function(run)
     endif()
 endfunction()
 
+# output_of(VARIABLE COMMAND...): the output of a command.
+function(output_of variable)
+    execute_process(COMMAND ${ARGN} OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
+    set(${variable} "${output}" PARENT_SCOPE)
+endfunction()
+
 # expect_same(WHAT ACTUAL EXPECTED): compares two texts.
 function(expect_same what actual expected)
     if(NOT actual STREQUAL expected)

@@ -13,15 +13,9 @@ elseif(INSTRUMENTATION)
     return()
 endif()
 
-# run_tool(VARIABLE COMMAND...): the output of a command.
-function(run_tool variable)
-    execute_process(COMMAND ${ARGN} OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
-    set(${variable} "${output}" PARENT_SCOPE)
-endfunction()
-
 # Symbols as C++ writes them, without what the standard library makes of its own names. By GNU nm:
 # the tools of clang, which CMake may have chosen, do not demangle a symbol with a version.
-run_tool(symbols nm -D --defined-only -C ${LIBRARY})
+output_of(symbols nm -D --defined-only -C ${LIBRARY})
 string(REPLACE "[abi:cxx11]" "" symbols "${symbols}")
 string(REPLACE "std::__cxx11::basic_string<char, std::char_traits<char>, std::allocator<char> >"
     "std::string" symbols "${symbols}")
@@ -45,6 +39,6 @@ list(APPEND missing ${foreign})
 list(JOIN missing "\n" differences)
 expect_same("What exported_symbols.txt and the library do not share" "${differences}" "")
 
-run_tool(headers objdump -p ${LIBRARY})
+output_of(headers objdump -p ${LIBRARY})
 string(REGEX MATCH "SONAME +([^\n]+)" soname "${headers}")
 expect_same("The name that hosts are linked against" "${CMAKE_MATCH_1}" "libqenxml.so.1")

@@ -14,12 +14,6 @@ function(expect_match what text regex)
     endif()
 endfunction()
 
-# output_of(VARIABLE COMMAND...): the output of a command.
-function(output_of variable)
-    execute_process(COMMAND ${ARGN} OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
-    set(${variable} "${output}" PARENT_SCOPE)
-endfunction()
-
 # expect_fixed_search_path(BINARY): the loader looks for libraries where nobody else can put one: an
 # element that is empty or relative is the current folder or one below it.
 function(expect_fixed_search_path binary)

@@ -77,6 +77,15 @@ TEST_F(HostileFile, ThatIsAPipeIsRefusedWithoutWaitingForMore) {
     close(pipe);
 }
 
+TEST(SpecialFile, ThatIsASocketIsRefused) {
+    const test::TemporaryFolder folder;
+    const std::string path = folder.path("00112233-4455-6677-8899-aabbccddeeff.xml");
+    ASSERT_EQ(0, mknod(path.c_str(), S_IFSOCK | 0600, 0));
+    QenXmlParser parser;
+    EXPECT_EQ(test::outcome::refused, test::outcomeOf(parser, path));
+    EXPECT_EQ(0U, parser.getGrowers().size());
+}
+
 TEST_F(HostileFile, ThatIsADeviceIsRefused) {
     for (const char* device : {"/dev/null", "/dev/zero", "/dev/full", "/dev/urandom"}) {
         SCOPED_TRACE(device);

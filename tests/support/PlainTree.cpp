@@ -1,109 +1,12 @@
 #include "tests/support/PlainTree.h"
 
-#include <cstdint>
-#include <cstring>
 #include <stdexcept>
-#include <tuple>
 
 #include "model/CommercialFertilizerRec.h"
 #include "model/CustomFertilizerRec.h"
 #include "model/PlantingRec.h"
 
 namespace plain {
-
-namespace {
-
-std::uint64_t bits(double number) {
-    std::uint64_t result = 0;
-    static_assert(sizeof result == sizeof number);
-    std::memcpy(&result, &number, sizeof result);
-    return result;
-}
-
-template <class... Numbers>
-auto bitsOf(Numbers... numbers) {
-    return std::make_tuple(bits(numbers)...);
-}
-
-auto content(const CommercialFertilizer& product) {
-    return std::tie(product.recId, product.productId, product.productName, product.uomId,
-                    product.uom);
-}
-
-auto content(const CustomFertilizer& product) {
-    return std::tuple_cat(std::tie(product.recId, product.productId, product.productName,
-                                   product.uomId, product.uom, product.typeId),
-                          bitsOf(product.gravity, product.n, product.p, product.k, product.ca,
-                                 product.mg, product.s, product.fe, product.mn, product.zn,
-                                 product.cu, product.b, product.mo, product.cl));
-}
-
-auto content(const Planting& product) {
-    return std::tie(product.recId, product.cropId, product.cropName, product.companyId,
-                    product.companyName, product.varietyId, product.varietyName, product.uomId,
-                    product.uom);
-}
-
-auto content(const Rec& rec) {
-    return std::tuple_cat(
-        std::tie(rec.fieldId, rec.fieldGeometryId, rec.name, rec.id, rec.geometry, rec.creationDate,
-                 rec.editDate, rec.dbfCol, rec.operationName, rec.operationId, rec.seasonName,
-                 rec.seasonId, rec.zoneId, rec.rateUomId, rec.rateUom, rec.totalUomId, rec.totalUom,
-                 rec.areaUomId, rec.areaUom, rec.isUsed, rec.package, rec.product),
-        bitsOf(rec.minimumRate, rec.maximumRate, rec.averageRate, rec.total, rec.area));
-}
-
-auto content(const Geometry& geometry) {
-    return std::tuple_cat(std::tie(geometry.id, geometry.date, geometry.file),
-                          bitsOf(geometry.latitude, geometry.longitude, geometry.altitude));
-}
-
-auto content(const Field& field) {
-    return std::tie(field.name, field.id, field.growerId, field.farmId, field.geometries,
-                    field.recs);
-}
-
-auto content(const Farm& farm) {
-    return std::tie(farm.name, farm.id, farm.growerId, farm.fields);
-}
-
-auto content(const Grower& grower) {
-    return std::tie(grower.name, grower.id, grower.farms);
-}
-
-} // namespace
-
-bool operator==(const CommercialFertilizer& left, const CommercialFertilizer& right) {
-    return content(left) == content(right);
-}
-
-bool operator==(const CustomFertilizer& left, const CustomFertilizer& right) {
-    return content(left) == content(right);
-}
-
-bool operator==(const Planting& left, const Planting& right) {
-    return content(left) == content(right);
-}
-
-bool operator==(const Rec& left, const Rec& right) {
-    return content(left) == content(right);
-}
-
-bool operator==(const Geometry& left, const Geometry& right) {
-    return content(left) == content(right);
-}
-
-bool operator==(const Field& left, const Field& right) {
-    return content(left) == content(right);
-}
-
-bool operator==(const Farm& left, const Farm& right) {
-    return content(left) == content(right);
-}
-
-bool operator==(const Grower& left, const Grower& right) {
-    return content(left) == content(right);
-}
 
 namespace {
 

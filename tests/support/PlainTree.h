@@ -5,7 +5,10 @@
 #ifndef QENXML_TESTS_SUPPORT_PLAINTREE_H
 #define QENXML_TESTS_SUPPORT_PLAINTREE_H
 
+#include <cstdint>
+#include <cstring>
 #include <string>
+#include <tuple>
 #include <variant>
 #include <vector>
 
@@ -15,12 +18,26 @@
 
 namespace plain {
 
+/// For comparing doubles bit for bit.
+template <class... Numbers>
+auto bitsOf(Numbers... numbers) {
+    const auto bits = [](double number) {
+        std::uint64_t result = 0;
+        static_assert(sizeof result == sizeof number);
+        std::memcpy(&result, &number, sizeof result);
+        return result;
+    };
+    return std::make_tuple(bits(numbers)...);
+}
+
 struct CommercialFertilizer {
     boost::uuids::uuid recId{};
     int productId = 0;
     std::string productName;
     int uomId = 0;
     std::string uom;
+
+    auto content() const { return std::tie(recId, productId, productName, uomId, uom); }
 };
 
 struct CustomFertilizer {
@@ -33,6 +50,11 @@ struct CustomFertilizer {
     double gravity = 0.0;
     double n = 0.0, p = 0.0, k = 0.0, ca = 0.0, mg = 0.0, s = 0.0, fe = 0.0, mn = 0.0, zn = 0.0,
            cu = 0.0, b = 0.0, mo = 0.0, cl = 0.0;
+
+    auto content() const {
+        return std::tuple_cat(std::tie(recId, productId, productName, uomId, uom, typeId),
+                              bitsOf(gravity, n, p, k, ca, mg, s, fe, mn, zn, cu, b, mo, cl));
+    }
 };
 
 struct Planting {
@@ -45,6 +67,11 @@ struct Planting {
     std::string varietyName;
     int uomId = 0;
     std::string uom;
+
+    auto content() const {
+        return std::tie(recId, cropId, cropName, companyId, companyName, varietyId, varietyName,
+                        uomId, uom);
+    }
 };
 
 using Product = std::variant<std::monostate, CommercialFertilizer, CustomFertilizer, Planting>;
@@ -77,6 +104,14 @@ struct Rec {
     std::string areaUom;
     bool isUsed = false;
     boost::uuids::uuid package{};
+
+    auto content() const {
+        return std::tuple_cat(std::tie(fieldId, fieldGeometryId, name, id, geometry, creationDate,
+                                       editDate, dbfCol, operationName, operationId, seasonName,
+                                       seasonId, zoneId, product, rateUomId, rateUom, totalUomId,
+                                       totalUom, areaUomId, areaUom, isUsed, package),
+                              bitsOf(minimumRate, maximumRate, averageRate, total, area));
+    }
 };
 
 struct Geometry {
@@ -86,6 +121,10 @@ struct Geometry {
     double latitude = 0.0;
     double longitude = 0.0;
     double altitude = 0.0;
+
+    auto content() const {
+        return std::tuple_cat(std::tie(id, date, file), bitsOf(latitude, longitude, altitude));
+    }
 };
 
 struct Field {
@@ -95,6 +134,8 @@ struct Field {
     boost::uuids::uuid farmId{};
     std::vector<Geometry> geometries;
     std::vector<Rec> recs;
+
+    auto content() const { return std::tie(name, id, growerId, farmId, geometries, recs); }
 };
 
 struct Farm {
@@ -102,23 +143,24 @@ struct Farm {
     boost::uuids::uuid id{};
     boost::uuids::uuid growerId{};
     std::vector<Field> fields;
+
+    auto content() const { return std::tie(name, id, growerId, fields); }
 };
 
 struct Grower {
     std::string name;
     boost::uuids::uuid id{};
     std::vector<Farm> farms;
+
+    auto content() const { return std::tie(name, id, farms); }
 };
 
-// Everything is compared, doubles bit for bit.
-bool operator==(const CommercialFertilizer& left, const CommercialFertilizer& right);
-bool operator==(const CustomFertilizer& left, const CustomFertilizer& right);
-bool operator==(const Planting& left, const Planting& right);
-bool operator==(const Rec& left, const Rec& right);
-bool operator==(const Geometry& left, const Geometry& right);
-bool operator==(const Field& left, const Field& right);
-bool operator==(const Farm& left, const Farm& right);
-bool operator==(const Grower& left, const Grower& right);
+/// Everything is compared.
+template <class Record>
+auto operator==(const Record& left, const Record& right)
+    -> decltype(left.content() == right.content()) {
+    return left.content() == right.content();
+}
 
 // The lists are filled directly, so children with the same identifier all get into the tree.
 QenField toLibrary(const Field& field);

@@ -19,6 +19,12 @@ using ConstGetter = Result (Class::*)() const;
 template <class Class, class Argument>
 using Setter = void (Class::*)(Argument);
 
+/// What a getter gives, whose result has exactly the type @p Value.
+template <class Value, class Record, class Class>
+Value valueOf(Record& record, Getter<Class, Value> getter) {
+    return (record.*getter)();
+}
+
 template <class Class>
 using Comparison = bool (Class::*)(const Class&) const;
 

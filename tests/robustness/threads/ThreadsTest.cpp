@@ -43,6 +43,16 @@ void onThreads(const std::function<void(std::size_t)>& run) {
 /// locks.
 using Found = std::vector<std::vector<std::string>>;
 
+/// Expects that something reads the same on all threads at once, over and over.
+void expectEverywhere(const std::string& expected, const std::function<std::string()>& read) {
+    Found found(threadCount);
+    onThreads([&](std::size_t number) {
+        for (int i = 0; i < turns; ++i)
+            found[number].push_back(read());
+    });
+    EXPECT_EQ(Found(threadCount, std::vector<std::string>(turns, expected)), found);
+}
+
 std::string packageUuid(std::size_t number) {
     return test::uuidText(static_cast<unsigned>(1000 + number));
 }
@@ -167,21 +177,18 @@ TEST(Threads, CallElementReadersOnTheSameDocumentWithParsersOfTheirOwn) {
 TEST(Threads, CopyOneUnchangingTree) {
     const QenGrower grower = readGrower();
     const std::string expected = test::describe(grower);
-    Found found(threadCount);
-    onThreads([&](std::size_t number) {
-        for (int i = 0; i < turns; ++i) {
-            QenGrower copy = grower;
-            QenGrower assigned;
-            assigned = grower;
-            found[number].push_back(test::describe(copy) +
-                                    (assigned == grower && copy == assigned ? "equal" : "unequal"));
-            // Copies belong to their thread alone.
-            copy.setName("changed");
-            copy.farms().clear();
-            assigned.merge(grower);
-        }
+    expectEverywhere(expected + "equal", [&] {
+        QenGrower copy = grower;
+        QenGrower assigned;
+        assigned = grower;
+        const std::string found =
+            test::describe(copy) + (assigned == grower && copy == assigned ? "equal" : "unequal");
+        // Copies belong to their thread alone.
+        copy.setName("changed");
+        copy.farms().clear();
+        assigned.merge(grower);
+        return found;
     });
-    EXPECT_EQ(Found(threadCount, std::vector<std::string>(turns, expected + "equal")), found);
     EXPECT_EQ(expected, test::describe(grower));
 }
 
@@ -214,12 +221,7 @@ TEST(Threads, ReadOneUnchangingTreeThroughConstAccessors) {
     };
     const std::string expected = read();
     EXPECT_NE(std::string::npos, expected.find("samesame"));
-    Found found(threadCount);
-    onThreads([&](std::size_t number) {
-        for (int i = 0; i < turns; ++i)
-            found[number].push_back(read());
-    });
-    EXPECT_EQ(Found(threadCount, std::vector<std::string>(turns, expected)), found);
+    expectEverywhere(expected, read);
 }
 
 // Most getters are no const members, and change nothing all the same.
@@ -243,10 +245,5 @@ TEST(Threads, ReadOneUnchangingTreeThroughAllOtherGetters) {
     };
     const std::string expected = read();
     EXPECT_NE(std::string::npos, expected.find("\"mix\" 8"));
-    Found found(threadCount);
-    onThreads([&](std::size_t number) {
-        for (int i = 0; i < turns; ++i)
-            found[number].push_back(read());
-    });
-    EXPECT_EQ(Found(threadCount, std::vector<std::string>(turns, expected)), found);
+    expectEverywhere(expected, read);
 }
