@@ -35,6 +35,13 @@ void expectCopied(Data* data) {
     EXPECT_EQ(describe(copy.recData()), describe(data));
 }
 
+void expectCopiedWithoutProductData(const QenRec& rec) {
+    EXPECT_EQ(QenRec(rec).recData(), nullptr);
+    QenRec assigned;
+    assigned = rec;
+    EXPECT_EQ(assigned.recData(), nullptr);
+}
+
 } // namespace
 
 TEST(QenRec, ACopyHasEveryValue) {
@@ -75,10 +82,7 @@ TEST(QenRec, AssignmentCarriesTheUsedMarkAndTheFileName) {
 
 TEST(QenRec, ACopyOfARecWithoutProductDataHasNone) {
     const QenRec rec = wholeRec();
-    EXPECT_EQ(QenRec(rec).recData(), nullptr);
-    QenRec target;
-    target = rec;
-    EXPECT_EQ(target.recData(), nullptr);
+    expectCopiedWithoutProductData(rec);
 }
 
 TEST(QenRec, AssigningARecWithoutProductDataTakesTheTargetsAway) {
@@ -202,10 +206,7 @@ TEST(QenRec, CopiesDropProductDataOfAnUnknownKind) {
     for (const int kind : {0, 5, -1, 2147483647}) {
         SCOPED_TRACE(kind);
         QenRec rec = recOfKind(static_cast<RecType>(kind));
-        EXPECT_EQ(QenRec(rec).recData(), nullptr);
-        QenRec assigned;
-        assigned = rec;
-        EXPECT_EQ(assigned.recData(), nullptr);
+        expectCopiedWithoutProductData(rec);
         EXPECT_NE(rec.recData(), nullptr) << "the source keeps it";
     }
 }
@@ -215,20 +216,14 @@ TEST(QenRec, CopiesDropADefaultConstructedCustomFertilizer) {
     data->setRecId(test::uuid(1));
     data->setProductName("blend");
     const QenRec rec = wholeRec(data);
-    EXPECT_EQ(QenRec(rec).recData(), nullptr);
-    QenRec target;
-    target = rec;
-    EXPECT_EQ(target.recData(), nullptr);
+    expectCopiedWithoutProductData(rec);
 }
 
 TEST(QenRec, CopiesDropADefaultConstructedPesticideMix) {
     auto* data = new PesticideRec();
     data->setPesticideMixName("mix");
     const QenRec rec = wholeRec(data);
-    EXPECT_EQ(QenRec(rec).recData(), nullptr);
-    QenRec target;
-    target = rec;
-    EXPECT_EQ(target.recData(), nullptr);
+    expectCopiedWithoutProductData(rec);
 }
 
 TEST(QenRec, DroppedProductDataIsNotDeletedFromTheSource) {

@@ -10,6 +10,7 @@
 
 #include "parser/internal/TagConstants.h"
 #include "tests/package/Samples.h"
+#include "tests/support/PackageReading.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace {
@@ -59,10 +60,7 @@ TEST(PackageFormat, TheMinimalExampleReads) {
     const std::vector<std::string> examples = formatExamples({"<RecPackage"});
     ASSERT_EQ(examples.size(), 1U);
     EXPECT_EQ(readText(examples[0]), "\n  \n    \n      \ntrue");
-    const test::TemporaryFolder folder;
-    QenXmlParser parser;
-    ASSERT_TRUE(parser.parseFile(folder.writePackage(examples[0])));
-    QenGrower grower = parser.getGrowers().at(0);
+    QenGrower grower = test::growersOf(examples[0]).at(0);
     QenField& field = grower.farms().at(0).fields().at(0);
     EXPECT_EQ(field.centroid(field.recs().at(0).fieldGeometryId()).latitude, 0.0);
     EXPECT_EQ(field.geometryDate(field.recs().at(0).fieldGeometryId()), "");
@@ -81,10 +79,7 @@ TEST(PackageFormat, TheFullExampleReadsWithNothingLeftOut) {
                                      "      KAS, Zone Hang\n"
                                      "      Herbstmischung\n"
                                      "true");
-    const test::TemporaryFolder folder;
-    QenXmlParser parser;
-    ASSERT_TRUE(parser.parseFile(folder.writePackage(examples[0])));
-    forEachRec(parser.getGrowers(), [](QenRec& rec) {
+    forEachRec(test::growersOf(examples[0]), [](QenRec& rec) {
         SCOPED_TRACE(rec.name());
         ASSERT_NE(rec.recData(), nullptr);
         EXPECT_EQ(rec.recData()->recId(), rec.id());
@@ -136,11 +131,7 @@ TEST(PackageFormat, WhatTheSchemaDoesNotSeeIsAnErrorOrLost) {
         EXPECT_EQ(readText(changed(minimal[0], item, item + std::string("&#32;"))), invalid)
             << item;
 
-    const test::TemporaryFolder folder;
-    QenXmlParser parser;
-    ASSERT_TRUE(
-        parser.parseFile(folder.writePackage(changed(full[0], "<Planting>", "&#32;<Planting>"))));
-    QenGrower grower = parser.getGrowers().at(0);
+    QenGrower grower = test::growersOf(changed(full[0], "<Planting>", "&#32;<Planting>")).at(0);
     EXPECT_EQ(grower.farms().at(0).fields().at(0).recs().at(0).recData(), nullptr);
     EXPECT_NE(grower.farms().at(0).fields().at(0).recs().at(1).recData(), nullptr);
 }

@@ -13,13 +13,14 @@
 
 #include "model/CommercialFertilizerRec.h"
 #include "tests/support/Describe.h"
+#include "tests/support/PackageReading.h"
 #include "tests/support/PackageText.h"
-#include "tests/support/TemporaryFolder.h"
 #include "tests/support/Xml.h"
 
 namespace {
 
 using test::element;
+using test::fertilizer;
 using test::uuid;
 using test::Xml;
 
@@ -72,12 +73,6 @@ void expectReadAsAddedOneByOne(const std::string& grower) {
     ReplacedData replaced;
     const std::string oneByOne = test::describe(growerOneByOne(xml.root(), replaced));
     RC_ASSERT(oneByOne == test::describe(QenXmlParser().parseGrowerNode(xml.root())));
-}
-
-std::string fertilizer(const std::string& name) {
-    return element("RecData", element("CommercialFertilizer", "<ProductID>5</ProductID>" +
-                                                                  element("ProductName", name) +
-                                                                  "<UOMID>6</UOMID><UOM>kg</UOM>"));
 }
 
 QenGrower readGrower(const std::string& content) {
@@ -192,12 +187,9 @@ TEST(DuplicateIdentifier, OfANilFarmIsOneAsWell) {
 }
 
 TEST(DuplicateIdentifier, OfGrowersLeavesBoth) {
-    const test::TemporaryFolder folder;
-    QenXmlParser parser;
-    parser.parseFile(folder.writePackage(
+    std::vector<QenGrower> growers = test::growersOf(
         test::package(test::grower(1, "<GrowerName>first</GrowerName>" + test::farm(11)) +
-                      test::grower(1, "<GrowerName>last</GrowerName>"))));
-    std::vector<QenGrower> growers = parser.getGrowers();
+                      test::grower(1, "<GrowerName>last</GrowerName>")));
     ASSERT_EQ(2U, growers.size());
     EXPECT_EQ("first", growers[0].name());
     EXPECT_EQ(1U, growers[0].farms().size());

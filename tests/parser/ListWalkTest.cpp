@@ -11,8 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/PackageReading.h"
 #include "tests/support/PackageText.h"
-#include "tests/support/TemporaryFolder.h"
 #include "tests/support/Uuids.h"
 #include "tests/support/Xml.h"
 
@@ -71,10 +71,7 @@ protected:
 
     /// The identifiers of the items that are read from a package with this list.
     static Numbers read(const std::string& list) {
-        const test::TemporaryFolder folder;
-        QenXmlParser parser;
-        EXPECT_TRUE(parser.parseFile(folder.writePackage(GetParam().package(list))));
-        std::vector<QenGrower> growers = parser.getGrowers();
+        std::vector<QenGrower> growers = test::growersOf(GetParam().package(list));
         return GetParam().read(growers);
     }
 

@@ -117,16 +117,13 @@ protected:
 } // namespace
 
 TEST_F(ParseFile, ReadsAWholePackage) {
-    const string product =
-        element("CommercialFertilizer", "<ProductID>5</ProductID><ProductName>Urea</ProductName>"
-                                        "<UOMID>6</UOMID><UOM>kg</UOM>");
     const string recText = test::rec(
         31, "<RecName>Rec</RecName><CreationDate>today</CreationDate><EditDate>then</EditDate>"
             "<RecDBFCol>RATE</RecDBFCol><Operation OpID=\"" +
                 uuidText(34) +
                 "\"><OpName>Sowing</OpName></Operation>"
                 "<Season SeasonID=\"7\"><SeasonName>Spring</SeasonName></Season>" +
-                element("RecData", product) +
+                test::fertilizer() +
                 "<RecStats><MinimumRate>1</MinimumRate><MaximumRate>2</MaximumRate>"
                 "<AverageRate>1.5</AverageRate><RateUOMID>3</RateUOMID><RateUOM>kg/ha</RateUOM>"
                 "<Total>40</Total><TotalUOMID>4</TotalUOMID><TotalUOM>kg</TotalUOM>"
@@ -248,14 +245,6 @@ TEST_F(ParseFile, OfABrokenIdentifierAnywhereKeepsOnlyTheGrowersBefore) {
     const auto inRec = [&](const string& rec) {
         return inField(test::field(22, test::recommendations(test::rec(31) + rec)));
     };
-    const auto blend = [](const string& productId) {
-        string content = element("ProductID", productId);
-        for (const char* child : {"ProductName", "UOMID", "UOM", "SFertT_ID", "SpGravity", "Pct_N",
-                                  "Pct_P", "Pct_K", "Pct_Ca", "Pct_Mg", "Pct_S", "Pct_Fe", "Pct_Mn",
-                                  "Pct_Zn", "Pct_Cu", "Pct_B", "Pct_Mo", "Pct_Cl"})
-            content += element(child, "1");
-        return element("RecData", element("CustomFertilizer", content));
-    };
     const auto fieldOf = [](const string& geometryId, const string& geometry) {
         return element("Field", "FieldID", 23,
                        element("FieldGeometryID", geometryId) + element("FieldGeometry", geometry));
@@ -287,7 +276,7 @@ TEST_F(ParseFile, OfABrokenIdentifierAnywhereKeepsOnlyTheGrowersBefore) {
          [&](const string& id) {
              return inRec(test::rec(32, "<Operation OpID=\"" + id + "\"/>"));
          }},
-        {"ProductID", [&](const string& id) { return inRec(test::rec(32, blend(id))); }},
+        {"ProductID", [&](const string& id) { return inRec(test::rec(32, test::blend(id))); }},
     };
     for (const auto& [identifier, growerWith] : cases) {
         SCOPED_TRACE(identifier);

@@ -44,13 +44,7 @@ static_assert(!std::is_polymorphic_v<Parser>);
 
 /// A package of one rec with a blend.
 std::string packageWithBlend() {
-    std::string blend = test::element("ProductID", test::uuidText(41));
-    for (const char* name : {"ProductName", "UOMID", "UOM", "SFertT_ID", "SpGravity", "Pct_N",
-                             "Pct_P", "Pct_K", "Pct_Ca", "Pct_Mg", "Pct_S", "Pct_Fe", "Pct_Mn",
-                             "Pct_Zn", "Pct_Cu", "Pct_B", "Pct_Mo", "Pct_Cl"})
-        blend += test::element(name, "1");
-    const std::string rec =
-        test::rec(31, test::element("RecData", test::element("CustomFertilizer", blend)));
+    const std::string rec = test::rec(31, test::blend(test::uuidText(41)));
     return test::package(
         test::grower(1, test::farm(11, test::field(21, test::recommendations(rec)))) +
         test::grower(2));

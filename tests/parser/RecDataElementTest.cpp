@@ -12,8 +12,8 @@
 #include "model/PesticideRec.h"
 #include "model/PlantingRec.h"
 #include "tests/support/Describe.h"
+#include "tests/support/PackageReading.h"
 #include "tests/support/PackageText.h"
-#include "tests/support/TemporaryFolder.h"
 #include "tests/support/Xml.h"
 
 namespace {
@@ -173,10 +173,7 @@ TEST(RecDataElement, IsReadWithTheIdentifierOfItsRecFromAFile) {
     const std::string recs = recWith(31, commercial) + recWith(32, custom(test::uuidText(41))) +
                              recWith(33, planting) + recWith(34, pesticide) + test::rec(35) +
                              recWith(36, "text" + planting);
-    const test::TemporaryFolder folder;
-    QenXmlParser parser;
-    parser.parseFile(folder.writePackage(test::packageWithRecs(recs)));
-    std::vector<QenGrower> growers = parser.getGrowers();
+    std::vector<QenGrower> growers = test::growersOf(test::packageWithRecs(recs));
     std::vector<std::string> kinds;
     for (QenRec& rec : growers.at(0).farms().at(0).fields().at(0).recs()) {
         QenRecData* data = rec.recData();

@@ -87,12 +87,6 @@ test::Values noStatistics() {
     return values;
 }
 
-std::string fertilizer(const std::string& uom = "kg") {
-    return "<CommercialFertilizer><ProductID>5</ProductID><ProductName>Urea</ProductName>"
-           "<UOMID>6</UOMID><UOM>" +
-           uom + "</UOM></CommercialFertilizer>";
-}
-
 } // namespace
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Rec, ElementRules, RecElement, test::ElementNumber);
@@ -310,15 +304,15 @@ TEST(RecElement, WithEmptyProductDataHasNone) {
 }
 
 TEST(RecElement, OwnsProductDataThatCarryItsIdentifier) {
-    QenRec rec = readRec(test::rec(31, test::element("RecData", fertilizer())));
+    QenRec rec = readRec(test::rec(31, test::fertilizer()));
     const std::unique_ptr<QenRecData> expected =
         std::make_unique<CommercialFertilizerRec>(uuid(31), 5, "Urea", 6, "kg");
     EXPECT_EQ(test::describe(expected.get()), test::describe(rec.recData()));
 }
 
 TEST(RecElement, OfSeveralProductDataTakesTheFirst) {
-    const std::string first = test::element("RecData", fertilizer("first"));
-    const std::string second = test::element("RecData", fertilizer("second"));
+    const std::string first = test::fertilizer("Urea", "first");
+    const std::string second = test::fertilizer("Urea", "second");
     QenRec rec = readRec(test::rec(31, first + second));
     auto* data = dynamic_cast<CommercialFertilizerRec*>(rec.recData());
     ASSERT_NE(nullptr, data);
@@ -328,15 +322,7 @@ TEST(RecElement, OfSeveralProductDataTakesTheFirst) {
 }
 
 TEST(RecElement, WithABrokenProductIdentifierRaises) {
-    // All other children of a blend are there, so its identifier is looked at.
-    std::string blend = "<ProductID>broken</ProductID>";
-    for (const char* name : {"ProductName", "UOMID", "UOM", "SFertT_ID", "SpGravity", "Pct_N",
-                             "Pct_P", "Pct_K", "Pct_Ca", "Pct_Mg", "Pct_S", "Pct_Fe", "Pct_Mn",
-                             "Pct_Zn", "Pct_Cu", "Pct_B", "Pct_Mo", "Pct_Cl"})
-        blend += test::element(name, "1");
-    EXPECT_THROW(
-        readRec(test::rec(31, test::element("RecData", test::element("CustomFertilizer", blend)))),
-        std::runtime_error);
+    EXPECT_THROW(readRec(test::rec(31, test::blend("broken"))), std::runtime_error);
 }
 
 TEST(RecElement, WithABrokenIdentifierRaisesWithoutLosingProductData) {
@@ -344,7 +330,7 @@ TEST(RecElement, WithABrokenIdentifierRaisesWithoutLosingProductData) {
     for (const char* path : {"@RecID", "@MgmtZoneID", "RecGeometry", "Operation/@OpID"}) {
         SCOPED_TRACE(path);
         const RecSample sample;
-        const Xml data(test::element("RecData", fertilizer()));
+        const Xml data(test::fertilizer());
         sample.root().append_copy(data.root());
         sample.place(path).replace("broken");
         EXPECT_EQ(sample.expected({{"result", raises}}), sample.read());

@@ -10,8 +10,8 @@
 
 #include "model/PlantingRec.h"
 #include "parser/QenXmlParser.h"
+#include "tests/support/PackageReading.h"
 #include "tests/support/PackageText.h"
-#include "tests/support/TemporaryFolder.h"
 #include "tests/support/Xml.h"
 
 namespace {
@@ -69,11 +69,9 @@ std::string recWith(const std::string& content) {
 }
 
 void expectReadAsTheXmlLibraryReadsIt(const std::string& content) {
-    const test::TemporaryFolder folder;
-    QenXmlParser parser;
     const std::string rec = recWith(content);
-    ASSERT_TRUE(parser.parseFile(folder.writePackage(test::packageWithRecs(rec))));
-    QenRec read = parser.getGrowers().at(0).farms().at(0).fields().at(0).recs().at(0);
+    QenRec read =
+        test::growersOf(test::packageWithRecs(rec)).at(0).farms().at(0).fields().at(0).recs().at(0);
     const test::Xml xml(rec);
     for (const Value& value : values) {
         const pugi::xml_node node = xml.root().first_element_by_path(value.path);

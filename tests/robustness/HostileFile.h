@@ -91,6 +91,13 @@ protected:
         EXPECT_EQ(test::describe(read(usual).growers), test::describe(reading.growers));
     }
 
+    /// Expects a package to be read that has a farm with this name.
+    void expectFarm(const std::string& name, std::string_view content) {
+        test::Reading reading = read(content);
+        ASSERT_EQ(test::outcome::read, reading.outcome);
+        EXPECT_TRUE(name == reading.farmName()) << name.substr(0, 100); // it may be very long
+    }
+
     void expectRefused(std::string_view content) { expectOutcome(test::outcome::refused, content); }
 
     void expectOutcome(const std::string& expected, std::string_view content) {

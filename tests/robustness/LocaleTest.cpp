@@ -95,11 +95,7 @@ TEST_F(Locale, OfTheTestHasADecimalCommaThatMisleadsTheXmlLibrary) {
 
 TEST_F(Locale, OfTheProcessDoesNotChangeARate) {
     const ProcessLocale process(CommaLocale::name);
-    const test::TemporaryFolder folder;
-    QenXmlParser parser;
-    ASSERT_TRUE(
-        parser.parseFile(folder.writePackage(test::package(test::growerWithNumbers("12.75")))));
-    QenGrower grower = parser.getGrowers().at(0);
+    QenGrower grower = test::growersOf(test::package(test::growerWithNumbers("12.75"))).at(0);
     QenField& field = grower.farms().at(0).fields().at(0);
     EXPECT_EQ(12.75, field.recs().at(0).averageRate());
     EXPECT_EQ(12.75, dynamic_cast<CustomFertilizerRec&>(*field.recs().at(0).recData()).pct_N());

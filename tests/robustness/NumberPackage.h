@@ -18,13 +18,6 @@
 
 namespace test {
 
-inline std::string elements(const std::vector<std::string>& names, const std::string& content) {
-    std::string result;
-    for (const std::string& name : names)
-        result += element(name, content);
-    return result;
-}
-
 // Elements whose numbers are all spelt @p text.
 
 inline std::string commercialFertilizer(const std::string& text) {

@@ -9,6 +9,7 @@
 #define QENXML_TESTS_SUPPORT_PACKAGETEXT_H
 
 #include <string>
+#include <vector>
 
 #include "tests/support/Uuids.h"
 
@@ -28,6 +29,30 @@ inline std::string element(const std::string& name, const std::string& attribute
                            const std::string& content) {
     return "<" + name + " " + attribute + "=\"" + uuidText(number) + "\">" + content + "</" + name +
            ">";
+}
+
+inline std::string elements(const std::vector<std::string>& names, const std::string& content) {
+    std::string result;
+    for (const std::string& name : names)
+        result += element(name, content);
+    return result;
+}
+
+/// Product data that have everything.
+inline std::string fertilizer(const std::string& name = "Urea", const std::string& uom = "kg") {
+    return element("RecData", element("CommercialFertilizer",
+                                      "<ProductID>5</ProductID>" + element("ProductName", name) +
+                                          "<UOMID>6</UOMID>" + element("UOM", uom)));
+}
+
+/// Product data that have everything, so that the identifier of the product is looked at.
+inline std::string blend(const std::string& productId) {
+    const std::vector<std::string> others = {
+        "ProductName", "UOMID",  "UOM",    "SFertT_ID", "SpGravity", "Pct_N",
+        "Pct_P",       "Pct_K",  "Pct_Ca", "Pct_Mg",    "Pct_S",     "Pct_Fe",
+        "Pct_Mn",      "Pct_Zn", "Pct_Cu", "Pct_B",     "Pct_Mo",    "Pct_Cl"};
+    return element("RecData", element("CustomFertilizer",
+                                      element("ProductID", productId) + elements(others, "1")));
 }
 
 inline std::string rec(unsigned number, const std::string& content = "") {

@@ -15,6 +15,7 @@
 #include "tests/robustness/NumberPackage.h"
 #include "tests/robustness/Outcome.h"
 #include "tests/support/Describe.h"
+#include "tests/support/PackageReading.h"
 #include "tests/support/PackageText.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -67,10 +68,7 @@ std::string packageNumber(std::size_t number) {
 }
 
 QenGrower readGrower() {
-    const test::TemporaryFolder folder;
-    QenXmlParser parser;
-    parser.parseFile(folder.writePackage(packageNumber(5)));
-    QenGrower grower = parser.getGrowers().at(0);
+    QenGrower grower = test::growersOf(packageNumber(5)).at(0);
     // Beyond what a package yields: a second geometry, and the product data that is never read.
     QenField& field = grower.farms().at(0).fields().at(0);
     field.addFieldGeometry(
