@@ -46,8 +46,12 @@ std::string listOf(std::size_t count, const std::function<std::string(std::size_
     return result;
 }
 
+std::string inGrower(const std::string& content) {
+    return test::package(test::grower(1, content));
+}
+
 std::string inFarm(const std::string& content) {
-    return test::package(test::grower(1, test::farm(2, content)));
+    return inGrower(test::farm(2, content));
 }
 
 std::string inField(const std::string& recs) {
@@ -86,91 +90,67 @@ const std::string shortestProduct =
 /// Two children of a list that fail for lack of an identifier.
 const std::string twoItems = "x<a/>";
 
+using Count = std::size_t;
+
 struct Shape {
     std::string name;
-    std::function<std::string(std::size_t count)> content;
+    std::function<std::string(Count)> content;
 };
 
 const std::vector<Shape> shapes = {
-    {"nested <a>", [](std::size_t count) { return repeated("<a>", count); }},
-    {"nested <a>x", [](std::size_t count) { return repeated("<a>x", count); }},
-    {"nested <a>x in UTF-16", [](std::size_t count) { return inUtf16(repeated("<a>x", count)); }},
-    {"<a/>", [](std::size_t count) { return test::package(repeated("<a/>", count)); }},
-    {"<a/>x", [](std::size_t count) { return test::package(repeated("<a/>x", count)); }},
-    {"<a/>x in UTF-16",
-     [](std::size_t count) { return inUtf16(test::package(repeated("<a/>x", count))); }},
-    {"attributes",
-     [](std::size_t count) { return "<RecPackage" + repeated(" a=\"\"", count) + "/>"; }},
-    {"one text",
-     [](std::size_t count) { return test::package(test::element("a", std::string(count, 'x'))); }},
+    {"nested <a>", [](Count n) { return repeated("<a>", n); }},
+    {"nested <a>x", [](Count n) { return repeated("<a>x", n); }},
+    {"nested <a>x in UTF-16", [](Count n) { return inUtf16(repeated("<a>x", n)); }},
+    {"<a/>", [](Count n) { return test::package(repeated("<a/>", n)); }},
+    {"<a/>x", [](Count n) { return test::package(repeated("<a/>x", n)); }},
+    {"<a/>x in UTF-16", [](Count n) { return inUtf16(test::package(repeated("<a/>x", n))); }},
+    {"attributes", [](Count n) { return "<RecPackage" + repeated(" a=\"\"", n) + "/>"; }},
+    {"one text", [](Count n) { return test::package(test::element("a", std::string(n, 'x'))); }},
     {"one name",
-     [](std::size_t count) {
-         return test::package(
-             test::grower(1, test::element("GrowerName", std::string(count, 'x'))));
-     }},
+     [](Count n) { return inGrower(test::element("GrowerName", std::string(n, 'x'))); }},
     {"one name in Latin-1",
-     [](std::size_t count) {
-         return latin1 + test::package(test::grower(
-                             1, test::element("GrowerName", std::string(count, '\xE4'))));
+     [](Count n) {
+         return latin1 + inGrower(test::element("GrowerName", std::string(n, '\xE4')));
      }},
     {"one name in UTF-16",
-     [](std::size_t count) {
-         return inUtf16(
-             test::package(test::grower(1, test::element("GrowerName", std::string(count, 'x')))));
-     }},
-    {"growers", [](std::size_t count) { return test::package(listOf(count, shortestGrower)); }},
-    {"farms",
-     [](std::size_t count) { return test::package(test::grower(1, listOf(count, shortestFarm))); }},
+     [](Count n) { return inUtf16(inGrower(test::element("GrowerName", std::string(n, 'x')))); }},
+    {"growers", [](Count n) { return test::package(listOf(n, shortestGrower)); }},
+    {"farms", [](Count n) { return inGrower(listOf(n, shortestFarm)); }},
     {"farms, one twice",
-     [](std::size_t count) {
-         return test::package(test::grower(
-             1, listOf(count, [](std::size_t n) { return shortestFarm(oneTwice(n)); })));
+     [](Count n) {
+         return inGrower(listOf(n, [](Count k) { return shortestFarm(oneTwice(k)); }));
      }},
-    {"fields", [](std::size_t count) { return inFarm(listOf(count, shortestField)); }},
+    {"fields", [](Count n) { return inFarm(listOf(n, shortestField)); }},
     {"fields, one twice",
-     [](std::size_t count) {
-         return inFarm(listOf(count, [](std::size_t n) { return shortestField(oneTwice(n)); }));
-     }},
-    {"recs",
-     [](std::size_t count) {
-         return inField(listOf(count, [](std::size_t n) { return shortestRec(n); }));
-     }},
+     [](Count n) { return inFarm(listOf(n, [](Count k) { return shortestField(oneTwice(k)); })); }},
+    {"recs", [](Count n) { return inField(listOf(n, [](Count k) { return shortestRec(k); })); }},
     {"recs, one twice",
-     [](std::size_t count) {
-         return inField(listOf(count, [](std::size_t n) { return shortestRec(oneTwice(n)); }));
-     }},
-    {"recs, all the same",
-     [](std::size_t count) { return inField(repeated(shortestRec(1), count)); }},
+     [](Count n) { return inField(listOf(n, [](Count k) { return shortestRec(oneTwice(k)); })); }},
+    {"recs, all the same", [](Count n) { return inField(repeated(shortestRec(1), n)); }},
     {"recs with products",
-     [](std::size_t count) {
-         return inField(
-             listOf(count, [](std::size_t n) { return shortestRec(n, shortestProduct); }));
+     [](Count n) {
+         return inField(listOf(n, [](Count k) { return shortestRec(k, shortestProduct); }));
      }},
     {"recs with products in UTF-16",
-     [](std::size_t count) {
+     [](Count n) {
          return inUtf16(
-             inField(listOf(count, [](std::size_t n) { return shortestRec(n, shortestProduct); })));
+             inField(listOf(n, [](Count k) { return shortestRec(k, shortestProduct); })));
      }},
     {"recs with names beyond the small-string size",
-     [](std::size_t count) {
-         return inField(listOf(count, [](std::size_t n) {
-             return shortestRec(n, test::element("RecName", "0123456789abcdef"));
+     [](Count n) {
+         return inField(listOf(n, [](Count k) {
+             return shortestRec(k, test::element("RecName", "0123456789abcdef"));
          }));
      }},
-    {"recs that fail",
-     [](std::size_t count) { return inField("<Rec/>" + repeated(twoItems, count)); }},
-    {"fields that fail",
-     [](std::size_t count) { return inFarm("<Field/>" + repeated(twoItems, count)); }},
-    {"farms that fail",
-     [](std::size_t count) {
-         return test::package(test::grower(1, "<Farm/>" + repeated(twoItems, count)));
-     }},
+    {"recs that fail", [](Count n) { return inField("<Rec/>" + repeated(twoItems, n)); }},
+    {"fields that fail", [](Count n) { return inFarm("<Field/>" + repeated(twoItems, n)); }},
+    {"farms that fail", [](Count n) { return inGrower("<Farm/>" + repeated(twoItems, n)); }},
     {"lists that fail on all levels",
-     [](std::size_t count) {
-         const std::string items = repeated(twoItems, count);
-         return test::package(test::grower(
-             1, test::farm(2, test::field(3, test::recommendations("<Rec/>" + items)) + items) +
-                    items));
+     [](Count n) {
+         const std::string items = repeated(twoItems, n);
+         return inGrower(
+             test::farm(2, test::field(3, test::recommendations("<Rec/>" + items)) + items) +
+             items);
      }},
 };
 
