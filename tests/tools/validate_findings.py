@@ -8,6 +8,7 @@ import json
 import pathlib
 import subprocess
 import sys
+import tempfile
 
 import jsonschema
 
@@ -28,7 +29,11 @@ def check(*arguments, code):
     return document
 
 
-samples = check("missing\x1b\n.xml", ".", code=1)
+# None of the samples has an error behind another.
+errors = tempfile.NamedTemporaryFile(suffix="00112233-4455-6677-8899-aabbccddeeff.xml")
+errors.write(b"<RecPackage><Grower/>\n<Grower/></RecPackage>")
+errors.flush()
+samples = check("missing\x1b\n.xml", ".", errors.name, code=1)
 none = check("3ce1268c-9c80-42e3-bfec-3fee8ed2305d.xml", code=0)
 assert none["files"][0]["findings"] == [], none
 assert len(samples["files"]) > 40, "the samples are there"
@@ -38,10 +43,28 @@ for count, severity in (("errors", "error"), ("warnings", "warning"), ("notes", 
     assert counts == [file[count] for file in samples["files"]], count
     assert sum(counts) == samples[count] > 0, count
 
+# Lines and offsets agree, and there are consequences of all kinds.
+kinds = set()
+for file in samples["files"]:
+    kinds |= {finding["consequence"]["kind"] for finding in file["findings"]}
+    if not any("line" in finding for finding in file["findings"]):
+        continue  # The file may not be there.
+    content = (source / "examples/packages" / file["file"]).read_bytes()
+    for finding in file["findings"]:
+        if "line" in finding:
+            begin, end = finding["offset"], finding["offset"] + finding["length"]
+            assert end <= len(content), finding
+            assert finding["line"] == content[:begin].count(b"\n") + 1, finding
+            assert finding["endLine"] == content[:end].count(b"\n") + 1, finding
+known = {kind["properties"]["kind"]["const"] for kind in schema["$defs"]["consequence"]["oneOf"]}
+assert known - kinds == {"check-ends"}, (known, kinds)  # Memory does not run out here.
+
 # The schema refuses what is wrong, so that the validation above means something.
 finding = samples["files"][0]["findings"][0]
 for change in ({"code": "Wrong"}, {"severity": "fatal"}, {"line": 3}, {"found": "a\x1b"},
-               {"other": ""}):
+               {"other": ""}, {"records": "farm"}, {"records": [{"kind": "barn", "name": ""}]},
+               {"consequence": "it is kept"}, {"consequence": {"kind": "read-as", "text": ""}},
+               {"consequence": {"kind": "kept", "text": "", "line": 1}}):
     wrong = copy.deepcopy(samples)
     wrong["files"][0]["findings"][0] = {**finding, **change}
     assert not validator.is_valid(wrong), change

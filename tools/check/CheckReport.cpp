@@ -4,17 +4,20 @@
 
 #include "tools/text/Escape.h"
 
-void CheckReport::send(FindingCode code, std::size_t offset, std::string_view step, Texts texts) {
-    Finding finding;
-    finding.code = kindOf(code).code;
-    finding.severity = kindOf(code).severity;
-    finding.position = source_.position(offset);
-    finding.path = path(step);
-    finding.records = records();
-    finding.found = std::move(texts.found);
-    finding.consequence = std::move(texts.consequence);
-    finding.excerpt = source_.excerpt(offset);
-    sink_.add(finding);
+void CheckReport::add(FindingCode code, Extent extent, std::string_view step,
+                      const MakeDetails& make) {
+    const bool error = kindOf(code).severity == Severity::Error;
+    if (sink_.wants(code)) {
+        Details details = make();
+        if (error)
+            details.consequence = errorConsequence();
+        sink_.add({code, std::move(details.found), std::move(details.consequence),
+                   source_.location(extent), path(step), records_});
+    } else {
+        sink_.addCode(code);
+    }
+    if (error)
+        noteError(extent.offset);
 }
 
 void CheckReport::noteError(std::size_t offset) {
@@ -25,24 +28,12 @@ void CheckReport::noteError(std::size_t offset) {
     growerOfFirstError_ = grower_;
 }
 
-std::string CheckReport::errorConsequence() const {
+Consequence CheckReport::errorConsequence() const {
     if (grower_ == 0)
-        return "nothing of the file is read";
-    if (firstError_ && growerOfFirstError_ == grower_)
-        return fmt::format("this grower is not read because of line {}; it is not enough to mend "
-                           "that alone",
-                           line(*firstError_));
+        return NothingRead{};
     if (firstError_)
-        return fmt::format("reading ends before this, because of line {}; once {} mended, it ends "
-                           "here",
-                           line(*firstError_),
-                           errors_ == 1 ? "that is"
-                                        : fmt::format("the {} errors before it are", errors_));
-    const std::size_t before = grower_ - 1;
-    const std::string kept = before == 0   ? "; no grower is"
-                             : before == 1 ? "; the grower before it is"
-                                           : fmt::format("; the {} growers before it are", before);
-    return "this grower and the rest of the file are not read" + kept;
+        return NotReached{line(*firstError_), errors_, growerOfFirstError_ == grower_};
+    return ReadingEnds{grower_ - 1};
 }
 
 std::string CheckReport::path(std::string_view step) const {
@@ -55,15 +46,4 @@ std::string CheckReport::path(std::string_view step) const {
     if (!step.empty())
         path += "/" + escapeExcerpt(step);
     return path;
-}
-
-std::string CheckReport::records() const {
-    std::string records;
-    for (const auto& [kind, name] : records_) {
-        if (*name == '\0')
-            continue;
-        records += records.empty() ? "" : ", ";
-        records += fmt::format("{} \"{}\"", kind, escapeExcerpt(name));
-    }
-    return records;
 }

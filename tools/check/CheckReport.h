@@ -2,6 +2,7 @@
 #define QENXML_TOOLS_CHECK_CHECKREPORT_H
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,45 +15,42 @@
 /// Where the check of a package is, and the way of its findings to their sink.
 class CheckReport {
 public:
-    /// What a finding says. The consequence of an error is the same for all of them and left empty.
-    struct Texts {
+    /// What is said of a finding. The consequence of an error is the same for all of them and left
+    /// out.
+    struct Details {
         std::string found;
-        std::string consequence;
+        Consequence consequence = {};
     };
+    using MakeDetails = std::function<Details()>;
 
     CheckReport(const SourceText& source, FindingSink& sink) : source_(source), sink_(sink) {}
 
     const SourceText& source() const { return source_; }
 
     /// Adds a finding about the element that the check is in, or about something in it. Findings
-    /// come in the order of their places: they are handed on at once, as there may be more of them
-    /// than fit into memory.
+    /// come in the order of the file: they are handed on at once, as there may be more of them than
+    /// fit into memory.
     ///
-    /// @param offset    where it is in the source
-    /// @param step      the last step of the path, such as "@RecID"; empty for the element itself
-    /// @param makeTexts returns the texts; called only when they are wanted
-    template <class MakeTexts>
-    void add(FindingCode code, std::size_t offset, std::string_view step, MakeTexts makeTexts) {
-        const bool error = kindOf(code).severity == Severity::Error;
-        if (sink_.wants(code)) {
-            Texts texts = makeTexts();
-            if (error)
-                texts.consequence = errorConsequence();
-            send(code, offset, step, std::move(texts));
-        }
-        if (error)
-            noteError(offset);
+    /// @param extent what of the source it is about
+    /// @param step   the last step of the path, such as "@RecID"; empty for the element itself
+    /// @param make   called only when the details are wanted
+    void add(FindingCode code, Extent extent, std::string_view step, const MakeDetails& make);
+
+    /// As above, about a node.
+    void add(FindingCode code, pugi::xml_node node, std::string_view step,
+             const MakeDetails& make) {
+        add(code, source_.extent(node), step, make);
     }
 
     /// The check comes to the next grower.
     void beginGrower() { ++grower_; }
 
     /// The check has come so far.
-    void reach(std::size_t offset) {
+    void progress(std::size_t offset) {
         sink_.progress(static_cast<double>(offset) / static_cast<double>(source_.text().size()));
     }
 
-    /// The line of a place in the source.
+    /// The line of an offset in the source.
     std::size_t line(std::size_t offset) const { return source_.position(offset).line; }
 
     /// Being in an element, from construction to destruction.
@@ -74,10 +72,8 @@ public:
     /// Being in a record, from construction to destruction.
     class InRecord {
     public:
-        /// @param kind what it is: "farm"
-        /// @param name what it is called; lives longer
-        InRecord(CheckReport& report, const char* kind, const char* name) : report_(report) {
-            report.records_.emplace_back(kind, name);
+        InRecord(CheckReport& report, RecordName record) : report_(report) {
+            report.records_.push_back(std::move(record));
         }
         InRecord(const InRecord&) = delete;
         InRecord& operator=(const InRecord&) = delete;
@@ -88,16 +84,14 @@ public:
     };
 
 private:
-    void send(FindingCode code, std::size_t offset, std::string_view step, Texts texts);
     void noteError(std::size_t offset);
-    std::string errorConsequence() const;
+    Consequence errorConsequence() const;
     std::string path(std::string_view step) const;
-    std::string records() const;
 
     const SourceText& source_;
     FindingSink& sink_;
     std::vector<std::pair<const char*, std::size_t>> path_;
-    std::vector<std::pair<const char*, const char*>> records_;
+    std::vector<RecordName> records_;
     std::size_t grower_ = 0; ///< Number of the grower, from 1.
     std::size_t errors_ = 0;
     std::optional<std::size_t> firstError_;

@@ -1,19 +1,24 @@
 #include "tools/check/ElementCheck.h"
 
 #include <algorithm>
+#include <optional>
 
 #include <boost/uuid/uuid_io.hpp>
 #include <fmt/format.h>
 
 #include "tools/check/IdentifierReading.h"
-#include "tools/check/ValuePlace.h"
+#include "tools/check/NameCounts.h"
+#include "tools/check/NumberReading.h"
+#include "tools/check/ValueOffset.h"
 #include "tools/text/Escape.h"
 #include "tools/text/NameSuggestion.h"
 #include "tools/text/Utf8.h"
 
 namespace {
 
-using Texts = CheckReport::Texts;
+using Details = CheckReport::Details;
+
+constexpr std::string_view whiteSpace = " \t\r\n";
 
 /// Whether an attribute means something to XML itself, so that nobody expects it to be read.
 bool belongsToXml(std::string_view attribute) {
@@ -38,7 +43,6 @@ std::vector<const char*> absentNames(const std::vector<DatumFormat>& formats, Is
 
 /// A text without the white space around it.
 std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view whiteSpace = " \t\r\n";
     const std::size_t begin = std::min(text.find_first_not_of(whiteSpace), text.size());
     return text.substr(begin, text.find_last_not_of(whiteSpace) + 1 - begin);
 }
@@ -46,6 +50,58 @@ std::string_view trimmed(std::string_view text) {
 std::string quoted(std::string_view text) {
     return fmt::format("\"{}\"", escapeExcerpt(text));
 }
+
+const DatumFormat* find(const std::vector<DatumFormat>& formats, const char* name) {
+    for (const DatumFormat& format : formats) {
+        if (std::string_view(format.name) == name)
+            return &format;
+    }
+    return nullptr;
+}
+
+/// Numbers the children of an element among those of the same name.
+class Numbering {
+public:
+    explicit Numbering(const ElementFormat& format)
+        : format_(format), data_(format.children.size()) {}
+
+    /// @param datum what the node is, null when it is no child that is there once
+    std::size_t next(pugi::xml_node node, const DatumFormat* datum) {
+        if (datum != nullptr)
+            return ++data_[static_cast<std::size_t>(datum - format_.children.data())];
+        const bool item =
+            format_.item != nullptr && std::string_view(format_.item->name) == node.name();
+        return item ? ++items_ : others_.next(node.name());
+    }
+
+private:
+    const ElementFormat& format_;
+    std::vector<std::size_t> data_;
+    std::size_t items_ = 0;
+    NameCounts others_;
+};
+
+/// The names that a misspelt child may stand for: those of the items of the list, and those that
+/// are not there already. They are looked for once, as there may be many such children.
+class AbsentNames {
+public:
+    AbsentNames(const ElementFormat& format, pugi::xml_node node) : format_(format), node_(node) {}
+
+    const std::vector<const char*>& names() {
+        if (!names_) {
+            names_ = absentNames(format_.children,
+                                 [&](const char* name) { return !node_.child(name).empty(); });
+            if (format_.item != nullptr)
+                names_->push_back(format_.item->name);
+        }
+        return *names_;
+    }
+
+private:
+    const ElementFormat& format_;
+    pugi::xml_node node_;
+    std::optional<std::vector<const char*>> names_;
+};
 
 } // namespace
 
@@ -58,19 +114,11 @@ bool isText(pugi::xml_node node) {
     return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata;
 }
 
-const DatumFormat* ElementCheck::find(const std::vector<DatumFormat>& formats, const char* name) {
-    for (const DatumFormat& format : formats) {
-        if (std::string_view(format.name) == name)
-            return &format;
-    }
-    return nullptr;
-}
-
 void ElementCheck::missingIdentifiers(const ElementFormat& format, pugi::xml_node node) {
     for (const DatumFormat& datum : format.attributes) {
         if (!datum.fault || datum.mayBeEmpty || node.attribute(datum.name))
             continue;
-        report_.add(*datum.fault, report_.source().offset(node), "", [&] {
+        report_.add(*datum.fault, node, "", [&] {
             std::string found =
                 fmt::format("{} has no attribute {}", escapeExcerpt(node.name()), datum.name);
             if (node.child(datum.name))
@@ -80,30 +128,44 @@ void ElementCheck::missingIdentifiers(const ElementFormat& format, pugi::xml_nod
                     !nearestName(other.name(), {datum.name}).empty())
                     found += fmt::format("; {} is not read", quoted(other.name()));
             }
-            return Texts{found, ""};
+            return Details{found};
         });
     }
     for (const DatumFormat& datum : format.children) {
         if (!datum.fault || node.child(datum.name))
             continue;
-        report_.add(*datum.fault, report_.source().offset(node), "", [&] {
+        report_.add(*datum.fault, node, "", [&] {
             const bool asAttribute = !node.attribute(datum.name).empty();
-            return Texts{fmt::format("{} has no element {}{}", escapeExcerpt(node.name()),
-                                     datum.name,
-                                     asAttribute ? "; an attribute of that name is not read" : ""),
-                         ""};
+            return Details{
+                fmt::format("{} has no element {}{}", escapeExcerpt(node.name()), datum.name,
+                            asAttribute ? "; an attribute of that name is not read" : "")};
         });
     }
 }
 
-const std::vector<const char*>& ElementCheck::AbsentNames::names() {
-    if (!names_) {
-        names_ = absentNames(format_.children,
-                             [&](const char* name) { return !node_.child(name).empty(); });
-        if (format_.item != nullptr)
-            names_->push_back(format_.item->name);
+void ElementCheck::children(const ElementFormat& format, pugi::xml_node node,
+                            const std::function<void(const DatumFormat&, pugi::xml_node)>& onChild,
+                            const std::function<void(pugi::xml_node, std::size_t)>& onItem) {
+    const pugi::xml_node firstItem =
+        format.item == nullptr ? pugi::xml_node() : node.child(format.item->name);
+    Numbering numbering(format);
+    AbsentNames absent(format, node);
+    bool inList = false;
+    for (const pugi::xml_node child : node.children()) {
+        inList = inList || child == firstItem;
+        const DatumFormat* const datum = find(format.children, child.name());
+        const std::size_t number = numbering.next(child, datum);
+        if (inList)
+            onItem(child, number);
+        else if (child.type() != pugi::node_element)
+            strayText(format, child);
+        else if (datum == nullptr)
+            unknownElement(format, child, number, absent.names(), !firstItem.empty());
+        else if (number > 1)
+            repeatedElement(child, number);
+        else
+            onChild(*datum, child);
     }
-    return *names_;
 }
 
 void ElementCheck::attributes(const std::vector<DatumFormat>& known, pugi::xml_node node,
@@ -125,17 +187,16 @@ void ElementCheck::attributes(const std::vector<DatumFormat>& known, pugi::xml_n
         seen[index] = true;
         if (onKnown)
             onKnown(attribute);
-        reading(*datum, attribute.value(), valueOffset(node, attribute),
+        reading(*datum, attribute.value(), report_.source().extent(node, attribute),
                 fmt::format("@{}", attribute.name()));
     }
 }
 
 void ElementCheck::repeatedAttribute(pugi::xml_node node, pugi::xml_attribute attribute) {
-    report_.add(FindingCode::RepeatedAttribute, nameOffset(node, attribute),
+    report_.add(FindingCode::RepeatedAttribute, nameExtent(node, attribute),
                 fmt::format("@{}", attribute.name()), [&] {
-                    return Texts{fmt::format("{} is repeated", attribute.name()),
-                                 fmt::format("{} is ignored; the first one counts",
-                                             quoted(attribute.value()))};
+                    return Details{fmt::format("{} is repeated", attribute.name()),
+                                   Dropped{escapeExcerpt(attribute.value())}};
                 });
 }
 
@@ -146,7 +207,7 @@ void ElementCheck::unknownAttribute(pugi::xml_node node, pugi::xml_attribute att
         return;
     const FindingCode code =
         nearest.empty() ? FindingCode::UnknownAttribute : FindingCode::MisspeltAttribute;
-    report_.add(code, nameOffset(node, attribute), fmt::format("@{}", name), [&] {
+    report_.add(code, nameExtent(node, attribute), fmt::format("@{}", name), [&] {
         const std::string places = nearest.empty() ? placesOf(name) : "";
         std::string found =
             fmt::format("{} is no attribute of {}", quoted(name), escapeExcerpt(node.name()));
@@ -154,7 +215,7 @@ void ElementCheck::unknownAttribute(pugi::xml_node node, pugi::xml_attribute att
             found += fmt::format("; is {} meant?", nearest);
         if (!places.empty())
             found += fmt::format("; it is read {}", places);
-        return Texts{found, fmt::format("its value {} is ignored", quoted(attribute.value()))};
+        return Details{found, Dropped{escapeExcerpt(attribute.value())}};
     });
 }
 
@@ -171,30 +232,27 @@ void ElementCheck::unknownElement(const ElementFormat& format, pugi::xml_node no
                              : !nearest.empty()   ? FindingCode::MisspeltElement
                              : !places.empty()    ? FindingCode::MisplacedElement
                                                   : FindingCode::UnknownElement;
-    report_.add(code, report_.source().offset(node), pathStep(node.name(), number), [&] {
+    report_.add(code, node, pathStep(node.name(), number), [&] {
         std::string found = fmt::format("{} is not read in {}", quoted(name), format.name);
         if (!nearest.empty())
             found += fmt::format("; is {} meant?", nearest);
         if (!places.empty())
             found += fmt::format(", but {}", places);
-        return Texts{found, "the element is skipped with everything in it"};
+        return Details{found, Dropped{escapeExcerpt(name)}};
     });
 }
 
 void ElementCheck::repeatedElement(pugi::xml_node node, std::size_t number) {
-    report_.add(FindingCode::RepeatedElement, report_.source().offset(node),
-                pathStep(node.name(), number), [&] {
-                    return Texts{fmt::format("{} is repeated", node.name()),
-                                 "the element is ignored with everything in it; the first one "
-                                 "counts"};
-                });
+    report_.add(FindingCode::RepeatedElement, node, pathStep(node.name(), number), [&] {
+        return Details{fmt::format("{} is repeated", node.name()), Dropped{node.name()}};
+    });
 }
 
 void ElementCheck::strayText(const ElementFormat& format, pugi::xml_node text) {
-    report_.add(FindingCode::StrayText, report_.source().offset(text), "text()", [&] {
-        return Texts{fmt::format("the text {} stands in {}, which holds elements only",
-                                 quotedText(text.value()), format.name),
-                     "the text is ignored"};
+    report_.add(FindingCode::StrayText, text, "text()", [&] {
+        return Details{fmt::format("the text {} stands in {}, which holds elements only",
+                                   quotedText(text.value()), format.name),
+                       Dropped{escapeExcerpt(trimmed(text.value()))}};
     });
 }
 
@@ -202,12 +260,10 @@ void ElementCheck::value(const DatumFormat& datum, pugi::xml_node node) {
     const CheckReport::Inside inside(report_, node.name());
     const pugi::xml_node held = node.text().data(); // the first text
     const auto readHeld = [&] {
-        const std::size_t offset =
-            held ? static_cast<std::size_t>(held.offset_debug()) : report_.source().offset(node);
-        reading(datum, held.value(), offset, "");
+        const SourceText& source = report_.source();
+        reading(datum, held.value(), held ? source.wholeText(held) : source.extent(node), "");
     };
-    // In the order of their places: what is said of a text that is not there, is said of the
-    // element.
+    // In the order of the file: what is said of a text that is not there, is said of the element.
     if (!held)
         readHeld();
     attributes({}, node);
@@ -218,13 +274,13 @@ void ElementCheck::value(const DatumFormat& datum, pugi::xml_node node) {
         readHeld();
 }
 
-void ElementCheck::reading(const DatumFormat& datum, const char* text, std::size_t offset,
+void ElementCheck::reading(const DatumFormat& datum, const char* text, Extent extent,
                            std::string_view step) {
     if (datum.kind == qenxml::format::Kind::Identifier)
-        identifier(datum, text, offset, step);
+        identifier(datum, text, extent, step);
     else if (datum.kind == qenxml::format::Kind::Integer ||
              datum.kind == qenxml::format::Kind::Number)
-        number(datum, text, offset, step);
+        number(datum, text, extent, step);
 }
 
 void ElementCheck::cutOffText(pugi::xml_node node) {
@@ -232,70 +288,85 @@ void ElementCheck::cutOffText(pugi::xml_node node) {
     const pugi::xml_node rest = isText(first) ? first.next_sibling() : first;
     if (!rest)
         return;
-    report_.add(FindingCode::TextCutOff, report_.source().offset(rest), "", [&] {
+    report_.add(FindingCode::TextCutOff, rest, "", [&] {
         const std::string what =
             isText(rest) ? fmt::format("its text goes on with {}", quotedText(rest.value()))
                          : fmt::format("it holds the element {}", quoted(rest.name()));
-        return Texts{fmt::format("{} is more than one piece of text: {}", node.name(), what),
-                     fmt::format("it is read as {}", quoted(node.text().as_string()))};
+        return Details{fmt::format("{} is more than one piece of text: {}", node.name(), what),
+                       ReadAs{escapeExcerpt(node.text().as_string())}};
     });
 }
 
-void ElementCheck::identifier(const DatumFormat& datum, std::string_view text, std::size_t offset,
+/// Where some bytes of a value stand.
+///
+/// @param extent where the value stands, or its element when there is none
+Extent ElementCheck::partOf(Extent extent, std::string_view value, std::size_t index,
+                            std::size_t length) const {
+    if (value.empty())
+        return extent;
+    const std::string_view source = report_.source().text();
+    const std::size_t begin = sourceOffset(source, extent.offset, index);
+    return {begin, sourceOffset(source, extent.offset, index + length) - begin};
+}
+
+/// As above, up to the white space at the end of the value.
+Extent ElementCheck::restOf(Extent extent, std::string_view value, std::size_t index) const {
+    const std::size_t end = value.find_last_not_of(whiteSpace) + 1;
+    return partOf(extent, value, index, std::max(end, index) - index);
+}
+
+void ElementCheck::identifier(const DatumFormat& datum, std::string_view text, Extent extent,
                               std::string_view step) {
     const IdentifierReading identifier = readIdentifier(text);
-    const auto at = [&](std::size_t place) {
-        return placeOfValue(report_.source().text(), offset, place);
-    };
     if (identifier.fault != IdentifierReading::Fault::None) {
         if (datum.fault && !(datum.mayBeEmpty && text.empty()))
-            report_.add(*datum.fault, at(identifier.faultPlace), step, [&] {
-                return Texts{fmt::format("{} {}", datum.name, describeFault(identifier, text)), ""};
+            report_.add(*datum.fault, restOf(extent, text, identifier.faultPlace), step, [&] {
+                return Details{fmt::format("{} {}", datum.name, describeFault(identifier, text))};
             });
         return;
     }
-    const auto readAs = [&] {
-        return fmt::format("it is read as {}", to_string(identifier.value));
-    };
+    const ReadAs readAs{to_string(identifier.value)};
     const bool nilHasMeaning = datum.mayBeEmpty || datum.fault == FindingCode::OperationId;
     if (identifier.value.is_nil() && !nilHasMeaning)
-        report_.add(FindingCode::NilIdentifier, offset, step, [&] {
-            return Texts{fmt::format("{} is nil, which stands for \"none\"", datum.name),
-                         "hosts cannot tell it from an identifier that is not there"};
+        report_.add(FindingCode::NilIdentifier, restOf(extent, text, 0), step, [&] {
+            return Details{fmt::format("{} is nil, which stands for \"none\"", datum.name), Kept{}};
         });
-    if (identifier.wrongDigits > 0)
-        report_.add(FindingCode::IdentifierDigit, at(identifier.wrongPlace), step, [&] {
-            const std::string others =
-                identifier.wrongDigits > 1
-                    ? fmt::format(", nor {} {} more", identifier.wrongDigits == 2 ? "is" : "are",
-                                  identifier.wrongDigits - 1)
-                    : "";
-            const std::string_view wrong = text.substr(identifier.wrongPlace);
-            return Texts{fmt::format("{} {}: {} is no hexadecimal digit{}", datum.name,
-                                     quoted(text),
-                                     quoted(wrong.substr(0, firstCharacter(wrong).length)), others),
-                         readAs()};
-        });
+    if (identifier.wrongDigits > 0) {
+        const std::string_view wrong = text.substr(identifier.wrongPlace);
+        const std::size_t length = firstCharacter(wrong).length;
+        report_.add(FindingCode::IdentifierDigit,
+                    partOf(extent, text, identifier.wrongPlace, length), step, [&] {
+                        const std::string others =
+                            identifier.wrongDigits > 1
+                                ? fmt::format(", nor {} {} more",
+                                              identifier.wrongDigits == 2 ? "is" : "are",
+                                              identifier.wrongDigits - 1)
+                                : "";
+                        return Details{fmt::format("{} {}: {} is no hexadecimal digit{}",
+                                                   datum.name, quoted(text),
+                                                   quoted(wrong.substr(0, length)), others),
+                                       readAs};
+                    });
+    }
     if (!identifier.ignored.empty())
-        report_.add(FindingCode::IdentifierTrailing, at(text.size() - identifier.ignored.size()),
-                    step, [&] {
-                        return Texts{fmt::format("{} goes on with {} after its last digit",
-                                                 datum.name, quoted(identifier.ignored)),
-                                     "that is ignored; " + readAs()};
+        report_.add(FindingCode::IdentifierTrailing,
+                    restOf(extent, text, text.size() - identifier.ignored.size()), step, [&] {
+                        return Details{fmt::format("{} goes on with {} after its last digit",
+                                                   datum.name, quoted(identifier.ignored)),
+                                       readAs};
                     });
 }
 
-void ElementCheck::number(const DatumFormat& datum, const char* text, std::size_t offset,
+void ElementCheck::number(const DatumFormat& datum, const char* text, Extent extent,
                           std::string_view step) {
     using Oddity = NumberReading::Oddity;
     const NumberReading number =
         datum.kind == qenxml::format::Kind::Integer ? readInteger(text) : readNumber(text);
     const auto add = [&](FindingCode code, const char* what) {
-        const std::size_t place = placeOfValue(report_.source().text(), offset, number.place);
-        report_.add(code, place, step, [&] {
+        report_.add(code, restOf(extent, text, number.place), step, [&] {
             const std::string value = *text == '\0' ? "" : " " + quotedText(text);
-            return Texts{fmt::format("{}{} {}", datum.name, value, what),
-                         fmt::format("{}it is read as {}", condition_, number.read)};
+            return Details{fmt::format("{}{} {}", datum.name, value, what),
+                           ReadAs{number.read, incomplete_}};
         });
     };
     switch (number.oddity) {

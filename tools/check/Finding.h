@@ -1,42 +1,60 @@
 #ifndef QENXML_TOOLS_CHECK_FINDING_H
 #define QENXML_TOOLS_CHECK_FINDING_H
 
-#include <cstddef>
 #include <optional>
 #include <string>
+#include <vector>
 
+#include <boost/uuid/uuid.hpp>
+
+#include "tools/check/Consequence.h"
 #include "tools/check/FindingCodes.h"
 #include "tools/text/SourceText.h"
+
+/// A record of a package.
+struct RecordName {
+    const char* kind;                     ///< What it is: "farm".
+    std::string name;                     ///< May be empty.
+    std::optional<boost::uuids::uuid> id; ///< None where it cannot be read.
+};
 
 /// Something that is wrong, or likely wrong, with a package. All texts of the package in it are
 /// escaped, so that every text is valid UTF-8 in one line.
 struct Finding {
-    std::string code; ///< Stands for what is wrong; one of findingKinds.
-    Severity severity = Severity::Error;
-    std::optional<Position> position; ///< Where in the file; none when it is about no place in it.
-    std::string path;        ///< Of the element or attribute; empty for the file as a whole.
-    std::string records;     ///< The names of the records around it; may be empty.
-    std::string found;       ///< What is wrong.
-    std::string consequence; ///< What reading makes of it.
-    Excerpt excerpt;         ///< The line of the file, with a position only.
+    FindingCode code;
+    std::string found;                     ///< What is wrong.
+    Consequence consequence;               ///< What reading makes of it.
+    std::optional<Location> location = {}; ///< None when it is about no part of the file.
+    std::string path = {};                 ///< Of the element or attribute; empty when in none.
+    std::vector<RecordName> records = {};  ///< Those that it stands in, the outermost first.
+
+    Severity severity() const { return kindOf(code).severity; }
 };
 
-/// Takes findings, of which there may be more than fit into memory.
+/// Takes findings, of which there may be more than fit into memory. Of each finding it is given
+/// either all, or the code alone.
 class FindingSink {
 public:
-    FindingSink() = default;
-    FindingSink(const FindingSink&) = delete;
-    FindingSink& operator=(const FindingSink&) = delete;
     virtual ~FindingSink() = default;
 
-    /// Something was found. Answers whether add() shall be called with it.
-    virtual bool wants(FindingCode code) = 0;
+    /// Whether all of the next finding of a code is of use.
+    virtual bool wants(FindingCode code) const = 0;
 
     virtual void add(const Finding& finding) = 0;
+
+    /// One more was found of a code of which it wants no more than that.
+    virtual void addCode(FindingCode /*code*/) {}
 
     /// How much of a file is checked, called now and then.
     /// @param part from 0 to 1
     virtual void progress(double /*part*/) {}
+
+protected:
+    FindingSink() = default;
+    FindingSink(const FindingSink&) = default;
+    FindingSink(FindingSink&&) = default;
+    FindingSink& operator=(const FindingSink&) = default;
+    FindingSink& operator=(FindingSink&&) = default;
 };
 
 #endif

@@ -1,11 +1,13 @@
 /// @file
-/// All that `qenxml check` can find: the only home of the codes, their severities and titles.
+/// All that `qenxml check` can find: the only home of the codes, and of all that is the same for
+/// the findings of a code.
 
 #ifndef QENXML_TOOLS_CHECK_FINDINGCODES_H
 #define QENXML_TOOLS_CHECK_FINDINGCODES_H
 
 #include <array>
 #include <cstddef>
+#include <string_view>
 
 /// How bad a finding is, the least first.
 enum class Severity {
@@ -14,10 +16,19 @@ enum class Severity {
     Error    ///< Reading the package fails here.
 };
 
-// FINDING(name of the constant, code, severity, title). docs/findings.md explains each code.
+/// A severity as people and programs write it.
+constexpr std::string_view wordFor(Severity severity) {
+    constexpr std::array<std::string_view, 3> words = {"note", "warning", "error"};
+    return words[static_cast<std::size_t>(severity)];
+}
+
+// FINDING(name of the constant, code, severity, title, consequence). docs/findings.md explains each
+// code. The consequence is the sentence about it, where it is another than that of all consequences
+// of its kind; {} in it stands for the value that is read or dropped.
 #define QENXML_FINDINGS(FINDING)                                                                   \
     FINDING(Unreadable, "unreadable", Error, "the file cannot be read")                            \
-    FINDING(PathTooShort, "path-too-short", Error, "the path is too short for a package UUID")     \
+    FINDING(PathTooShort, "path-too-short", Error, "the path is too short for a package UUID",     \
+            "nothing of the file is read when it is given by this path")                           \
     FINDING(NameWithoutUuid, "name-without-uuid", Error, "the file name has no package UUID")      \
     FINDING(NotWellFormed, "not-well-formed", Error, "the file is not well-formed XML")            \
     FINDING(NoRecPackage, "no-recpackage", Error, "the root element is not RecPackage")            \
@@ -37,16 +48,21 @@ enum class Severity {
     FINDING(BlendId, "custom-fertilizer-product-id", Error,                                        \
             "a custom fertilizer has no readable identifier")                                      \
     FINDING(AfterList, "element-after-list", Error, "something follows the items of a list")       \
-    FINDING(NameNotUuid, "name-not-uuid", Warning, "the file is not named by a UUID")              \
-    FINDING(InvalidUtf8, "invalid-utf8", Warning, "the file holds bytes that are not UTF-8")       \
-    FINDING(NoGrower, "no-grower", Warning, "the package has no grower")                           \
+    FINDING(NameNotUuid, "name-not-uuid", Warning, "the file is not named by a UUID",              \
+            "the recs carry the package UUID {}")                                                  \
+    FINDING(InvalidUtf8, "invalid-utf8", Warning, "the file holds bytes that are not UTF-8",       \
+            "this and the like are passed on as they are; hosts may not show them")                \
+    FINDING(NoGrower, "no-grower", Warning, "the package has no grower",                           \
+            "nothing is read from the package")                                                    \
     FINDING(BeforeList, "item-before-list", Warning, "something before a list is skipped")         \
     FINDING(OtherNameInList, "other-name-in-list", Warning,                                        \
-            "an item of a list has the wrong name")                                                \
+            "an item of a list has the wrong name", "it counts as a {0}, because it has a {0}ID")  \
     FINDING(IdentifierDigit, "identifier-digit", Warning,                                          \
             "an identifier holds a character that is no digit")                                    \
-    FINDING(IdentifierTrailing, "identifier-trailing", Warning, "text follows an identifier")      \
-    FINDING(DuplicateGrower, "duplicate-grower", Warning, "two growers have the same identifier")  \
+    FINDING(IdentifierTrailing, "identifier-trailing", Warning, "text follows an identifier",      \
+            "that is ignored; it is read as {}")                                                   \
+    FINDING(DuplicateGrower, "duplicate-grower", Warning, "two growers have the same identifier",  \
+            "both are kept, as two growers")                                                       \
     FINDING(DuplicateFarm, "duplicate-farm", Warning, "two farms have the same identifier")        \
     FINDING(DuplicateField, "duplicate-field", Warning, "two fields have the same identifier")     \
     FINDING(DuplicateRec, "duplicate-rec", Warning, "two recs have the same identifier")           \
@@ -55,10 +71,12 @@ enum class Severity {
     FINDING(ProductUnknown, "product-unknown", Warning, "a product is of an unknown kind")         \
     FINDING(PesticideMix, "pesticide-mix", Warning, "a pesticide mix is not read")                 \
     FINDING(TextBeforeProduct, "text-before-product", Warning, "text stands before a product")     \
-    FINDING(SecondProduct, "second-product", Warning, "a rec has more than one product")           \
+    FINDING(SecondProduct, "second-product", Warning, "a rec has more than one product",           \
+            "{} is ignored")                                                                       \
     FINDING(OperationNil, "operation-nil", Warning, "an operation has the nil identifier")         \
     FINDING(SeasonNegative, "season-negative", Warning, "a season has a negative number")          \
-    FINDING(SeasonWithoutId, "season-without-id", Warning, "a season has no number")               \
+    FINDING(SeasonWithoutId, "season-without-id", Warning, "a season has no number",               \
+            "the number of the season is read as {}")                                              \
     FINDING(NotANumber, "not-a-number", Warning, "a number is not a number")                       \
     FINDING(NumberCutOff, "number-cut-off", Warning, "a number is cut off")                        \
     FINDING(NumberOutOfRange, "number-out-of-range", Warning, "a number is out of range")          \
@@ -66,26 +84,39 @@ enum class Severity {
     FINDING(UnknownElement, "unknown-element", Warning, "an element is unknown")                   \
     FINDING(MisspeltElement, "misspelt-element", Warning, "an element may be misspelt")            \
     FINDING(MisplacedElement, "misplaced-element", Warning, "an element stands in another one")    \
-    FINDING(RepeatedElement, "repeated-element", Warning, "an element is repeated")                \
-    FINDING(UnknownAttribute, "unknown-attribute", Warning, "an attribute is unknown")             \
-    FINDING(MisspeltAttribute, "misspelt-attribute", Warning, "an attribute may be misspelt")      \
-    FINDING(RepeatedAttribute, "repeated-attribute", Warning, "an attribute is repeated")          \
-    FINDING(StrayText, "stray-text", Warning, "text stands where none is read")                    \
-    FINDING(TextCutOff, "text-cut-off", Warning, "only the first part of a text is read")          \
-    FINDING(NoStatistics, "no-recstats", Warning, "a rec has no statistics")                       \
-    FINDING(StatisticsIncomplete, "recstats-incomplete", Note, "statistics are incomplete")        \
-    FINDING(RateOrder, "rate-order", Note, "minimum, average and maximum are out of order")        \
-    FINDING(RateWithoutUnit, "rate-without-unit", Note, "a rate has no unit")                      \
-    FINDING(CentroidRange, "centroid-range", Note, "coordinates are out of range")                 \
-    FINDING(CentroidZero, "centroid-zero", Note, "the centroid of a field is at (0, 0)")           \
-    FINDING(EmptyName, "empty-name", Note, "a record has no name")                                 \
-    FINDING(NilIdentifier, "nil-identifier", Note, "an identifier is nil")                         \
+    FINDING(RepeatedElement, "repeated-element", Warning, "an element is repeated",                \
+            "the element is ignored with everything in it; the first one counts")                  \
+    FINDING(UnknownAttribute, "unknown-attribute", Warning, "an attribute is unknown",             \
+            "its value \"{}\" is ignored")                                                         \
+    FINDING(MisspeltAttribute, "misspelt-attribute", Warning, "an attribute may be misspelt",      \
+            "its value \"{}\" is ignored")                                                         \
+    FINDING(RepeatedAttribute, "repeated-attribute", Warning, "an attribute is repeated",          \
+            "\"{}\" is ignored; the first one counts")                                             \
+    FINDING(StrayText, "stray-text", Warning, "text stands where none is read",                    \
+            "the text is ignored")                                                                 \
+    FINDING(TextCutOff, "text-cut-off", Warning, "only the first part of a text is read",          \
+            "it is read as \"{}\"")                                                                \
+    FINDING(NoStatistics, "no-recstats", Warning, "a rec has no statistics",                       \
+            "its rates, total and area are read as {}")                                            \
+    FINDING(StatisticsIncomplete, "recstats-incomplete", Note, "statistics are incomplete",        \
+            "what is missing is read as {}")                                                       \
+    FINDING(RateOrder, "rate-order", Note, "minimum, average and maximum are out of order",        \
+            "the rates are kept as they are")                                                      \
+    FINDING(RateWithoutUnit, "rate-without-unit", Note, "a rate has no unit",                      \
+            "nobody can tell what the rates mean")                                                 \
+    FINDING(CentroidRange, "centroid-range", Note, "coordinates are out of range",                 \
+            "the field is somewhere off the map")                                                  \
+    FINDING(CentroidZero, "centroid-zero", Note, "the centroid of a field is at (0, 0)",           \
+            "the centroid is read as {}")                                                          \
+    FINDING(EmptyName, "empty-name", Note, "a record has no name", "hosts can show no name")       \
+    FINDING(NilIdentifier, "nil-identifier", Note, "an identifier is nil",                         \
+            "hosts cannot tell it from an identifier that is not there")                           \
     FINDING(NumberEmpty, "number-empty", Note, "an element for a number is empty")                 \
     FINDING(NumberHexadecimal, "number-hexadecimal", Note, "a number is hexadecimal")
 
 /// What can be found.
 enum class FindingCode : std::size_t {
-#define QENXML_FINDING_CONSTANT(name, code, severity, title) name,
+#define QENXML_FINDING_CONSTANT(name, ...) name,
     QENXML_FINDINGS(QENXML_FINDING_CONSTANT)
 #undef QENXML_FINDING_CONSTANT
 };
@@ -94,13 +125,14 @@ enum class FindingCode : std::size_t {
 struct FindingKind {
     const char* code; ///< As people and programs write it.
     Severity severity;
-    const char* title; ///< What is wrong, in general.
+    const char* title;                 ///< What is wrong, in general.
+    std::string_view consequence = {}; ///< As in the table; empty where it says nothing.
 };
 
 /// All kinds, in the order of FindingCode.
 inline constexpr std::array findingKinds = {
-#define QENXML_FINDING_KIND(name, code, severity, title)                                           \
-    FindingKind{code, Severity::severity, title},
+#define QENXML_FINDING_KIND(name, code, severity, ...)                                             \
+    FindingKind{code, Severity::severity, __VA_ARGS__},
     QENXML_FINDINGS(QENXML_FINDING_KIND)
 #undef QENXML_FINDING_KIND
 };

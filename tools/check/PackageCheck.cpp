@@ -11,6 +11,7 @@
 #include <boost/uuid/uuid_io.hpp>
 #include <fmt/format.h>
 
+#include "tools/check/FindingCollection.h"
 #include "tools/check/OpenElement.h"
 #include "tools/check/PackageWalk.h"
 #include "tools/files/FileContent.h"
@@ -20,60 +21,31 @@
 
 namespace {
 
-/// Keeps everything.
-class FindingList : public FindingSink {
-public:
-    bool wants(FindingCode) override { return true; }
-    void add(const Finding& finding) override { findings_.push_back(finding); }
-
-    std::vector<Finding> take() { return std::move(findings_); }
-
-private:
-    std::vector<Finding> findings_;
-};
-
-/// Adds a finding about the file as a whole.
-void addAboutFile(FindingSink& sink, FindingCode code, std::string found, std::string consequence) {
-    if (!sink.wants(code))
-        return;
-    Finding finding;
-    finding.code = kindOf(code).code;
-    finding.severity = kindOf(code).severity;
-    finding.found = std::move(found);
-    finding.consequence = std::move(consequence);
-    sink.add(finding);
-}
-
-/// A finding about a place that is in no element.
-Finding findingAt(FindingCode code, const SourceText& source, std::size_t offset, std::string found,
-                  std::string consequence) {
-    Finding finding;
-    finding.code = kindOf(code).code;
-    finding.severity = kindOf(code).severity;
-    finding.position = source.position(offset);
-    finding.excerpt = source.excerpt(offset);
-    finding.found = std::move(found);
-    finding.consequence = std::move(consequence);
-    return finding;
+/// Adds a finding that is about no element.
+void add(FindingSink& sink, FindingCode code, std::string found, Consequence consequence,
+         std::optional<Location> location = std::nullopt) {
+    if (sink.wants(code))
+        sink.add({code, std::move(found), std::move(consequence), std::move(location)});
+    else
+        sink.addCode(code);
 }
 
 void checkName(const std::string& path, FindingSink& sink) {
     const std::string expected = fmt::format("a name such as {} is expected", packageNameForm);
     if (path.size() < shortestPackagePath) {
-        addAboutFile(sink, FindingCode::PathTooShort,
-                     fmt::format("the path has {} of at least {} bytes; {}", path.size(),
-                                 shortestPackagePath, expected),
-                     "nothing of the file is read when it is given by this path");
+        add(sink, FindingCode::PathTooShort,
+            fmt::format("the path has {} of at least {} bytes; {}", path.size(),
+                        shortestPackagePath, expected),
+            NothingRead{});
         return;
     }
     const auto uuid = packageUuid(path);
     if (!uuid)
-        addAboutFile(sink, FindingCode::NameWithoutUuid,
-                     "the file name holds no package UUID; " + expected,
-                     "nothing of the file is read");
+        add(sink, FindingCode::NameWithoutUuid, "the file name holds no package UUID; " + expected,
+            NothingRead{});
     else if (!isNamedByUuid(path))
-        addAboutFile(sink, FindingCode::NameNotUuid, "the file is not named by a UUID; " + expected,
-                     "the recs carry the package UUID " + to_string(*uuid));
+        add(sink, FindingCode::NameNotUuid, "the file is not named by a UUID; " + expected,
+            ReadAs{to_string(*uuid)});
 }
 
 /// Where the first byte is that belongs to no character.
@@ -103,39 +75,32 @@ std::string describeDeclaration(const SourceText& source) {
 /// Hands on what else is found in a text, and in its place that the text is not UTF-8.
 class Utf8Check : public FindingSink {
 public:
-    Utf8Check(const SourceText& source, FindingSink& sink) : sink_(sink) {
-        const std::optional<std::size_t> offset = firstInvalidByte(source.text());
-        if (!offset)
-            return;
-        finding_ = findingAt(
-            FindingCode::InvalidUtf8, source, *offset,
-            fmt::format("the byte {} is not UTF-8, in which the file is read{}",
-                        escape(source.text().substr(*offset, 1)), describeDeclaration(source)),
-            "this and the like are passed on as they are; hosts may not show them");
-    }
+    Utf8Check(const SourceText& source, FindingSink& sink)
+        : source_(source), sink_(sink), offset_(firstInvalidByte(source.text())) {}
 
-    bool wants(FindingCode code) override { return sink_.wants(code); }
+    bool wants(FindingCode code) const override { return sink_.wants(code); }
     void add(const Finding& other) override {
-        if (finding_ && isBefore(*finding_->position, *other.position))
+        if (offset_ && *offset_ < other.location->extent.offset)
             finish();
         sink_.add(other);
     }
+    void addCode(FindingCode code) override { sink_.addCode(code); }
     void progress(double part) override { sink_.progress(part); }
 
     /// Nothing else comes.
     void finish() {
-        if (finding_ && sink_.wants(FindingCode::InvalidUtf8))
-            sink_.add(*finding_);
-        finding_.reset();
+        if (const std::optional<std::size_t> offset = std::exchange(offset_, std::nullopt))
+            ::add(sink_, FindingCode::InvalidUtf8,
+                  fmt::format("the byte {} is not UTF-8, in which the file is read{}",
+                              escape(source_.text().substr(*offset, 1)),
+                              describeDeclaration(source_)),
+                  Kept{}, source_.location({*offset, 1}));
     }
 
 private:
-    static bool isBefore(const Position& a, const Position& b) {
-        return a.line < b.line || (a.line == b.line && a.column < b.column);
-    }
-
+    const SourceText& source_;
     FindingSink& sink_;
-    std::optional<Finding> finding_;
+    std::optional<std::size_t> offset_; ///< Of the first byte that is not UTF-8.
 };
 
 /// Why the XML library could not load a text.
@@ -163,10 +128,9 @@ void checkContent(std::string bytes, FindingSink& sink) {
     Utf8Check all(source, sink);
     if (loaded)
         walkPackage(document, source, all);
-    else if (all.wants(FindingCode::NotWellFormed))
-        all.add(findingAt(FindingCode::NotWellFormed, source,
-                          static_cast<std::size_t>(loaded.offset), describeFault(source, loaded),
-                          "nothing of the file is read"));
+    else
+        add(all, FindingCode::NotWellFormed, describeFault(source, loaded), NothingRead{},
+            source.location({static_cast<std::size_t>(loaded.offset), 0}));
     all.finish();
 }
 
@@ -176,7 +140,7 @@ void checkPackage(const std::string& path, FindingSink& sink) {
     FileContent content = readFileContent(path);
     if (!content.failure.empty()) {
         // Its name means nothing: it may be the name that is mistyped.
-        addAboutFile(sink, FindingCode::Unreadable, content.failure, "nothing of the file is read");
+        add(sink, FindingCode::Unreadable, content.failure, NothingRead{});
         return;
     }
     checkName(path, sink);
@@ -184,7 +148,7 @@ void checkPackage(const std::string& path, FindingSink& sink) {
 }
 
 std::vector<Finding> checkPackage(const std::string& path) {
-    FindingList list;
-    checkPackage(path, list);
-    return list.take();
+    FindingCollection all;
+    checkPackage(path, all);
+    return all.kept();
 }

@@ -3,6 +3,8 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include <boost/uuid/uuid.hpp>
 #include <fmt/format.h>
@@ -11,16 +13,17 @@
 #include "tools/check/CheckReport.h"
 #include "tools/check/ElementCheck.h"
 #include "tools/check/IdentifierReading.h"
+#include "tools/check/NameCounts.h"
 #include "tools/check/PlausibilityCheck.h"
 #include "tools/check/RecDataCheck.h"
 #include "tools/text/Escape.h"
-#include "tools/text/NameSuggestion.h"
+#include "tools/text/Words.h"
 
 namespace tag = qenxml::tag;
 
 namespace {
 
-using Texts = CheckReport::Texts;
+using Details = CheckReport::Details;
 
 /// How many records a record holds, as the library keeps them: one per identifier.
 struct Contents {
@@ -42,20 +45,6 @@ FindingCode duplicateOf(const ElementFormat& format) {
            : &format == &format::farm()  ? FindingCode::DuplicateFarm
            : &format == &format::field() ? FindingCode::DuplicateField
                                          : FindingCode::DuplicateRec;
-}
-
-std::string count(std::size_t number, const char* what) {
-    return fmt::format("{} {}{}", number, what, number == 1 ? "" : "s");
-}
-
-/// What is lost with a record that is replaced, to follow "replaced".
-std::string lost(const ElementFormat& format, const Contents& contents) {
-    if (&format == &format::farm() && contents.fields > 0)
-        return fmt::format(" and lost with its {} and {}", count(contents.fields, "field"),
-                           count(contents.recs, "rec"));
-    if (&format == &format::field() && contents.recs > 0)
-        return fmt::format(" and lost with its {}", count(contents.recs, "rec"));
-    return " and lost";
 }
 
 class PackageWalk {
@@ -84,30 +73,28 @@ public:
 private:
     void noPackage(const pugi::xml_document& document) {
         const pugi::xml_node root = document.document_element();
-        report_.add(FindingCode::NoRecPackage, report_.source().offset(root), root.name(), [&] {
-            return Texts{fmt::format("the root element is \"{}\" instead of {}",
-                                     escapeExcerpt(root.name()), tag::RecPackage),
-                         ""};
+        report_.add(FindingCode::NoRecPackage, root, root.name(), [&] {
+            return Details{fmt::format("the root element is \"{}\" instead of {}",
+                                       escapeExcerpt(root.name()), tag::RecPackage)};
         });
     }
 
     void packageElement(pugi::xml_node package) {
         const CheckReport::Inside inside(report_, package.name());
         if (!package.child(tag::Grower))
-            report_.add(FindingCode::NoGrower, report_.source().offset(package), "", [] {
-                return Texts{"RecPackage holds no Grower", "nothing is read from the package"};
+            report_.add(FindingCode::NoGrower, package, "", [] {
+                return Details{"RecPackage holds no Grower", NothingRead{}};
             });
         check_.attributes(format::recPackage().attributes, package);
         list(format::recPackage(), package);
     }
 
     void otherRoot(pugi::xml_node root, std::size_t number) {
-        report_.add(FindingCode::UnknownElement, report_.source().offset(root),
-                    pathStep(root.name(), number), [&] {
-                        return Texts{fmt::format("\"{}\" stands beside {}",
-                                                 escapeExcerpt(root.name()), tag::RecPackage),
-                                     "the element is skipped with everything in it"};
-                    });
+        report_.add(FindingCode::UnknownElement, root, pathStep(root.name(), number), [&] {
+            const std::string name = escapeExcerpt(root.name());
+            return Details{fmt::format("\"{}\" stands beside {}", name, tag::RecPackage),
+                           Dropped{name}};
+        });
     }
 
     /// Walks the children of an element that has a list.
@@ -138,8 +125,8 @@ private:
 
     void record(const ElementFormat& format, pugi::xml_node node, std::size_t number,
                 RecordsById& earlier) {
-        const std::size_t offset = report_.source().offset(node);
-        report_.reach(offset);
+        const std::size_t offset = report_.source().extent(node).offset;
+        report_.progress(offset);
         if (&format == &format::grower())
             report_.beginGrower();
         const CheckReport::Inside inside(report_, node.name(), number);
@@ -153,8 +140,9 @@ private:
         }
 
         const DatumFormat& name = format.children.front();
-        const CheckReport::InRecord inRecord(report_, format.record,
-                                             node.child(name.name).child_value());
+        const CheckReport::InRecord inRecord(
+            report_, {format.record, escapeExcerpt(node.child(name.name).child_value()),
+                      readable ? std::optional(id.value) : std::nullopt});
         noName(name, node);
         check_.missingIdentifiers(format, node);
         missingParts(format, node);
@@ -175,16 +163,14 @@ private:
         const std::string found =
             fmt::format("{} follows the first {} and is read as one too", what, format.name);
         if (readable) {
-            report_.add(FindingCode::OtherNameInList, report_.source().offset(node), "", [&] {
-                return Texts{found, fmt::format("it counts as a {}, because it has a {}",
-                                                format.name, format.attributes.front().name)};
+            report_.add(FindingCode::OtherNameInList, node, "", [&] {
+                return Details{found, ReadAs{format.name}};
             });
             return;
         }
-        report_.add(FindingCode::AfterList, report_.source().offset(node), "", [&] {
-            return Texts{
-                fmt::format("{}, but has no readable {}", found, format.attributes.front().name),
-                ""};
+        report_.add(FindingCode::AfterList, node, "", [&] {
+            return Details{
+                fmt::format("{}, but has no readable {}", found, format.attributes.front().name)};
         });
     }
 
@@ -194,25 +180,23 @@ private:
         if (same == earlier.end())
             return;
         const pugi::xml_attribute attribute = node.attribute(format.attributes.front().name);
-        report_.add(
-            duplicateOf(format), valueOffset(node, attribute), fmt::format("@{}", attribute.name()),
-            [&] {
-                const std::string other = fmt::format("the {} at line {}", format.record,
-                                                      report_.line(same->second.offset));
-                const std::string consequence =
-                    &format == &format::grower()
-                        ? "both are kept, as two growers"
-                        : fmt::format("{} is replaced by this one{}", other,
-                                      lost(format, same->second.contents));
-                return Texts{fmt::format("{} is that of {}", attribute.name(), other), consequence};
-            });
+        report_.add(duplicateOf(format), report_.source().extent(node, attribute),
+                    fmt::format("@{}", attribute.name()), [&] {
+                        const std::size_t line = report_.line(same->second.offset);
+                        const Contents& lost = same->second.contents;
+                        return Details{fmt::format("{} is that of the {} at line {}",
+                                                   attribute.name(), format.record, line),
+                                       &format == &format::grower()
+                                           ? Consequence(Kept{})
+                                           : Replaces{format.record, line, lost.fields, lost.recs}};
+                    });
     }
 
     void noName(const DatumFormat& name, pugi::xml_node record) {
         if (record.child(name.name))
             return;
-        report_.add(FindingCode::EmptyName, report_.source().offset(record), "", [&] {
-            return Texts{fmt::format("{} is missing", name.name), "hosts can show no name"};
+        report_.add(FindingCode::EmptyName, record, "", [&] {
+            return Details{fmt::format("{} is missing", name.name), Kept{}};
         });
     }
 
@@ -226,25 +210,24 @@ private:
     void emptyName(pugi::xml_node child, pugi::xml_node name) {
         if (child != name || *child.child_value() != '\0')
             return;
-        report_.add(FindingCode::EmptyName, report_.source().offset(child), child.name(), [&] {
-            return Texts{fmt::format("{} is empty", child.name()), "hosts can show no name"};
+        report_.add(FindingCode::EmptyName, child, child.name(), [&] {
+            return Details{fmt::format("{} is empty", child.name()), Kept{}};
         });
     }
 
     /// Finds that parts are missing without which a record is worth little.
     void missingParts(const ElementFormat& format, pugi::xml_node node) {
-        const std::size_t offset = report_.source().offset(node);
         if (&format == &format::field() && !node.child(tag::FieldCentroid))
-            report_.add(FindingCode::CentroidZero, offset, "", [] {
-                return Texts{"FieldCentroid is missing", "the centroid is read as (0, 0)"};
+            report_.add(FindingCode::CentroidZero, node, "", [] {
+                return Details{"FieldCentroid is missing", ReadAs{"(0, 0)"}};
             });
         if (&format == &format::rec() && !node.child(tag::RecData))
-            report_.add(FindingCode::NoProduct, offset, "", [] {
-                return Texts{"the rec has no RecData", "the rec is kept without product data"};
+            report_.add(FindingCode::NoProduct, node, "", [] {
+                return Details{"the rec has no RecData", Without{RecPart::Product}};
             });
         if (&format == &format::rec() && !node.child(tag::RecStats))
-            report_.add(FindingCode::NoStatistics, offset, "", [] {
-                return Texts{"the rec has no RecStats", "its rates, total and area are read as 0"};
+            report_.add(FindingCode::NoStatistics, node, "", [] {
+                return Details{"the rec has no RecStats", ReadAs{"0"}};
             });
     }
 
@@ -252,17 +235,14 @@ private:
     Contents parts(const ElementFormat& format, pugi::xml_node node) {
         const pugi::xml_node name = nameOf(format, node);
         Contents contents;
-        check_.children(
-            format, node,
-            [&](const DatumFormat& datum, pugi::xml_node child) {
-                if (datum.element == &format::recommendations())
-                    contents = recommendations(child);
-                else if (datum.element != nullptr)
-                    part(*datum.element, child);
-                else
-                    partValue(format, datum, child, name);
-            },
-            [](pugi::xml_node, std::size_t) {});
+        check_.children(format, node, [&](const DatumFormat& datum, pugi::xml_node child) {
+            if (datum.element == &format::recommendations())
+                contents = recommendations(child);
+            else if (datum.element != nullptr)
+                part(*datum.element, child);
+            else
+                partValue(format, datum, child, name);
+        });
         return contents;
     }
 
@@ -308,47 +288,45 @@ private:
         const IdentifierReading id = readIdentifier(attribute.as_string());
         if (id.fault != IdentifierReading::Fault::None || !id.value.is_nil())
             return;
-        report_.add(FindingCode::OperationNil, valueOffset(node, attribute), "@OpID", [&] {
-            return Texts{"OpID is nil",
-                         "the rec has no operation" + dropped(node.child(tag::OpName))};
-        });
+        report_.add(
+            FindingCode::OperationNil, report_.source().extent(node, attribute), "@OpID", [&] {
+                return Details{"OpID is nil",
+                               Without{RecPart::Operation, nameIn(node.child(tag::OpName))}};
+            });
     }
 
     void seasonWithoutId(pugi::xml_node node) {
         if (node.attribute(tag::SeasonID))
             return;
-        report_.add(FindingCode::SeasonWithoutId, report_.source().offset(node), "", [] {
-            return Texts{"Season has no attribute SeasonID",
-                         "the number of the season is read as 0"};
+        report_.add(FindingCode::SeasonWithoutId, node, "", [] {
+            return Details{"Season has no attribute SeasonID", ReadAs{"0"}};
         });
     }
 
     void negativeSeason(pugi::xml_node node, pugi::xml_attribute id) {
         if (id.as_int() >= 0)
             return;
-        report_.add(FindingCode::SeasonNegative, valueOffset(node, id), "@SeasonID", [&] {
-            return Texts{fmt::format("SeasonID {} is negative", id.as_int()),
-                         "the rec has no season" + dropped(node.child(tag::SeasonName))};
-        });
+        report_.add(
+            FindingCode::SeasonNegative, report_.source().extent(node, id), "@SeasonID", [&] {
+                return Details{fmt::format("SeasonID {} is negative", id.as_int()),
+                               Without{RecPart::Season, nameIn(node.child(tag::SeasonName))}};
+            });
     }
 
-    /// What becomes of a name that is not read.
-    static std::string dropped(pugi::xml_node name) {
-        const char* const text = name.text().as_string();
-        return *text == '\0' ? ""
-                             : fmt::format("; its name \"{}\" is dropped", escapeExcerpt(text));
+    static std::string nameIn(pugi::xml_node element) {
+        return escapeExcerpt(element.text().as_string());
     }
 
     void incompleteStatistics(pugi::xml_node node) {
-        std::string missing;
+        std::vector<std::string> missing;
         for (const DatumFormat& datum : format::recStats().children) {
             if (datum.kind == qenxml::format::Kind::Number && !node.child(datum.name))
-                missing += (missing.empty() ? "" : ", ") + std::string(datum.name);
+                missing.emplace_back(datum.name);
         }
         if (missing.empty())
             return;
-        report_.add(FindingCode::StatisticsIncomplete, report_.source().offset(node), "", [&] {
-            return Texts{"RecStats has no " + missing, "what is missing is read as 0"};
+        report_.add(FindingCode::StatisticsIncomplete, node, "", [&] {
+            return Details{"RecStats has no " + joined(missing, ", "), ReadAs{"0"}};
         });
     }
 

@@ -13,7 +13,7 @@ namespace tag = qenxml::tag;
 
 namespace {
 
-using Texts = CheckReport::Texts;
+using Details = CheckReport::Details;
 
 /// A number that may be there.
 struct Value {
@@ -42,10 +42,10 @@ struct Rates {
 void checkOrder(CheckReport& report, const Value& small, const Value& large) {
     if (!small.node || !large.node || !(small.number.value > large.number.value))
         return;
-    report.add(FindingCode::RateOrder, report.source().offset(small.node), small.name, [&] {
-        return Texts{fmt::format("{} {} is above {} {}", small.name, small.number.read, large.name,
-                                 large.number.read),
-                     "the rates are kept as they are"};
+    report.add(FindingCode::RateOrder, small.node, small.name, [&] {
+        return Details{fmt::format("{} {} is above {} {}", small.name, small.number.read,
+                                   large.name, large.number.read),
+                       Kept{}};
     });
 }
 
@@ -59,12 +59,11 @@ void checkUnit(CheckReport& report, const Rates& rates, pugi::xml_node child) {
         if (rate->number.value == 0)
             continue;
         if (rate->node == child) // The unit is that of all rates: it is missing once.
-            report.add(
-                FindingCode::RateWithoutUnit, report.source().offset(child), rate->name, [&] {
-                    return Texts{fmt::format("{} is {}, without a {} or {}", rate->name,
-                                             rate->number.read, tag::RateUOM, tag::RateUOMID),
-                                 "nobody can tell what the rates mean"};
-                });
+            report.add(FindingCode::RateWithoutUnit, child, rate->name, [&] {
+                return Details{fmt::format("{} is {}, without a {} or {}", rate->name,
+                                           rate->number.read, tag::RateUOM, tag::RateUOMID),
+                               Kept{}};
+            });
         return;
     }
 }
@@ -72,10 +71,10 @@ void checkUnit(CheckReport& report, const Rates& rates, pugi::xml_node child) {
 void checkRange(CheckReport& report, const Value& value, double limit) {
     if (value.number.value >= -limit && value.number.value <= limit)
         return;
-    report.add(FindingCode::CentroidRange, report.source().offset(value.node), value.name, [&] {
-        return Texts{fmt::format("{} {} is not between {} and {}", value.name, value.number.read,
-                                 -limit, limit),
-                     "the field is somewhere off the map"};
+    report.add(FindingCode::CentroidRange, value.node, value.name, [&] {
+        return Details{fmt::format("{} {} is not between {} and {}", value.name, value.number.read,
+                                   -limit, limit),
+                       Kept{}};
     });
 }
 
@@ -99,15 +98,15 @@ void checkCentroid(CheckReport& report, pugi::xml_node fieldCentroid) {
     const bool zero = latitude.number.value == 0 && longitude.number.value == 0;
     if (latitude.node && longitude.node && !zero)
         return;
-    report.add(FindingCode::CentroidZero, report.source().offset(fieldCentroid), "", [&] {
+    report.add(FindingCode::CentroidZero, fieldCentroid, "", [&] {
         std::string found;
         for (const Value* value : {&latitude, &longitude}) {
             if (!value->node)
                 found += fmt::format("{}{} is missing", found.empty() ? "" : ", ", value->name);
         }
-        return Texts{found.empty() ? "latitude and longitude are 0" : found,
-                     fmt::format("the centroid is read as ({}, {})", latitude.number.read,
-                                 longitude.number.read)};
+        return Details{
+            found.empty() ? "latitude and longitude are 0" : found,
+            ReadAs{fmt::format("({}, {})", latitude.number.read, longitude.number.read)}};
     });
 }
 

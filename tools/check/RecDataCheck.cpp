@@ -7,23 +7,16 @@
 
 #include "parser/internal/TagConstants.h"
 #include "tools/check/IdentifierReading.h"
+#include "tools/check/NameCounts.h"
 #include "tools/text/Escape.h"
 #include "tools/text/NameSuggestion.h"
+#include "tools/text/Words.h"
 
 namespace tag = qenxml::tag;
 
 namespace {
 
-using Texts = CheckReport::Texts;
-
-constexpr const char* withoutProduct = "the rec is kept without product data";
-
-std::string join(const std::vector<std::string>& names) {
-    std::string text;
-    for (std::size_t i = 0; i < names.size(); ++i)
-        text += (i == 0 ? "" : i + 1 == names.size() ? " and " : ", ") + names[i];
-    return text;
-}
+using Details = CheckReport::Details;
 
 std::vector<std::string> missingChildren(const ElementFormat& format, pugi::xml_node node) {
     std::vector<std::string> missing;
@@ -42,8 +35,7 @@ std::string unreadIdentifier(const ElementFormat& format, pugi::xml_node node) {
             continue;
         const IdentifierReading identifier = readIdentifier(text);
         if (identifier.fault != IdentifierReading::Fault::None)
-            return fmt::format("; once it is complete, reading fails because {} {}", datum.name,
-                               describeFault(identifier, text));
+            return fmt::format("{} {}", datum.name, describeFault(identifier, text));
     }
     return "";
 }
@@ -53,52 +45,50 @@ void checkProduct(ElementCheck& check, const ElementFormat& format, pugi::xml_no
     const CheckReport::Inside inside(report, node.name());
     const std::vector<std::string> missing = missingChildren(format, node);
     if (!missing.empty()) {
-        report.add(FindingCode::ProductIncomplete, report.source().offset(node), "", [&] {
-            return Texts{fmt::format("{} has no {}", format.name, join(missing)),
-                         withoutProduct + unreadIdentifier(format, node)};
+        report.add(FindingCode::ProductIncomplete, node, "", [&] {
+            return Details{fmt::format("{} has no {}", format.name, joined(missing)),
+                           Without{RecPart::Product, "", unreadIdentifier(format, node)}};
         });
-        check.setCondition("once the product is complete, ");
     }
+    check.setIncomplete(!missing.empty());
     check.attributes(format.attributes, node);
-    check.children(
-        format, node,
-        [&](DatumFormat datum, pugi::xml_node child) {
-            // Not read at all, and so no error, while anything is missing.
-            if (datum.kind == qenxml::format::Kind::Identifier && missing.empty())
-                datum.fault = FindingCode::BlendId;
-            check.value(datum, child);
-        },
-        [](pugi::xml_node, std::size_t) {});
-    check.setCondition("");
+    check.children(format, node, [&](DatumFormat datum, pugi::xml_node child) {
+        // Not read at all, and so no error, while anything is missing.
+        if (datum.kind == qenxml::format::Kind::Identifier && missing.empty())
+            datum.fault = FindingCode::BlendId;
+        check.value(datum, child);
+    });
+    check.setIncomplete(false);
 }
 
 void unknownProduct(CheckReport& report, pugi::xml_node node) {
     if (std::string_view(node.name()) == tag::Pesticide) {
-        report.add(FindingCode::PesticideMix, report.source().offset(node), node.name(), [&] {
-            return Texts{"the product is a pesticide mix, which is never read", withoutProduct};
+        report.add(FindingCode::PesticideMix, node, node.name(), [&] {
+            return Details{"the product is a pesticide mix, which is never read",
+                           Without{RecPart::Product}};
         });
         return;
     }
-    report.add(FindingCode::ProductUnknown, report.source().offset(node), node.name(), [&] {
+    report.add(FindingCode::ProductUnknown, node, node.name(), [&] {
         std::vector<const char*> names;
         for (const DatumFormat& product : format::recData().children) {
             if (!node.parent().child(product.name))
                 names.push_back(product.name);
         }
         const std::string_view nearest = nearestName(node.name(), names);
-        return Texts{fmt::format("\"{}\" is no product{}", escapeExcerpt(node.name()),
-                                 nearest.empty() ? "" : fmt::format("; is {} meant?", nearest)),
-                     withoutProduct};
+        return Details{fmt::format("\"{}\" is no product{}", escapeExcerpt(node.name()),
+                                   nearest.empty() ? "" : fmt::format("; is {} meant?", nearest)),
+                       Without{RecPart::Product}};
     });
 }
 
 void checkFirst(ElementCheck& check, pugi::xml_node first) {
     CheckReport& report = check.report();
     if (isText(first)) {
-        report.add(FindingCode::TextBeforeProduct, report.source().offset(first), "text()", [&] {
-            return Texts{fmt::format("the text {} stands where the product has to be",
-                                     quotedText(first.value())),
-                         withoutProduct};
+        report.add(FindingCode::TextBeforeProduct, first, "text()", [&] {
+            return Details{fmt::format("the text {} stands where the product has to be",
+                                       quotedText(first.value())),
+                           Without{RecPart::Product}};
         });
         return;
     }
@@ -111,13 +101,12 @@ void checkFirst(ElementCheck& check, pugi::xml_node first) {
 
 void secondProduct(CheckReport& report, pugi::xml_node product, pugi::xml_node second,
                    std::size_t number) {
-    report.add(FindingCode::SecondProduct, report.source().offset(second),
-               pathStep(second.name(), number), [&] {
-                   return Texts{fmt::format("{} follows {}; a rec has one product",
-                                            escapeExcerpt(second.name()),
-                                            escapeExcerpt(product.name())),
-                                fmt::format("{} is ignored", escapeExcerpt(second.name()))};
-               });
+    report.add(FindingCode::SecondProduct, second, pathStep(second.name(), number), [&] {
+        const std::string name = escapeExcerpt(second.name());
+        return Details{fmt::format("{} follows {}; a rec has one product", name,
+                                   escapeExcerpt(product.name())),
+                       Dropped{name}};
+    });
 }
 
 } // namespace
@@ -127,8 +116,8 @@ void checkRecData(ElementCheck& check, pugi::xml_node node) {
     const CheckReport::Inside inside(report, node.name());
     const pugi::xml_node first = node.first_child();
     if (!first)
-        report.add(FindingCode::NoProduct, report.source().offset(node), "", [] {
-            return Texts{"RecData is empty", withoutProduct};
+        report.add(FindingCode::NoProduct, node, "", [] {
+            return Details{"RecData is empty", Without{RecPart::Product}};
         });
     check.attributes(format::recData().attributes, node);
     NameCounts names;

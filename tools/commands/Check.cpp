@@ -10,8 +10,10 @@
 
 #include <fmt/format.h>
 
+#include "tools/check/FindingCollection.h"
 #include "tools/findings/FindingJson.h"
 #include "tools/findings/FindingSummary.h"
+#include "tools/findings/FindingText.h"
 #include "tools/input/InputCheck.h"
 #include "tools/input/PackageFiles.h"
 #include "tools/input/PackageInput.h"
@@ -72,108 +74,121 @@ Wanted wantedCodes(const CheckOptions& options) {
     return wanted;
 }
 
-/// Collects the findings of one file for people.
-class SummarySink : public FindingSink {
+/// Hands on what is wanted of one file, and shows how far the check is.
+class WantedFindings : public FindingSink {
 public:
-    SummarySink(const Wanted& wanted, ProgressLine& progress)
-        : wanted_(wanted), progress_(progress) {}
+    WantedFindings(const Wanted& wanted, ProgressLine& progress, FindingSink& sink)
+        : wanted_(wanted), progress_(progress), sink_(sink) {}
 
-    const FindingSummary& summary() const { return summary_; }
-
-    bool wants(FindingCode code) override {
-        if (!wanted_[static_cast<std::size_t>(code)])
-            return false;
-        summary_.count(code);
-        return summary_.hasRoom(code);
+    bool wants(FindingCode code) const override { return isWanted(code) && sink_.wants(code); }
+    void add(const Finding& finding) override { sink_.add(finding); }
+    void addCode(FindingCode code) override {
+        if (isWanted(code))
+            sink_.addCode(code);
     }
-    void add(const Finding& finding) override { summary_.keep(finding); }
-    void progress(double part) override { progress_.reach(part); }
+    void progress(double part) override { progress_.advance(part); }
 
 private:
+    bool isWanted(FindingCode code) const { return wanted_[static_cast<std::size_t>(code)]; }
+
     const Wanted& wanted_;
     ProgressLine& progress_;
-    FindingSummary summary_;
+    FindingSink& sink_;
 };
 
 /// Writes the findings of one file as JSON, as they come.
-class JsonSink : public FindingSink {
+class JsonFindings : public FindingSink {
 public:
-    JsonSink(const Wanted& wanted, ProgressLine& progress, Console& console)
-        : wanted_(wanted), progress_(progress), console_(console) {}
+    explicit JsonFindings(Console& console) : console_(console) {}
 
     const FindingCounts& counts() const { return counts_; }
 
-    bool wants(FindingCode code) override { return wanted_[static_cast<std::size_t>(code)]; }
+    bool wants(FindingCode) const override { return true; }
     void add(const Finding& finding) override {
-        console_.print(fmt::format("{}\n    {}", first_ ? "" : ",", toJson(finding)));
-        first_ = false;
-        counts_.add(finding.severity);
+        console_.print(fmt::format("{}\n    {}", counts_.sum() == 0 ? "" : ",", toJson(finding)));
+        counts_.add(finding.code);
     }
-    void progress(double part) override { progress_.reach(part); }
 
 private:
-    const Wanted& wanted_;
-    ProgressLine& progress_;
     Console& console_;
-    bool first_ = true;
     FindingCounts counts_;
 };
 
-FindingCounts writeText(const PackageOptions& packages, const Wanted& wanted,
-                        ProgressLine& progress, Console& console) {
-    const std::vector<std::string>& files = packages.files;
-    FindingCounts sum;
-    for (const std::string& path : files) {
-        progress.beginFile(path);
-        SummarySink sink(wanted, progress);
-        checkInput(PackageInput(path, packages), sink);
-        const FindingCounts& counts = sink.summary().counts();
-        console.print(sink.summary().text(escape(path), console.style()));
-        console.print(fmt::format("{}: {}\n", escape(path), describe(counts)));
-        sum += counts;
-        if (counts.errors + counts.warnings + counts.notes > 0 && &path != &files.back())
-            console.print("\n");
-    }
-    if (files.size() > 1)
-        console.print(fmt::format("{} files: {}\n", files.size(), describe(sum)));
-    return sum;
-}
+/// Checks the files one by one.
+class FileChecks {
+public:
+    FileChecks(const PackageOptions& packages, const Wanted& wanted, Console& console)
+        : packages_(packages),
+          wanted_(wanted),
+          console_(console),
+          progress_(console, packages.files.size(), untilProgress) {}
 
-std::string countsJson(const FindingCounts& counts) {
-    return fmt::format(R"("errors": {}, "warnings": {}, "notes": {})", counts.errors,
-                       counts.warnings, counts.notes);
-}
-
-FindingCounts writeJson(const PackageOptions& packages, const Wanted& wanted,
-                        ProgressLine& progress, Console& console) {
-    const std::vector<std::string>& files = packages.files;
-    FindingCounts sum;
-    console.print("{\"files\": [");
-    for (const std::string& path : files) {
-        progress.beginFile(path);
-        console.print(fmt::format("{}\n  {{\"file\": {}, \"findings\": [",
-                                  &path == &files.front() ? "" : ",", toJson(escape(path))));
-        JsonSink sink(wanted, progress, console);
-        checkInput(PackageInput(path, packages), sink);
-        console.print(fmt::format("],\n   {}}}", countsJson(sink.counts())));
-        sum += sink.counts();
+    FindingCounts writeText() {
+        for (const std::string& path : packages_.files) {
+            FindingCollection findings(shownPerCode);
+            checkFile(path, findings);
+            const FindingCounts& counts = findings.counts();
+            console_.print(summaryText(findings, escape(path), console_.style()));
+            console_.print(fmt::format("{}: {}\n", escape(path), countsText(counts)));
+            if (counts.sum() > 0 && &path != &packages_.files.back())
+                console_.print("\n");
+            sum_ += counts;
+        }
+        if (packages_.files.size() > 1)
+            console_.print(fmt::format("{} files: {}\n", packages_.files.size(), countsText(sum_)));
+        return sum_;
     }
-    console.print(fmt::format("],\n {}}}\n", countsJson(sum)));
-    return sum;
-}
+
+    FindingCounts writeJson() {
+        console_.print("{\"files\": [");
+        for (const std::string& path : packages_.files) {
+            console_.print(fmt::format("{}\n  {{\"file\": {}, \"findings\": [",
+                                       &path == &packages_.files.front() ? "" : ",",
+                                       toJson(escape(path))));
+            JsonFindings findings(console_);
+            checkFile(path, findings);
+            console_.print(fmt::format("],\n   {}}}", countsJson(findings.counts())));
+            sum_ += findings.counts();
+        }
+        console_.print(fmt::format("],\n {}}}\n", countsJson(sum_)));
+        return sum_;
+    }
+
+private:
+    static constexpr std::chrono::seconds untilProgress{2};
+    static constexpr std::size_t shownPerCode = 10;
+
+    void checkFile(const std::string& path, FindingSink& findings) {
+        progress_.beginFile(path);
+        WantedFindings sink(wanted_, progress_, findings);
+        checkInput(PackageInput(path, packages_), sink);
+    }
+
+    static std::string countsJson(const FindingCounts& counts) {
+        return fmt::format(R"("errors": {}, "warnings": {}, "notes": {})",
+                           counts.of(Severity::Error), counts.of(Severity::Warning),
+                           counts.of(Severity::Note));
+    }
+
+    const PackageOptions& packages_;
+    const Wanted& wanted_;
+    Console& console_;
+    ProgressLine progress_;
+    FindingCounts sum_;
+};
 
 ExitCode check(const CheckOptions& options, Console& console) {
-    constexpr std::chrono::seconds untilProgress(2);
     requireUsable(options.packages);
     const PackageFiles files = packageFiles(options.packages.files);
     for (const std::string& complaint : files.complaints)
         console.complain(complaint);
     const Wanted wanted = wantedCodes(options);
-    ProgressLine progress(console, files.paths.size(), untilProgress);
-    const FindingCounts counts = (options.json ? writeJson : writeText)(
-        {files.paths, options.packages.uuid}, wanted, progress, console);
+    const PackageOptions packages{files.paths, options.packages.uuid};
+    FileChecks checks(packages, wanted, console);
+    const FindingCounts counts = options.json ? checks.writeJson() : checks.writeText();
     console.clearProgress();
-    const bool failed = counts.errors > 0 || (options.strict && counts.warnings > 0);
+    const bool failed =
+        counts.of(Severity::Error) > 0 || (options.strict && counts.of(Severity::Warning) > 0);
     return failed || !files.complaints.empty() ? ExitCode::Failure : ExitCode::Success;
 }
 

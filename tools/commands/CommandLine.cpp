@@ -118,12 +118,12 @@ ExitCode runCommandLine(int argc, const char* const* argv, Console& console) {
     } catch (const OutputError& error) {
         if (error.code() == std::errc::broken_pipe) // Its reader has seen enough: "| head".
             return ExitCode::Failure;
-        console.complainOnly(
+        console.complainAtOnce(
             fmt::format("the output could not be written: {}", error.code().message()));
     } catch (const std::bad_alloc&) {
-        console.complainOnly("not enough memory");
+        console.complainAtOnce("not enough memory");
     } catch (const std::exception& error) {
-        console.complainOnly(escape(error.what()));
+        console.complainAtOnce(escape(error.what()));
     }
     return ExitCode::Failure;
 }

@@ -25,23 +25,10 @@ struct ReportOptions {
     PackageOptions packages;
 };
 
-/// Hands findings on to the report.
-class ReportSink : public FindingSink {
-public:
-    explicit ReportSink(ReportFindings& findings) : findings_(findings) {}
-
-    bool wants(FindingCode code) override { return findings_.count(code); }
-    void add(const Finding& finding) override { findings_.keep(finding); }
-
-private:
-    ReportFindings& findings_;
-};
-
 ReportPackage examine(const PackageInput& input, Console& console) {
     ReportPackage package;
     package.reading = readAndComplain(input, "reported", console);
-    ReportSink sink(package.findings);
-    checkInput(input, sink);
+    checkInput(input, package.findings);
     package.counts = countRecords(package.reading.growers);
     return package;
 }

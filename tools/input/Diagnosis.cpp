@@ -1,19 +1,15 @@
 #include "tools/input/Diagnosis.h"
 
-#include <string_view>
-
 #include <fmt/format.h>
 
 #include "tools/check/PackageCheck.h"
 
 namespace {
 
-constexpr std::string_view noPackage = kindOf(FindingCode::NoRecPackage).code;
-
 /// Keeps the first error.
 class FirstError : public FindingSink {
 public:
-    bool wants(FindingCode code) override {
+    bool wants(FindingCode code) const override {
         return !error_ && kindOf(code).severity == Severity::Error;
     }
     void add(const Finding& finding) override { error_ = finding; }
@@ -23,6 +19,10 @@ public:
 private:
     std::optional<Finding> error_;
 };
+
+std::optional<Position> positionOf(const Finding& finding) {
+    return finding.location ? std::optional(finding.location->begin) : std::nullopt;
+}
 
 } // namespace
 
@@ -34,9 +34,9 @@ ReadFailure diagnose(const std::string& path) {
                 "meanwhile",
                 std::nullopt};
     const Finding& error = *sink.error();
-    const bool identifier = !error.path.empty() && error.code != noPackage;
+    const bool identifier = !error.path.empty() && error.code != FindingCode::NoRecPackage;
     if (!identifier)
-        return {error.found, error.position};
+        return {error.found, positionOf(error)};
     // The text of the library's exception comes first, for those who have seen it.
-    return {fmt::format("invalid uuid string: {}: {}", error.path, error.found), error.position};
+    return {fmt::format("invalid uuid string: {}: {}", error.path, error.found), positionOf(error)};
 }

@@ -8,26 +8,23 @@
 
 namespace {
 
-void addUnreadable(FindingSink& sink, std::string found, std::string consequence) {
-    if (!sink.wants(FindingCode::Unreadable))
-        return;
-    Finding finding;
-    finding.code = kindOf(FindingCode::Unreadable).code;
-    finding.found = std::move(found);
-    finding.consequence = std::move(consequence);
-    sink.add(finding);
+void addUnreadable(FindingSink& sink, std::string found, Consequence consequence) {
+    if (sink.wants(FindingCode::Unreadable))
+        sink.add({FindingCode::Unreadable, std::move(found), std::move(consequence)});
+    else
+        sink.addCode(FindingCode::Unreadable);
 }
 
 } // namespace
 
 void checkInput(const PackageInput& input, FindingSink& sink) {
     if (input.failure()) {
-        addUnreadable(sink, *input.failure(), "nothing of the package is read");
+        addUnreadable(sink, *input.failure(), NothingRead{});
         return;
     }
     try {
         checkPackage(input.path(), sink);
     } catch (const std::bad_alloc&) {
-        addUnreadable(sink, "there is not enough memory to check the file", "the check ends here");
+        addUnreadable(sink, "there is not enough memory to check the file", CheckEnds{});
     }
 }

@@ -31,10 +31,10 @@ void Console::flush() {
 
 void Console::complain(std::string_view message) {
     flush();
-    complainOnly(message);
+    complainAtOnce(message);
 }
 
-void Console::complainOnly(std::string_view message) {
+void Console::complainAtOnce(std::string_view message) {
     clearProgress();
     // In one piece, so that it stays whole beside the output of other programs, and short ones
     // without memory, of which there may be none. Nobody is left to tell when it fails.

@@ -44,7 +44,7 @@ public:
     void complain(std::string_view message);
 
     /// As complain(), but without writing the results so far.
-    void complainOnly(std::string_view message);
+    void complainAtOnce(std::string_view message);
 
     /// Shows how far the work is in a line that anything else replaces; nothing where that cannot
     /// be done.

@@ -7,10 +7,10 @@
 void ProgressLine::beginFile(const std::string& path) {
     ++file_;
     path_ = path;
-    reach(0);
+    advance(0);
 }
 
-void ProgressLine::reach(double part) {
+void ProgressLine::advance(double part) {
     constexpr std::chrono::milliseconds interval(100);
     constexpr double percent = 100;
     const Clock::time_point now = Clock::now();

@@ -21,7 +21,7 @@ public:
     void beginFile(const std::string& path);
 
     /// How much of that file is done, from 0 to 1.
-    void reach(double part);
+    void advance(double part);
 
 private:
     Console& console_;

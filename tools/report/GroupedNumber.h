@@ -9,7 +9,7 @@
 #include <cstddef>
 #include <string>
 
-/// The text of a number with its digits before the decimal point in groups of three.
+/// The text of a number in groups.
 std::string grouped(std::string number);
 
 /// The whole number, as numberText() writes it.

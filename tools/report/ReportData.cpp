@@ -19,37 +19,13 @@ RecordCounts& RecordCounts::operator+=(const RecordCounts& other) {
     return *this;
 }
 
-bool ReportFindings::count(FindingCode code) {
-    constexpr std::size_t mostOfACode = 10;
-    return ++counts_.at(static_cast<std::size_t>(code)) <= mostOfACode;
-}
-
-void ReportFindings::keep(Finding finding) {
-    const auto worseFirst = [](const Finding& a, const Finding& b) {
-        return a.severity > b.severity;
-    };
-    const auto place = std::upper_bound(kept_.begin(), kept_.end(), finding, worseFirst);
-    kept_.insert(place, std::move(finding));
-}
-
-std::size_t ReportFindings::number(Severity severity) const {
-    std::size_t sum = 0;
-    for (std::size_t code = 0; code < counts_.size(); ++code)
-        sum += findingKinds.at(code).severity == severity ? counts_.at(code) : 0;
-    return sum;
-}
-
-std::size_t ReportFindings::number() const {
-    return std::accumulate(counts_.begin(), counts_.end(), std::size_t{0});
-}
-
 bool isWhole(const ReportPackage& package) {
     // Where reading succeeds, the check finds no error, unless it could not read the file.
-    return !package.reading.failure && package.findings.number(Severity::Error) == 0;
+    return !package.reading.failure && package.findings.counts().of(Severity::Error) == 0;
 }
 
 bool isReadable(const ReportPackage& package) {
-    return !isLost(package.reading) || package.findings.number(FindingCode::Unreadable) == 0;
+    return !isLost(package.reading) || package.findings.counts().of(FindingCode::Unreadable) == 0;
 }
 
 bool ProductUnit::operator<(const ProductUnit& other) const {

@@ -11,7 +11,7 @@
 
 #include <boost/uuid/uuid.hpp>
 
-#include "tools/check/Finding.h"
+#include "tools/check/FindingCollection.h"
 #include "tools/input/PackageReading.h"
 
 /// How many records there are.
@@ -25,30 +25,12 @@ struct RecordCounts {
     RecordCounts& operator+=(const RecordCounts& other);
 };
 
-/// The findings of a package: all counted, the first ones of each code kept.
-class ReportFindings {
-public:
-    /// Counts a finding. Answers whether keep() shall be called with it.
-    bool count(FindingCode code);
-
-    void keep(Finding finding);
-
-    /// The worst first, otherwise in the order of the file.
-    const std::vector<Finding>& kept() const { return kept_; }
-
-    std::size_t number(Severity severity) const;
-    std::size_t number(FindingCode code) const { return counts_[static_cast<std::size_t>(code)]; }
-    std::size_t number() const;
-
-private:
-    std::array<std::size_t, findingKinds.size()> counts_{}; // by code
-    std::vector<Finding> kept_;
-};
+constexpr std::size_t mostFindingsOfACode = 10;
 
 /// A package with what the report says about it.
 struct ReportPackage {
     PackageReading reading;
-    ReportFindings findings;
+    FindingCollection findings = FindingCollection(mostFindingsOfACode);
     RecordCounts counts;
 };
 

@@ -10,6 +10,7 @@
 
 #include "model/version.h"
 #include "tools/files/PackageUuid.h"
+#include "tools/findings/FindingText.h"
 #include "tools/records/Centroid.h"
 #include "tools/records/ProductText.h"
 #include "tools/report/FileNames.h"
@@ -20,6 +21,7 @@
 #include "tools/report/ReportMap.h"
 #include "tools/report/ReportStyle.h"
 #include "tools/text/NumberText.h"
+#include "tools/text/Words.h"
 
 namespace {
 
@@ -31,7 +33,7 @@ constexpr std::size_t recsShownAtOnce = 200; ///< More of them are folded away, 
 
 /// A number of things: "1 rec", "2 recs".
 std::string count(std::size_t number, std::string_view thing) {
-    return fmt::format("{} {}{}", groupedText(number), thing, number == 1 ? "" : "s");
+    return groupedText(number) + " " + plural(number, thing);
 }
 
 bool isStandardInput(const PackageReading& reading) {
@@ -48,17 +50,6 @@ std::string nameOr(const std::string& name, const char* otherwise) {
 
 const char* readState(const PackageReading& reading) {
     return !reading.failure ? "completely" : isLost(reading) ? "not at all" : "up to a failure";
-}
-
-struct SeverityText {
-    const char* name;
-    const char* style;
-};
-
-SeverityText severityText(Severity severity) {
-    constexpr std::array<SeverityText, 3> texts = {
-        {{"Note", "note"}, {"Warning", "warning"}, {"Error", "error"}}};
-    return texts.at(static_cast<std::size_t>(severity));
 }
 
 class PageWriter {
@@ -110,7 +101,7 @@ private:
     std::size_t findings(Severity severity) const {
         std::size_t sum = 0;
         for (const ReportPackage& package : packages_)
-            sum += package.findings.number(severity);
+            sum += package.findings.counts().of(severity);
         return sum;
     }
 
@@ -182,7 +173,7 @@ private:
                 groupedText(package.counts.growers),
                 groupedText(package.counts.fields),
                 groupedText(package.counts.recs),
-                groupedText(package.findings.number())};
+                groupedText(package.findings.counts().sum())};
     }
 
     void endTable(std::size_t rows, std::string_view thing) {
@@ -195,15 +186,18 @@ private:
         sink_("<section id=\"findings\">\n<h2>Findings</h2>\n");
         bool any = false;
         for (const ReportPackage& package : packages_) {
-            if (package.findings.number() == 0)
+            if (package.findings.counts().sum() == 0)
                 continue;
             any = true;
             sink_(fmt::format("<h3>{}</h3>\n", shownName(package.reading)));
             sink_("<ul class=\"findings\">\n");
-            for (const Finding& finding : package.findings.kept())
-                write(finding);
+            for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Note})
+                for (const Finding& finding : package.findings.kept())
+                    if (finding.severity() == severity)
+                        write(finding);
             sink_("</ul>\n");
-            const std::size_t hidden = package.findings.number() - package.findings.kept().size();
+            const std::size_t hidden =
+                package.findings.counts().sum() - package.findings.kept().size();
             if (hidden > 0)
                 sink_(fmt::format("<p>{} more not shown; <code>qenxml check</code> prints all of "
                                   "them.</p>\n",
@@ -215,21 +209,20 @@ private:
     }
 
     void write(const Finding& finding) {
-        const SeverityText severity = severityText(finding.severity);
+        const std::string_view word = wordFor(finding.severity());
         sink_(fmt::format(
-            "<li class=\"{}\"><p><strong>{}</strong>{}: {}</p>\n", severity.style, severity.name,
-            finding.position ? fmt::format(" in line {}, column {}", finding.position->line,
-                                           finding.position->column)
+            "<li class=\"{}\"><p><strong>{}</strong>{}: {}</p>\n", word, capitalised(word),
+            finding.location ? fmt::format(" in line {}, column {}", finding.location->begin.line,
+                                           finding.location->begin.column)
                              : "",
             html(finding.found)));
-        if (!finding.consequence.empty())
-            sink_(fmt::format("<p>Consequence: {}</p>\n", html(finding.consequence)));
-        if (!finding.records.empty())
-            sink_(fmt::format("<p>In: {}</p>\n", htmlName(finding.records)));
+        sink_(fmt::format("<p>Consequence: {}</p>\n", html(consequenceText(finding))));
+        if (const std::string records = recordsText(finding); !records.empty())
+            sink_(fmt::format("<p>In: {}</p>\n", htmlName(records)));
         sink_("<p class=\"quiet\">");
         if (!finding.path.empty())
             sink_(fmt::format("<code>{}</code> ", html(finding.path)));
-        sink_(fmt::format("[{}]</p></li>\n", html(finding.code)));
+        sink_(fmt::format("[{}]</p></li>\n", html(kindOf(finding.code).code)));
     }
 
     void writeMap() {

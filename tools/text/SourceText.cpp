@@ -171,17 +171,37 @@ Position SourceText::position(std::size_t offset) const {
     return mark.position;
 }
 
-std::size_t SourceText::offset(pugi::xml_node node) const {
-    const auto offset = static_cast<std::size_t>(std::max<std::ptrdiff_t>(node.offset_debug(), 0));
-    if (node.type() == pugi::node_element)
-        return offset - 1; // pugixml points at the name
+Extent SourceText::wholeText(pugi::xml_node text) const {
+    const auto begin = static_cast<std::size_t>(text.offset_debug());
+    const std::size_t end = utf8_.find(text.type() == pugi::node_cdata ? "]]>" : "<", begin);
+    return {begin, std::min(end, utf8_.size()) - begin};
+}
+
+Extent SourceText::extent(pugi::xml_node node) const {
+    if (node.type() == pugi::node_element) {
+        const auto begin = static_cast<std::size_t>(node.offset_debug() - 1); // before the name
+        return {begin, endOfTag(utf8_, begin) - begin};
+    }
     constexpr const char* whiteSpace = " \t\r\n";
-    const bool blank =
-        std::string_view(node.value()).find_first_not_of(whiteSpace) == std::string_view::npos;
+    const Extent whole = wholeText(node);
+    const std::string_view written = this->text().substr(whole.offset, whole.length);
     // A text of white space only stands in a CDATA section, or is written as "&#32;".
-    if (blank && node.type() == pugi::node_cdata)
-        return offset;
-    return std::min(utf8_.find_first_not_of(whiteSpace, offset), utf8_.size());
+    const std::size_t before = written.find_first_not_of(whiteSpace);
+    if (before == std::string_view::npos)
+        return whole;
+    return {whole.offset + before, written.find_last_not_of(whiteSpace) + 1 - before};
+}
+
+Extent SourceText::extent(pugi::xml_node element, pugi::xml_attribute attribute) const {
+    // Names and values stay where they are in the text.
+    const auto begin =
+        static_cast<std::size_t>(element.offset_debug() + (attribute.value() - element.name()));
+    return {begin, utf8_.find(utf8_[begin - 1], begin) - begin};
+}
+
+Location SourceText::location(Extent extent) const {
+    return {extent, position(extent.offset), position(extent.offset + extent.length),
+            excerpt(extent.offset)};
 }
 
 Excerpt SourceText::excerpt(std::size_t offset) const {
@@ -213,11 +233,22 @@ Excerpt SourceText::excerpt(std::size_t offset) const {
     return excerpt;
 }
 
-std::size_t nameOffset(pugi::xml_node element, pugi::xml_attribute attribute) {
-    // Names and values stay where they are in the text.
-    return static_cast<std::size_t>(element.offset_debug() + (attribute.name() - element.name()));
+Extent nameExtent(pugi::xml_node element, pugi::xml_attribute attribute) {
+    const std::string_view name = attribute.name();
+    return {static_cast<std::size_t>(element.offset_debug() + (name.data() - element.name())),
+            name.size()};
 }
 
-std::size_t valueOffset(pugi::xml_node element, pugi::xml_attribute attribute) {
-    return static_cast<std::size_t>(element.offset_debug() + (attribute.value() - element.name()));
+std::size_t endOfTag(std::string_view text, std::size_t offset) {
+    char quote = '\0';
+    for (; offset < text.size(); ++offset) {
+        const char c = text[offset];
+        if (quote != '\0')
+            quote = c == quote ? '\0' : quote;
+        else if (c == '"' || c == '\'')
+            quote = c;
+        else if (c == '>')
+            return offset + 1;
+    }
+    return offset;
 }

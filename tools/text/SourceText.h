@@ -20,6 +20,20 @@ struct Excerpt {
     std::size_t caret = 0; ///< The place: how many characters of `line` come before it.
 };
 
+/// A part of a text, in bytes of its UTF-8 form.
+struct Extent {
+    std::size_t offset = 0;
+    std::size_t length = 0;
+};
+
+/// A part of a file.
+struct Location {
+    Extent extent;
+    Position begin;  ///< Of its first character.
+    Position end;    ///< Behind its last character.
+    Excerpt excerpt; ///< The line in which it begins, around that place.
+};
+
 /// The text of an XML file. It tells where in the file something stands, which pugixml alone does
 /// not: what pugixml calls an offset is one into the text after conversion to UTF-8.
 class SourceText {
@@ -42,12 +56,17 @@ public:
     /// end. Takes the same time wherever in the file that is.
     Position position(std::size_t offset) const;
 
-    /// The position of a node of a document loaded by load(): of an element's "<", or of the first
-    /// character of a text that is not blank.
-    Position position(pugi::xml_node node) const { return position(offset(node)); }
+    /// The part of the text that a node of a document loaded by load() is about: the start tag of
+    /// an element, or a text without the white space around it.
+    Extent extent(pugi::xml_node node) const;
 
-    /// As position(), the offset.
-    std::size_t offset(pugi::xml_node node) const;
+    /// A text with the white space around it.
+    Extent wholeText(pugi::xml_node text) const;
+
+    /// The value of an attribute of an element.
+    Extent extent(pugi::xml_node element, pugi::xml_attribute attribute) const;
+
+    Location location(Extent extent) const;
 
     /// The line around the byte at an offset.
     Excerpt excerpt(std::size_t offset) const;
@@ -63,10 +82,11 @@ private:
     std::vector<Mark> marks_; // close enough together to count from the last one before a place
 };
 
-/// The offset of the name of an attribute in a document loaded by SourceText::load().
-std::size_t nameOffset(pugi::xml_node element, pugi::xml_attribute attribute);
+/// The name of an attribute in a document loaded by SourceText::load().
+Extent nameExtent(pugi::xml_node element, pugi::xml_attribute attribute);
 
-/// The offset of the value of such an attribute.
-std::size_t valueOffset(pugi::xml_node element, pugi::xml_attribute attribute);
+/// Where the tag ends that begins at an offset of a text: behind its ">", which may stand in a
+/// value, too.
+std::size_t endOfTag(std::string_view text, std::size_t offset);
 
 #endif

@@ -46,7 +46,7 @@ std::vector<std::string> documentedEntries() {
     return entries;
 }
 
-const char* word(Severity severity) {
+std::string word(Severity severity) {
     return severity == Severity::Error     ? "Error"
            : severity == Severity::Warning ? "Warning"
                                            : "Note";
@@ -118,7 +118,7 @@ protected:
     static std::set<std::string> codesIn(const std::string& path) {
         std::set<std::string> codes;
         for (const Finding& finding : checkPackage(path))
-            codes.insert(finding.code);
+            codes.insert(kindOf(finding.code).code);
         return codes;
     }
 };

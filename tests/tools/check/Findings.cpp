@@ -1,5 +1,8 @@
 #include "tests/tools/check/Findings.h"
 
+#include <algorithm>
+#include <variant>
+
 #include <gtest/gtest.h>
 
 #include "tests/support/PackageText.h"
@@ -8,13 +11,50 @@
 
 namespace test {
 
+namespace {
+
+struct ConsequenceText {
+    std::string operator()(const Kept&) const { return "kept"; }
+    std::string operator()(const Dropped& dropped) const { return "dropped " + dropped.what; }
+    std::string operator()(const ReadAs& read) const {
+        return "read as " + read.value + (read.onceComplete ? " once complete" : "");
+    }
+    std::string operator()(const Replaces& other) const {
+        return std::string("replaces ") + other.record + " of line " + std::to_string(other.line) +
+               " with " + std::to_string(other.fields) + " field(s), " +
+               std::to_string(other.recs) + " rec(s)";
+    }
+    std::string operator()(const Without& without) const {
+        const char* const part = without.part == RecPart::Product     ? "without product"
+                                 : without.part == RecPart::Operation ? "without operation"
+                                                                      : "without season";
+        return part + (without.name.empty() ? "" : " " + without.name) +
+               (without.nextError.empty() ? "" : ", then " + without.nextError);
+    }
+    std::string operator()(const NothingRead&) const { return "nothing read"; }
+    std::string operator()(const ReadingEnds& end) const {
+        return "reading ends after " + std::to_string(end.growers);
+    }
+    std::string operator()(const NotReached& end) const {
+        return "behind error " + std::to_string(end.errors) + " since line " +
+               std::to_string(end.line) + (end.sameGrower ? " of this grower" : "");
+    }
+    std::string operator()(const CheckEnds&) const { return "check ends"; }
+};
+
+} // namespace
+
+std::string toText(const Consequence& consequence) {
+    return std::visit(ConsequenceText(), consequence);
+}
+
 std::string toText(const Finding& finding) {
     std::string text;
-    if (finding.position)
-        text += std::to_string(finding.position->line) + ":" +
-                std::to_string(finding.position->column) + " ";
-    return text + finding.code + " " + finding.path + ": " + finding.found + " -> " +
-           finding.consequence;
+    if (finding.location)
+        text += std::to_string(finding.location->begin.line) + ":" +
+                std::to_string(finding.location->begin.column) + " ";
+    return text + kindOf(finding.code).code + " " + finding.path + ": " + finding.found + " -> " +
+           toText(finding.consequence);
 }
 
 std::vector<Finding> findingsIn(const std::string& content) {
@@ -22,27 +62,34 @@ std::vector<Finding> findingsIn(const std::string& content) {
     return checkPackage(folder.writePackage(content));
 }
 
-std::string findingTexts(const std::string& content, const std::string& code) {
+std::string findingTexts(const std::string& content) {
     std::string text;
-    for (const Finding& finding : findingsIn(content)) {
-        if (code.empty() || finding.code == code)
-            text += toText(finding) + "\n";
-    }
+    for (const Finding& finding : findingsIn(content))
+        text += toText(finding) + "\n";
     return text;
 }
 
-Finding findingOf(const std::string& content, const std::string& code) {
-    std::vector<Finding> found;
-    for (const Finding& finding : findingsIn(content)) {
-        if (finding.code == code)
-            found.push_back(finding);
-    }
-    EXPECT_EQ(found.size(), 1U) << code << " in " << content;
+std::vector<Finding> findingsOf(const std::string& content, FindingCode code) {
+    std::vector<Finding> findings = findingsIn(content);
+    findings.erase(std::remove_if(findings.begin(), findings.end(),
+                                  [&](const Finding& finding) { return finding.code != code; }),
+                   findings.end());
+    return findings;
+}
+
+Finding findingOf(const std::string& content, FindingCode code) {
+    const std::vector<Finding> found = findingsOf(content, code);
+    EXPECT_EQ(found.size(), 1U) << kindOf(code).code << " in " << content;
     return found.empty() ? Finding{} : found.front();
 }
 
+std::string consequenceOf(const std::string& content, FindingCode code) {
+    return toText(findingOf(content, code).consequence);
+}
+
 std::string excerptOf(const Finding& finding) {
-    return finding.excerpt.line + "\n" + std::string(finding.excerpt.caret, ' ') + "^";
+    return finding.location->excerpt.line + "\n" +
+           std::string(finding.location->excerpt.caret, ' ') + "^";
 }
 
 std::string packageWithField(const std::string& content) {

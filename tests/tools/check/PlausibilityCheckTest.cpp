@@ -22,7 +22,7 @@ std::string rates(const std::string& minimum, const std::string& average,
 std::string disorder(const std::string& rates) {
     std::string found;
     for (const Finding& finding : test::findingsIn(packageWithRates(rates))) {
-        if (finding.code == "rate-order")
+        if (finding.code == FindingCode::RateOrder)
             found += finding.found + "\n";
     }
     return found;
@@ -51,25 +51,27 @@ TEST(PlausibilityCheck, FindsEveryPairOfRatesOutOfOrder) {
 TEST(PlausibilityCheck, PointsAtTheRateThatIsAboveAnother) {
     const Finding finding = test::findingOf(
         packageWithRates("<MaximumRate>1</MaximumRate>\n<AverageRate>3</AverageRate>"),
-        "rate-order");
+        FindingCode::RateOrder);
     EXPECT_EQ(test::excerptOf(finding).substr(0, 13), "<AverageRate>");
-    EXPECT_EQ(finding.position->line, 2U);
+    EXPECT_EQ(finding.location->begin.line, 2U);
     EXPECT_EQ(finding.path.substr(finding.path.rfind('/')), "/AverageRate");
-    EXPECT_EQ(finding.consequence, "the rates are kept as they are");
+    EXPECT_EQ(test::toText(finding.consequence), "kept");
 }
 
 TEST(PlausibilityCheck, MissesTheUnitOfRatesOnce) {
     const auto unitless = [](const std::string& content) {
-        return test::findingTexts(packageWithRates(content), "rate-without-unit");
+        return test::findingsOf(packageWithRates(content), FindingCode::RateWithoutUnit).size();
     };
-    EXPECT_EQ(test::findingOf(packageWithRates(rates("0", "2", "3")), "rate-without-unit").found,
-              "AverageRate is 2, without a RateUOM or RateUOMID");
-    EXPECT_EQ(test::findingOf(packageWithRates(rates("1", "2", "3")), "rate-without-unit").found,
-              "MinimumRate is 1, without a RateUOM or RateUOMID");
-    EXPECT_EQ(unitless(rates("0", "0", "0")), "");
-    EXPECT_EQ(unitless(rates("1", "2", "3") + "<RateUOM>kg/ha</RateUOM>"), "");
-    EXPECT_EQ(unitless(rates("1", "2", "3") + "<RateUOMID>11</RateUOMID>"), "");
-    EXPECT_NE(unitless(rates("1", "2", "3") + "<RateUOMID>0</RateUOMID>"), "");
+    EXPECT_EQ(
+        test::findingOf(packageWithRates(rates("0", "2", "3")), FindingCode::RateWithoutUnit).found,
+        "AverageRate is 2, without a RateUOM or RateUOMID");
+    EXPECT_EQ(
+        test::findingOf(packageWithRates(rates("1", "2", "3")), FindingCode::RateWithoutUnit).found,
+        "MinimumRate is 1, without a RateUOM or RateUOMID");
+    EXPECT_EQ(unitless(rates("0", "0", "0")), 0U);
+    EXPECT_EQ(unitless(rates("1", "2", "3") + "<RateUOM>kg/ha</RateUOM>"), 0U);
+    EXPECT_EQ(unitless(rates("1", "2", "3") + "<RateUOMID>11</RateUOMID>"), 0U);
+    EXPECT_EQ(unitless(rates("1", "2", "3") + "<RateUOMID>0</RateUOMID>"), 1U);
 }
 
 std::string outOfRange(const std::string& latitude, const std::string& longitude) {
@@ -77,7 +79,7 @@ std::string outOfRange(const std::string& latitude, const std::string& longitude
     for (const Finding& finding : test::findingsIn(test::packageWithField(
              test::element("FieldCentroid", test::element("Latitude", latitude) +
                                                 test::element("Longitude", longitude))))) {
-        if (finding.code == "centroid-range")
+        if (finding.code == FindingCode::CentroidRange)
             found += finding.found + "\n";
     }
     return found;
@@ -95,21 +97,22 @@ TEST(PlausibilityCheck, FindsCoordinatesThatAreNotOnTheEarth) {
 
 TEST(PlausibilityCheck, FindsACentroidThatTellsNoPlace) {
     const auto found = [](const std::string& centroid) {
-        const Finding finding = test::findingOf(test::packageWithField(centroid), "centroid-zero");
-        return finding.found + " -> " + finding.consequence;
+        const Finding finding =
+            test::findingOf(test::packageWithField(centroid), FindingCode::CentroidZero);
+        return finding.found + " -> " + test::toText(finding.consequence);
     };
-    EXPECT_EQ(found(""), "FieldCentroid is missing -> the centroid is read as (0, 0)");
+    EXPECT_EQ(found(""), "FieldCentroid is missing -> read as (0, 0)");
     EXPECT_EQ(found("<FieldCentroid/>"),
-              "Latitude is missing, Longitude is missing -> the centroid is read as (0, 0)");
+              "Latitude is missing, Longitude is missing -> read as (0, 0)");
     EXPECT_EQ(found("<FieldCentroid><Longitude>16.5</Longitude></FieldCentroid>"),
-              "Latitude is missing -> the centroid is read as (0, 16.5)");
+              "Latitude is missing -> read as (0, 16.5)");
     EXPECT_EQ(
         found("<FieldCentroid><Latitude>0</Latitude><Longitude>0</Longitude></FieldCentroid>"),
-        "latitude and longitude are 0 -> the centroid is read as (0, 0)");
-    EXPECT_EQ(test::findingTexts(test::packageWithField("<FieldCentroid><Latitude>0</Latitude>"
+        "latitude and longitude are 0 -> read as (0, 0)");
+    EXPECT_TRUE(test::findingsOf(test::packageWithField("<FieldCentroid><Latitude>0</Latitude>"
                                                         "<Longitude>7</Longitude></FieldCentroid>"),
-                                 "centroid-zero"),
-              "");
+                                 FindingCode::CentroidZero)
+                    .empty());
 }
 
 } // namespace

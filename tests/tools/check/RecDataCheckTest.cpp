@@ -18,61 +18,61 @@ std::string packageWithRecData(const std::string& content) {
 
 TEST(RecDataCheck, NumbersProductsOfOneName) {
     const Finding second =
-        test::findingOf(packageWithRecData("<Planting/><Planting/>"), "second-product");
+        test::findingOf(packageWithRecData("<Planting/><Planting/>"), FindingCode::SecondProduct);
     EXPECT_EQ(second.path, inRecData + "/Planting[2]");
     EXPECT_EQ(second.found, "Planting follows Planting; a rec has one product");
-    EXPECT_EQ(second.consequence, "Planting is ignored");
-    EXPECT_EQ(
-        test::findingOf(packageWithRecData("<Planting/><CustomFertilizer/>"), "second-product")
-            .path,
-        inRecData + "/CustomFertilizer");
+    EXPECT_EQ(test::toText(second.consequence), "dropped Planting");
+    EXPECT_EQ(test::findingOf(packageWithRecData("<Planting/><CustomFertilizer/>"),
+                              FindingCode::SecondProduct)
+                  .path,
+              inRecData + "/CustomFertilizer");
 }
 
 TEST(RecDataCheck, SaysWhichProductASecondOneFollowsThatATextComesBefore) {
-    const Finding second =
-        test::findingOf(packageWithRecData("text<Planting/><Pesticide/>"), "second-product");
+    const Finding second = test::findingOf(packageWithRecData("text<Planting/><Pesticide/>"),
+                                           FindingCode::SecondProduct);
     EXPECT_EQ(second.found, "Pesticide follows Planting; a rec has one product");
 }
 
 TEST(RecDataCheck, QuotesATextOfWhiteSpaceOnly) {
     const Finding text =
-        test::findingOf(packageWithRecData("&#32;<Planting/>"), "text-before-product");
+        test::findingOf(packageWithRecData("&#32;<Planting/>"), FindingCode::TextBeforeProduct);
     EXPECT_EQ(text.found, "the text \" \" stands where the product has to be");
     EXPECT_EQ(text.path, inRecData + "/text()");
     EXPECT_EQ(
-        test::findingOf(packageWithRecData("\n see <Planting/>"), "text-before-product").found,
+        test::findingOf(packageWithRecData("\n see <Planting/>"), FindingCode::TextBeforeProduct)
+            .found,
         "the text \"see\" stands where the product has to be");
 }
 
 TEST(RecDataCheck, FindsEveryTextAfterAProduct) {
-    EXPECT_EQ(test::findingOf(packageWithRecData("<Pesticide/>late"), "stray-text").found,
+    EXPECT_EQ(test::findingOf(packageWithRecData("<Pesticide/>late"), FindingCode::StrayText).found,
               "the text \"late\" stands in RecData, which holds elements only");
-    EXPECT_EQ(test::findingTexts(packageWithRecData("<Pesticide/>"), "stray-text"), "");
+    EXPECT_TRUE(
+        test::findingsOf(packageWithRecData("<Pesticide/>"), FindingCode::StrayText).empty());
 }
 
 TEST(RecDataCheck, SaysThatNumbersOfAnIncompleteProductMatterOnceItIsComplete) {
     const std::string all = "<CropID>x</CropID><CropName/><CompanyID>1</CompanyID><CompanyName/>"
                             "<VarietyID>1</VarietyID><VarietyName/><UOMID>1</UOMID>";
     const auto consequence = [&](const std::string& product) {
-        return test::findingOf(packageWithRecData(test::element("Planting", product)),
-                               "not-a-number")
-            .consequence;
+        return test::consequenceOf(packageWithRecData(test::element("Planting", product)),
+                                   FindingCode::NotANumber);
     };
-    EXPECT_EQ(consequence(all), "once the product is complete, it is read as 0");
-    EXPECT_EQ(consequence(all + "<UOM/>"), "it is read as 0");
+    EXPECT_EQ(consequence(all), "read as 0 once complete");
+    EXPECT_EQ(consequence(all + "<UOM/>"), "read as 0");
     // It is said of no number behind the product.
-    EXPECT_EQ(test::findingOf(test::packageWithRec("<RecData><Planting/></RecData>"
-                                                   "<RecStats><Area>x</Area></RecStats>"),
-                              "not-a-number")
-                  .consequence,
-              "it is read as 0");
+    EXPECT_EQ(test::consequenceOf(test::packageWithRec("<RecData><Planting/></RecData>"
+                                                       "<RecStats><Area>x</Area></RecStats>"),
+                                  FindingCode::NotANumber),
+              "read as 0");
 }
 
 TEST(RecDataCheck, NamesAllThatAProductLacks) {
     const auto lack = [](const std::string& content) {
         return test::findingOf(packageWithRecData("<CommercialFertilizer>" + content +
                                                   "</CommercialFertilizer>"),
-                               "product-incomplete")
+                               FindingCode::ProductIncomplete)
             .found;
     };
     EXPECT_EQ(lack(""), "CommercialFertilizer has no ProductID, ProductName, UOMID and UOM");
@@ -83,17 +83,19 @@ TEST(RecDataCheck, NamesAllThatAProductLacks) {
 }
 
 TEST(RecDataCheck, SuggestsTheProductThatIsMeantUnlessItIsThereAlready) {
-    EXPECT_EQ(test::findingOf(packageWithRecData("<Plantin/>"), "product-unknown").found,
+    EXPECT_EQ(test::findingOf(packageWithRecData("<Plantin/>"), FindingCode::ProductUnknown).found,
               "\"Plantin\" is no product; is Planting meant?");
-    EXPECT_EQ(test::findingOf(packageWithRecData("<Plantin/><Planting/>"), "product-unknown").found,
-              "\"Plantin\" is no product");
+    EXPECT_EQ(
+        test::findingOf(packageWithRecData("<Plantin/><Planting/>"), FindingCode::ProductUnknown)
+            .found,
+        "\"Plantin\" is no product");
 }
 
 TEST(RecDataCheck, FindsThatThereIsNoProduct) {
-    const Finding empty = test::findingOf(packageWithRecData(""), "no-product");
-    EXPECT_EQ(empty.path + ": " + empty.found + " -> " + empty.consequence,
-              inRecData + ": RecData is empty -> the rec is kept without product data");
-    EXPECT_EQ(test::findingOf(packageWithRecData("<Pesticide/>"), "pesticide-mix").path,
+    const Finding empty = test::findingOf(packageWithRecData(""), FindingCode::NoProduct);
+    EXPECT_EQ(empty.path + ": " + empty.found + " -> " + test::toText(empty.consequence),
+              inRecData + ": RecData is empty -> without product");
+    EXPECT_EQ(test::findingOf(packageWithRecData("<Pesticide/>"), FindingCode::PesticideMix).path,
               inRecData + "/Pesticide");
 }
 

@@ -33,10 +33,11 @@ const std::vector<CommandWithConsequence> commands = {
     {{"report"}, "qenxml: -: ", skipped},
     {{"check"},
      "-: error: ",
-     " [unreadable]\n  so:    nothing of the package is read\n\n-: 1 error\n"},
+     " [unreadable]\n  so:    nothing of the file is read\n\n-: 1 error\n"},
     {{"check", "--json"},
      "\"found\":\"",
-     "\",\"consequence\":\"nothing of the package is read\"}],\n   \"errors\": 1, "},
+     "\",\"consequence\":{\"kind\":\"nothing-read\",\"text\":\"nothing of the file is "
+     "read\"}}],\n   \"errors\": 1, "},
 };
 
 class StandardInput : public testing::Test {

@@ -32,7 +32,7 @@ protected:
 TEST_F(ProgressLineOnTerminal, ShowsTheFileAndHowMuchOfItIsDone) {
     ProgressLine progress(terminal_, 12, std::chrono::seconds(0));
     progress.beginFile("a\n.xml");
-    progress.reach(0.5); // too soon after the first
+    progress.advance(0.5); // too soon after the first
     terminal_.clearProgress();
     terminal_.clearProgress();
     EXPECT_EQ(messages(), "\rfile 1 of 12, 0 % of it: a\\n.xml\x1b[K\r\x1b[K");
@@ -42,9 +42,9 @@ TEST_F(ProgressLineOnTerminal, ShowsThePercentageOfTheFileTenTimesASecond) {
     ProgressLine progress(terminal_, 2, std::chrono::seconds(0));
     progress.beginFile("a.xml");
     std::this_thread::sleep_for(std::chrono::milliseconds(101));
-    progress.reach(0.254);
+    progress.advance(0.254);
     std::this_thread::sleep_for(std::chrono::milliseconds(101));
-    progress.reach(1);
+    progress.advance(1);
     EXPECT_EQ(messages(), "\rfile 1 of 2, 0 % of it: a.xml\x1b[K"
                           "\rfile 1 of 2, 25 % of it: a.xml\x1b[K"
                           "\rfile 1 of 2, 100 % of it: a.xml\x1b[K");
@@ -60,7 +60,7 @@ TEST_F(ProgressLineOnTerminal, GivesWayToMessages) {
 TEST_F(ProgressLineOnTerminal, ShowsNothingAtFirst) {
     ProgressLine progress(terminal_, 12, std::chrono::hours(1));
     progress.beginFile("a.xml");
-    progress.reach(0.5);
+    progress.advance(0.5);
     EXPECT_EQ(messages(), "");
 }
 

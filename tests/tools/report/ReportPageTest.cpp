@@ -97,6 +97,32 @@ TEST(ReportPage, SaysThatThereAreNoProblems) {
     EXPECT_TRUE(contains(pageOf({packageOf("a.xml", {})}), "<p>No problems were found.</p>"));
 }
 
+TEST(ReportPage, PutsTheWorstFindingsFirst) {
+    ReportPackage package = packageOf("a.xml", {});
+    const auto add = [&](FindingCode code, const std::string& found) {
+        package.findings.add({code, found, Kept{}});
+    };
+    add(FindingCode::EmptyName, "third");
+    add(FindingCode::RecId, "first");
+    add(FindingCode::NotANumber, "second");
+    const std::string page = pageOf({package});
+    EXPECT_LT(page.find("<li class=\"error\"><p><strong>Error</strong>: first</p>"),
+              page.find("<li class=\"warning\"><p><strong>Warning</strong>: second</p>"));
+    EXPECT_LT(page.find("second"), page.find("<li class=\"note\"><p><strong>Note</strong>: third"));
+    EXPECT_TRUE(contains(page, "<p>Consequence: hosts can show no name</p>"));
+}
+
+TEST(ReportPage, CountsTheFindingsThatItDoesNotShow) {
+    ReportPackage package = packageOf("a.xml", {});
+    for (int i = 0; i < 12; ++i) {
+        if (package.findings.wants(FindingCode::EmptyName))
+            package.findings.add({FindingCode::EmptyName, "nameless", Kept{}});
+        else
+            package.findings.addCode(FindingCode::EmptyName);
+    }
+    EXPECT_TRUE(contains(pageOf({package}), "<p>2 findings more not shown;"));
+}
+
 // Both are kept together on paper.
 TEST(ReportPage, PutsThePlaceOfAFieldUnderItsHeading) {
     EXPECT_TRUE(contains(pageOf({packageOf("a.xml", {growerWith({recOf(5, 1.0, "")})})}),

@@ -164,26 +164,4 @@ TEST(Sum, IsNotFiniteWhenANumberIsNot) {
     EXPECT_EQ(sumOf({1.0, nan}), "NaN");
 }
 
-Finding findingOf(FindingCode code) {
-    Finding finding;
-    finding.code = kindOf(code).code;
-    finding.severity = kindOf(code).severity;
-    return finding;
-}
-
-TEST(ReportFindings, PutTheWorstFirstAndKeepTenOfACode) {
-    ReportFindings findings;
-    for (const FindingCode code : {FindingCode::EmptyName, FindingCode::RecId})
-        for (int i = 0; i < 12; ++i) {
-            if (findings.count(code))
-                findings.keep(findingOf(code));
-        }
-    ASSERT_EQ(findings.kept().size(), 20U);
-    EXPECT_EQ(findings.kept().front().code, "rec-id");
-    EXPECT_EQ(findings.kept().back().code, "empty-name");
-    EXPECT_EQ(findings.number(Severity::Error), 12U);
-    EXPECT_EQ(findings.number(Severity::Note), 12U);
-    EXPECT_EQ(findings.number(), 24U);
-}
-
 } // namespace

@@ -256,46 +256,69 @@ TEST(SourceText, LeavesOutACharacterAtEitherEndThatIsCut) {
     EXPECT_EQ(text.excerpt(301).caret, 23U);
 }
 
-TEST(SourceText, FindsAttributesAndTheirValues) {
-    const SourceText text("\xEF\xBB\xBF<a>\n<b one = '1' two='&lt;2'/></a>");
-    pugi::xml_document document;
-    ASSERT_TRUE(text.load(document));
-    const pugi::xml_node b = document.child("a").child("b");
-    const pugi::xml_attribute two = b.attribute("two");
-    EXPECT_EQ(text.position(nameOffset(b, b.first_attribute())), (Position{2, 4}));
-    EXPECT_EQ(text.position(valueOffset(b, b.first_attribute())), (Position{2, 11}));
-    EXPECT_EQ(text.position(nameOffset(b, two)), (Position{2, 14}));
-    EXPECT_EQ(text.position(valueOffset(b, two)), (Position{2, 19}));
+/// Parts of a text, by what they cover.
+class SourceExtent : public testing::Test {
+protected:
+    void read(const std::string& text) {
+        text_ = SourceText(text);
+        EXPECT_TRUE(text_.load(document_));
+    }
+    pugi::xml_node root() const { return document_.child("a"); }
+    std::string covered(Extent extent) const {
+        return std::string(text_.text().substr(extent.offset, extent.length));
+    }
+    std::string covered(pugi::xml_node node) const { return covered(text_.extent(node)); }
+
+    SourceText text_ = SourceText("");
+
+private:
+    pugi::xml_document document_;
+};
+
+TEST_F(SourceExtent, OfAnAttributeIsItsNameOrItsValue) {
+    read("\xEF\xBB\xBF<a>\n<b one = '1' two='&lt;2' three=\"it's\" four=''/></a>");
+    const pugi::xml_node b = root().child("b");
+    const auto value = [&](const char* name) {
+        return covered(text_.extent(b, b.attribute(name)));
+    };
+    EXPECT_EQ(covered(nameExtent(b, b.attribute("one"))), "one");
+    EXPECT_EQ(covered(nameExtent(b, b.attribute("four"))), "four");
+    EXPECT_EQ(value("one"), "1");
+    EXPECT_EQ(value("two"), "&lt;2");
+    EXPECT_EQ(value("three"), "it's");
+    EXPECT_EQ(value("four"), "");
+    EXPECT_EQ(text_.location(text_.extent(b, b.attribute("two"))).begin, (Position{2, 19}));
+    EXPECT_EQ(text_.location(text_.extent(b, b.attribute("two"))).end, (Position{2, 24}));
 }
 
-TEST(SourceText, FindsElementsAtTheirOpeningBracket) {
+TEST_F(SourceExtent, OfAnElementIsItsStartTag) {
     for (const std::string mark : {"", "\xEF\xBB\xBF"}) {
-        const SourceText text(mark + "<a>\r\n  <b>\u00e9 &lt;</b><c/></a>");
-        pugi::xml_document document;
-        ASSERT_TRUE(text.load(document));
-        const pugi::xml_node a = document.child("a");
-        EXPECT_EQ(text.position(a), (Position{1, 1}));
-        EXPECT_EQ(text.position(a.child("b")), (Position{2, 3}));
-        EXPECT_EQ(text.position(a.child("c")), (Position{2, 16}));
+        read(mark + "<a>\r\n  <b x='>' y=\"'>\">\u00e9 &lt;</b><c/></a>");
+        EXPECT_EQ(covered(root()), "<a>");
+        EXPECT_EQ(covered(root().child("b")), "<b x='>' y=\"'>\">");
+        EXPECT_EQ(covered(root().child("c")), "<c/>");
+        EXPECT_EQ(text_.location(text_.extent(root())).begin, (Position{1, 1}));
+        EXPECT_EQ(text_.location(text_.extent(root().child("c"))).begin, (Position{2, 29}));
     }
 }
 
-TEST(SourceText, FindsTextsAtTheirFirstCharacter) {
-    const SourceText text("<a><b/>\n  stray<![CDATA[more]]></a>");
-    pugi::xml_document document;
-    ASSERT_TRUE(text.load(document));
-    const pugi::xml_node stray = document.child("a").child("b").next_sibling();
-    EXPECT_EQ(text.position(stray), (Position{2, 3}));
-    EXPECT_EQ(text.position(stray.next_sibling()), (Position{2, 17}));
+TEST_F(SourceExtent, OfATextIsWhatIsNoWhiteSpace) {
+    read("<a><b/>\n  stray \u00e9 \n <![CDATA[ more\n< ]]></a>");
+    const pugi::xml_node stray = root().child("b").next_sibling();
+    EXPECT_EQ(covered(stray), "stray \u00e9");
+    EXPECT_EQ(covered(text_.wholeText(stray)), "\n  stray \u00e9 \n ");
+    EXPECT_EQ(covered(stray.next_sibling()), "more\n<");
+    EXPECT_EQ(covered(text_.wholeText(stray.next_sibling())), " more\n< ");
+    const Location location = text_.location(text_.extent(stray.next_sibling()));
+    EXPECT_EQ(location.begin, (Position{3, 12}));
+    EXPECT_EQ(location.end, (Position{4, 2}));
+    EXPECT_EQ(location.excerpt.line, " <![CDATA[ more");
 }
 
-TEST(SourceText, FindsABlankTextWhereItBegins) {
-    const SourceText text("<a>\n &#32;<b/><![CDATA[ ]]></a>");
-    pugi::xml_document document;
-    ASSERT_TRUE(text.load(document));
-    const pugi::xml_node a = document.child("a");
-    EXPECT_EQ(text.position(a.first_child()), (Position{2, 2}));
-    EXPECT_EQ(text.position(a.last_child()), (Position{2, 20}));
+TEST_F(SourceExtent, OfABlankTextIsAllOfIt) {
+    read("<a>\n &#32; <b/><![CDATA[ ]]></a>");
+    EXPECT_EQ(covered(root().first_child()), "&#32;");
+    EXPECT_EQ(covered(root().last_child()), " ");
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "tools/check/ValuePlace.h"
+#include "tools/check/ValueOffset.h"
 
 #include <array>
 #include <cstdint>
@@ -52,18 +52,18 @@ Piece reference(std::string_view text) {
 
 } // namespace
 
-std::size_t placeOfValue(std::string_view source, std::size_t offset, std::size_t place) {
+std::size_t sourceOffset(std::string_view source, std::size_t begin, std::size_t index) {
     constexpr std::string_view section = "<![CDATA[";
-    const bool verbatim = offset >= section.size() &&
-                          source.substr(offset - section.size(), section.size()) == section;
-    std::size_t at = offset;
-    for (std::size_t read = 0; read < place && at < source.size();) {
-        const std::string_view rest = source.substr(at);
+    const bool verbatim =
+        begin >= section.size() && source.substr(begin - section.size(), section.size()) == section;
+    std::size_t offset = begin;
+    for (std::size_t read = 0; read < index && offset < source.size();) {
+        const std::string_view rest = source.substr(offset);
         const Piece piece = rest.substr(0, 2) == "\r\n"        ? Piece{2, 1}
                             : rest.front() == '&' && !verbatim ? reference(rest)
                                                                : oneByte;
-        at += piece.written;
+        offset += piece.written;
         read += piece.read;
     }
-    return at;
+    return offset;
 }
