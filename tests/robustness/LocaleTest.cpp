@@ -18,6 +18,7 @@
 #include <rapidcheck/gtest.h>
 
 #include "tests/robustness/NumberReaders.h"
+#include "tests/support/NumberSpellings.h"
 
 // Each time that a locale is looked for in LOCPATH, the C library loses a copy of that text.
 extern "C" const char* __lsan_default_suppressions() { // NOLINT(bugprone-reserved-identifier)
