@@ -1,24 +1,17 @@
 #include "tools/check/ElementCheck.h"
 
-#include <algorithm>
 #include <optional>
 
-#include <boost/uuid/uuid_io.hpp>
 #include <fmt/format.h>
 
-#include "tools/check/IdentifierReading.h"
 #include "tools/check/NameCounts.h"
-#include "tools/check/NumberReading.h"
-#include "tools/check/ValueOffset.h"
 #include "tools/text/Escape.h"
 #include "tools/text/NameSuggestion.h"
-#include "tools/text/Utf8.h"
+#include "tools/text/Words.h"
 
 namespace {
 
 using Details = CheckReport::Details;
-
-constexpr std::string_view whiteSpace = " \t\r\n";
 
 /// Whether an attribute means something to XML itself, so that nobody expects it to be read.
 bool belongsToXml(std::string_view attribute) {
@@ -39,16 +32,6 @@ std::vector<const char*> absentNames(const std::vector<DatumFormat>& formats, Is
             names.push_back(format.name);
     }
     return names;
-}
-
-/// A text without the white space around it.
-std::string_view trimmed(std::string_view text) {
-    const std::size_t begin = std::min(text.find_first_not_of(whiteSpace), text.size());
-    return text.substr(begin, text.find_last_not_of(whiteSpace) + 1 - begin);
-}
-
-std::string quoted(std::string_view text) {
-    return fmt::format("\"{}\"", escapeExcerpt(text));
 }
 
 const DatumFormat* find(const std::vector<DatumFormat>& formats, const char* name) {
@@ -104,11 +87,6 @@ private:
 };
 
 } // namespace
-
-std::string quotedText(std::string_view text) {
-    const std::string_view inner = trimmed(text);
-    return quoted(inner.empty() ? text : inner);
-}
 
 bool isText(pugi::xml_node node) {
     return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata;
@@ -187,8 +165,8 @@ void ElementCheck::attributes(const std::vector<DatumFormat>& known, pugi::xml_n
         seen[index] = true;
         if (onKnown)
             onKnown(attribute);
-        reading(*datum, attribute.value(), report_.source().extent(node, attribute),
-                fmt::format("@{}", attribute.name()));
+        values_.check(*datum, attribute.value(), report_.source().extent(node, attribute),
+                      fmt::format("@{}", attribute.name()));
     }
 }
 
@@ -261,7 +239,7 @@ void ElementCheck::value(const DatumFormat& datum, pugi::xml_node node) {
     const pugi::xml_node held = node.text().data(); // the first text
     const auto readHeld = [&] {
         const SourceText& source = report_.source();
-        reading(datum, held.value(), held ? source.wholeText(held) : source.extent(node), "");
+        values_.check(datum, held.value(), held ? source.wholeText(held) : source.extent(node), "");
     };
     // In the order of the file: what is said of a text that is not there, is said of the element.
     if (!held)
@@ -272,15 +250,6 @@ void ElementCheck::value(const DatumFormat& datum, pugi::xml_node node) {
     cutOffText(node);
     if (held && held != node.first_child())
         readHeld();
-}
-
-void ElementCheck::reading(const DatumFormat& datum, const char* text, Extent extent,
-                           std::string_view step) {
-    if (datum.kind == qenxml::format::Kind::Identifier)
-        identifier(datum, text, extent, step);
-    else if (datum.kind == qenxml::format::Kind::Integer ||
-             datum.kind == qenxml::format::Kind::Number)
-        number(datum, text, extent, step);
 }
 
 void ElementCheck::cutOffText(pugi::xml_node node) {
@@ -295,97 +264,4 @@ void ElementCheck::cutOffText(pugi::xml_node node) {
         return Details{fmt::format("{} is more than one piece of text: {}", node.name(), what),
                        ReadAs{escapeExcerpt(node.text().as_string())}};
     });
-}
-
-/// Where some bytes of a value stand.
-///
-/// @param extent where the value stands, or its element when there is none
-Extent ElementCheck::partOf(Extent extent, std::string_view value, std::size_t index,
-                            std::size_t length) const {
-    if (value.empty())
-        return extent;
-    const std::string_view source = report_.source().text();
-    const std::size_t begin = sourceOffset(source, extent.offset, index);
-    return {begin, sourceOffset(source, extent.offset, index + length) - begin};
-}
-
-/// As above, up to the white space at the end of the value.
-Extent ElementCheck::restOf(Extent extent, std::string_view value, std::size_t index) const {
-    const std::size_t end = value.find_last_not_of(whiteSpace) + 1;
-    return partOf(extent, value, index, std::max(end, index) - index);
-}
-
-void ElementCheck::identifier(const DatumFormat& datum, std::string_view text, Extent extent,
-                              std::string_view step) {
-    const IdentifierReading identifier = readIdentifier(text);
-    if (identifier.fault != IdentifierReading::Fault::None) {
-        if (datum.fault && !(datum.mayBeEmpty && text.empty()))
-            report_.add(*datum.fault, restOf(extent, text, identifier.faultPlace), step, [&] {
-                return Details{fmt::format("{} {}", datum.name, describeFault(identifier, text))};
-            });
-        return;
-    }
-    const ReadAs readAs{to_string(identifier.value)};
-    const bool nilHasMeaning = datum.mayBeEmpty || datum.fault == FindingCode::OperationId;
-    if (identifier.value.is_nil() && !nilHasMeaning)
-        report_.add(FindingCode::NilIdentifier, restOf(extent, text, 0), step, [&] {
-            return Details{fmt::format("{} is nil, which stands for \"none\"", datum.name), Kept{}};
-        });
-    if (identifier.wrongDigits > 0) {
-        const std::string_view wrong = text.substr(identifier.wrongPlace);
-        const std::size_t length = firstCharacter(wrong).length;
-        report_.add(FindingCode::IdentifierDigit,
-                    partOf(extent, text, identifier.wrongPlace, length), step, [&] {
-                        const std::string others =
-                            identifier.wrongDigits > 1
-                                ? fmt::format(", nor {} {} more",
-                                              identifier.wrongDigits == 2 ? "is" : "are",
-                                              identifier.wrongDigits - 1)
-                                : "";
-                        return Details{fmt::format("{} {}: {} is no hexadecimal digit{}",
-                                                   datum.name, quoted(text),
-                                                   quoted(wrong.substr(0, length)), others),
-                                       readAs};
-                    });
-    }
-    if (!identifier.ignored.empty())
-        report_.add(FindingCode::IdentifierTrailing,
-                    restOf(extent, text, text.size() - identifier.ignored.size()), step, [&] {
-                        return Details{fmt::format("{} goes on with {} after its last digit",
-                                                   datum.name, quoted(identifier.ignored)),
-                                       readAs};
-                    });
-}
-
-void ElementCheck::number(const DatumFormat& datum, const char* text, Extent extent,
-                          std::string_view step) {
-    using Oddity = NumberReading::Oddity;
-    const NumberReading number =
-        datum.kind == qenxml::format::Kind::Integer ? readInteger(text) : readNumber(text);
-    const auto add = [&](FindingCode code, const char* what) {
-        report_.add(code, restOf(extent, text, number.place), step, [&] {
-            const std::string value = *text == '\0' ? "" : " " + quotedText(text);
-            return Details{fmt::format("{}{} {}", datum.name, value, what),
-                           ReadAs{number.read, incomplete_}};
-        });
-    };
-    switch (number.oddity) {
-    case Oddity::None:
-        return;
-    case Oddity::Empty:
-        return add(FindingCode::NumberEmpty, "is empty");
-    case Oddity::NotANumber:
-        return add(FindingCode::NotANumber, "is not a number");
-    case Oddity::CutOff:
-        return add(FindingCode::NumberCutOff,
-                   text[number.place] == ','   ? "has a comma, where the number ends"
-                   : text[number.place] == '.' ? "is not a whole number"
-                                               : "goes on after the number");
-    case Oddity::OutOfRange:
-        return add(FindingCode::NumberOutOfRange, "is out of range");
-    case Oddity::NotFinite:
-        return add(FindingCode::NumberNotFinite, "is not a finite number");
-    case Oddity::Hexadecimal:
-        return add(FindingCode::NumberHexadecimal, "is a hexadecimal number");
-    }
 }

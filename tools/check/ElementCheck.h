@@ -11,14 +11,13 @@
 #include <pugixml.hpp>
 
 #include "tools/check/CheckReport.h"
-#include "tools/check/NumberReading.h"
 #include "tools/check/PackageFormat.h"
+#include "tools/check/ValueCheck.h"
 
-/// Checks what is the same for all elements: their names, attributes, texts, identifiers and
-/// numbers.
+/// Checks what is the same for all elements: their names, attributes, texts and values.
 class ElementCheck {
 public:
-    explicit ElementCheck(CheckReport& report) : report_(report) {}
+    explicit ElementCheck(CheckReport& report) : report_(report), values_(report) {}
 
     CheckReport& report() { return report_; }
 
@@ -43,9 +42,8 @@ public:
     /// Checks a child that holds a value.
     void value(const DatumFormat& datum, pugi::xml_node node);
 
-    /// Whether what follows is a part of a product that is incomplete, of which nothing is read
-    /// before it is complete.
-    void setIncomplete(bool incomplete) { incomplete_ = incomplete; }
+    /// The check of all values.
+    ValueCheck& values() { return values_; }
 
     void strayText(const ElementFormat& format, pugi::xml_node text);
 
@@ -57,20 +55,10 @@ private:
     void unknownAttribute(pugi::xml_node node, pugi::xml_attribute attribute,
                           std::string_view nearest);
     void cutOffText(pugi::xml_node node);
-    void reading(const DatumFormat& datum, const char* text, Extent extent, std::string_view step);
-    void identifier(const DatumFormat& datum, std::string_view text, Extent extent,
-                    std::string_view step);
-    void number(const DatumFormat& datum, const char* text, Extent extent, std::string_view step);
-    Extent partOf(Extent extent, std::string_view value, std::size_t index,
-                  std::size_t length) const;
-    Extent restOf(Extent extent, std::string_view value, std::size_t index) const;
 
     CheckReport& report_;
-    bool incomplete_ = false;
+    ValueCheck values_;
 };
-
-/// A text as findings quote it: without the white space around it, unless there is nothing else.
-std::string quotedText(std::string_view text);
 
 /// Whether a node holds text of its own: text or a CDATA section.
 bool isText(pugi::xml_node node);

@@ -158,7 +158,7 @@ private:
     /// A node that is read as an item of a list because it follows one.
     void foreignItem(const ElementFormat& format, pugi::xml_node node, bool readable) {
         const std::string what = node.type() == pugi::node_element
-                                     ? fmt::format("\"{}\"", escapeExcerpt(node.name()))
+                                     ? quoted(node.name())
                                      : fmt::format("the text {}", quotedText(node.value()));
         const std::string found =
             fmt::format("{} follows the first {} and is read as one too", what, format.name);

@@ -50,7 +50,7 @@ void checkProduct(ElementCheck& check, const ElementFormat& format, pugi::xml_no
                            Without{RecPart::Product, "", unreadIdentifier(format, node)}};
         });
     }
-    check.setIncomplete(!missing.empty());
+    check.values().setIncomplete(!missing.empty());
     check.attributes(format.attributes, node);
     check.children(format, node, [&](DatumFormat datum, pugi::xml_node child) {
         // Not read at all, and so no error, while anything is missing.
@@ -58,7 +58,7 @@ void checkProduct(ElementCheck& check, const ElementFormat& format, pugi::xml_no
             datum.fault = FindingCode::BlendId;
         check.value(datum, child);
     });
-    check.setIncomplete(false);
+    check.values().setIncomplete(false);
 }
 
 void unknownProduct(CheckReport& report, pugi::xml_node node) {

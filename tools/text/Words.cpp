@@ -4,6 +4,8 @@
 
 #include <fmt/format.h>
 
+#include "tools/text/Escape.h"
+
 std::string plural(std::size_t number, std::string_view noun) {
     return fmt::format("{}{}", noun, number == 1 ? "" : "s");
 }
@@ -39,4 +41,19 @@ std::string joined(const std::vector<std::string>& words, std::string_view last)
     for (std::size_t i = 0; i < words.size(); ++i)
         text += fmt::format("{}{}", i == 0 ? "" : i + 1 == words.size() ? last : ", ", words[i]);
     return text;
+}
+
+std::string_view trimmed(std::string_view text) {
+    constexpr std::string_view whiteSpace = " \t\r\n";
+    const std::size_t begin = std::min(text.find_first_not_of(whiteSpace), text.size());
+    return text.substr(begin, text.find_last_not_of(whiteSpace) + 1 - begin);
+}
+
+std::string quoted(std::string_view text) {
+    return fmt::format("\"{}\"", escapeExcerpt(text));
+}
+
+std::string quotedText(std::string_view text) {
+    const std::string_view inner = trimmed(text);
+    return quoted(inner.empty() ? text : inner);
 }

@@ -1,5 +1,5 @@
 /// @file
-/// How sentences say numbers and enumerations.
+/// How sentences say numbers, enumerations and texts of others.
 
 #ifndef QENXML_TOOLS_TEXT_WORDS_H
 #define QENXML_TOOLS_TEXT_WORDS_H
@@ -26,5 +26,14 @@ std::string capitalised(std::string_view word);
 
 /// "a, b and c".
 std::string joined(const std::vector<std::string>& words, std::string_view last = " and ");
+
+/// A text without the white space around it.
+std::string_view trimmed(std::string_view text);
+
+/// A text in quotation marks, as escapeExcerpt() shows it.
+std::string quoted(std::string_view text);
+
+/// As quoted(), but without the white space around it, unless there is nothing else.
+std::string quotedText(std::string_view text);
 
 #endif

@@ -32,4 +32,12 @@ TEST(Words, AreNumbersInGroupsOfDigits) {
     EXPECT_EQ(grouped("nan", ","), "nan");
 }
 
+TEST(Words, QuoteTextsWithoutTheWhiteSpaceAroundThem) {
+    EXPECT_EQ(quoted(" a\n"), "\" a\\n\"");
+    EXPECT_EQ(quotedText(" a b\n"), "\"a b\"");
+    EXPECT_EQ(quotedText(" "), "\" \"");
+    EXPECT_EQ(trimmed("\t a b\r\n"), "a b");
+    EXPECT_EQ(trimmed(" "), "");
+}
+
 } // namespace
