@@ -30,6 +30,23 @@ std::optional<std::pair<dev_t, ino_t>> identityOf(const std::string& path) {
                                  : identityOf(stat(path.c_str(), &status), status);
 }
 
+/// Refuses to write over a package that is to be read, or behind it.
+void requireOtherFile(const PackageOptions& options, const std::string& output) {
+    struct stat status = {};
+    const bool isNamed = !output.empty() && output != "-";
+    const auto written =
+        isNamed ? identityOf(output) : identityOf(fstat(STDOUT_FILENO, &status), status);
+    const auto isWritten = [&](const std::string& file) { return identityOf(file) == written; };
+    if (!written || std::none_of(options.files.begin(), options.files.end(), isWritten))
+        return;
+    if (isNamed)
+        throw CLI::ValidationError("the output would replace a package that is to be read");
+    throw CLI::ValidationError(
+        status.st_size > 0 ? "the standard output is a package that is to be read"
+                           : "the standard output is a package that is to be read, and the shell "
+                             "has emptied it already: \">\" does so before qenxml begins");
+}
+
 } // namespace
 
 bool isStandardInput(const std::string& file) {
@@ -54,11 +71,7 @@ void requireUsable(const PackageOptions& options, const std::string& output) {
                                    "carries the UUID of the package");
     if (count == 0 && !options.uuid.empty())
         throw CLI::ValidationError("--uuid is for the standard input, which no \"-\" asks for");
-    const auto replaced = output == "-" ? std::nullopt : identityOf(output);
-    for (const std::string& file : options.files) {
-        if (replaced && identityOf(file) == replaced)
-            throw CLI::ValidationError("the output would replace a package that is to be read");
-    }
+    requireOtherFile(options, output);
 }
 
 void addOutputOption(CLI::App& parser, std::string& path) {

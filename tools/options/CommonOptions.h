@@ -24,9 +24,10 @@ void addPackageOptions(CLI::App& parser, PackageOptions& options,
 /// Whether an argument stands for the standard input and not for a file.
 bool isStandardInput(const std::string& file);
 
-/// Refuses what is no way to name packages, such as "-" without `--uuid`; and to write the result,
-/// if it has a name, over one of them.
+/// Refuses what is no way to name packages, such as "-" without `--uuid`; and to write the result
+/// over one of them.
 ///
+/// @param output of `-o`; empty or "-" for the standard output
 /// @throws CLI::ValidationError
 void requireUsable(const PackageOptions& options, const std::string& output = "");
 

@@ -99,9 +99,13 @@ bool OutputPlace::isProcessFile() const {
 
 Descriptor OutputPlace::openSpecial() const {
     // Opened anew, a file that is appended to (">> FILE") would be written over.
-    if (isProcessFile())
-        return Descriptor(
-            fcntl(static_cast<int>(std::strtol(name_.c_str(), nullptr, 10)), F_DUPFD_CLOEXEC, 0));
+    if (isProcessFile()) {
+        const int file = static_cast<int>(std::strtol(name_.c_str(), nullptr, 10));
+        const int flags = fcntl(file, F_GETFL);
+        if (flags >= 0 && (flags & O_ACCMODE) == O_RDONLY) // what a closed stream is, too
+            throw OutputFileError(path_, "it is closed, or open for reading only");
+        return Descriptor(fcntl(file, F_DUPFD_CLOEXEC, 0));
+    }
     const int follow = S_ISLNK(present_->st_mode) ? 0 : O_NOFOLLOW;
     return Descriptor(openat(folder(), name_.c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC | follow));
 }

@@ -40,6 +40,7 @@ public:
 
     /// Opens something special.
     ///
+    /// @throws OutputFileError
     /// @return none, with errno, when that failed
     Descriptor openSpecial() const;
 

@@ -25,6 +25,8 @@ const std::vector<std::vector<std::string>> commands = {{"export", "--format", "
                                                         {"export", "--format", "csv"},
                                                         {"export", "--format", "geojson"},
                                                         {"report"}};
+const std::vector<std::vector<std::string>> allCommands = {
+    {"show"}, {"check"}, {"export", "--format", "json"}, {"report"}};
 
 /// export and report: what they have in common.
 class WritingCommand : public testing::Test {
@@ -105,6 +107,46 @@ TEST_F(WritingCommand, RefusesToReplaceThePackageOnItsStandardInput) {
             EXPECT_EQ(result.exitCode, 2);
             EXPECT_EQ(contentOf(folder_.path("in.xml")), package);
         }
+    }
+}
+
+TEST_F(WritingCommand, RefusesToWriteIntoAPackageByItsStandardOutput) {
+    const std::string refusal = "qenxml: the standard output is a package that is to be read";
+    const std::string uuid = name.substr(0, 36);
+    RunOptions options;
+    options.input = folder_.write(name, package);
+    options.appendTo = options.input;
+    for (const std::vector<std::string>& command : allCommands) {
+        for (const std::vector<std::string>& input :
+             {std::vector<std::string>{name}, {"--uuid", uuid, "-"}}) {
+            const RunResult result = run(command, input, options);
+            EXPECT_EQ(result.errors.substr(0, result.errors.find("; try")), refusal);
+            EXPECT_EQ(result.exitCode, 2);
+            EXPECT_EQ(contentOf(folder_.path(name)), package);
+        }
+    }
+    folder_.write(name, ""); // as "> FILE" leaves it
+    EXPECT_EQ(run({"report"}, {name}, options).errors,
+              refusal + ", and the shell has emptied it already: \">\" does so before qenxml "
+                        "begins; try \"qenxml report --help\"\n");
+    folder_.write("other", "");
+    folder_.write(name, package);
+    options.appendTo = folder_.path("other");
+    for (const std::vector<std::string>& command : allCommands)
+        EXPECT_EQ(run(command, {name}, options).exitCode, 0);
+}
+
+TEST_F(WritingCommand, SaysWhenTheStandardOutputIsClosedThatItIsToWriteTo) {
+    folder_.write(name, package);
+    RunOptions options;
+    options.closed = {1};
+    for (const std::vector<std::string>& command : commands) {
+        EXPECT_EQ(run(command, {"-o", "/dev/stdout", name}, options).errors,
+                  "qenxml: /dev/stdout: cannot be written: it is closed, or open for reading "
+                  "only\n");
+        EXPECT_EQ(run(command, {"-o", "/dev/stdin", name}).errors,
+                  "qenxml: /dev/stdin: cannot be written: it is closed, or open for reading "
+                  "only\n");
     }
 }
 
