@@ -1,23 +1,23 @@
 #include "tools/report/Html.h"
 
+#include "tools/text/Escape.h"
 #include "tools/text/Utf8.h"
 
 namespace {
 
-/// Control characters, and code points that are reserved as no characters.
+/// Code points that are reserved as no characters, which HTML forbids.
 bool isForbidden(char32_t c) {
-    const bool control = (c < 0x20 && c != '\t' && c != '\n') || (c >= 0x7F && c <= 0x9F);
-    return control || (c >= 0xFDD0 && c <= 0xFDEF) || (c & 0xFFFEU) == 0xFFFEU;
+    return (c >= 0xFDD0 && c <= 0xFDEF) || (c & 0xFFFEU) == 0xFFFEU;
 }
 
 } // namespace
 
-std::string html(std::string_view text) {
+std::string htmlOfEscaped(std::string_view text) {
     std::string result;
     result.reserve(text.size());
     while (!text.empty()) {
         const Utf8Character character = firstCharacter(text);
-        if (!character.valid || isForbidden(character.codePoint))
+        if (isForbidden(character.codePoint))
             appendUtf8(result, 0xFFFD);
         else if (character.codePoint == '&')
             result += "&amp;";
@@ -34,6 +34,10 @@ std::string html(std::string_view text) {
         text.remove_prefix(character.length);
     }
     return result;
+}
+
+std::string html(std::string_view text) {
+    return htmlOfEscaped(escapeLines(text));
 }
 
 std::string htmlName(std::string_view text) {

@@ -7,9 +7,13 @@
 #include <string>
 #include <string_view>
 
-/// The text for the content of elements and for attributes in quotes. What is no valid UTF-8, and
-/// the control characters that HTML forbids, are replaced.
+/// A text of others for the content of elements and for attributes in quotes. What is not seen, or
+/// changes the direction of what stands around it, is escaped as by escapeLines().
 std::string html(std::string_view text);
+
+/// A text that has been through escapeLines() already, and may have characters of our own in it that
+/// change the direction of writing.
+std::string htmlOfEscaped(std::string_view text);
 
 /// A text whose direction of writing changes nothing outside of it.
 std::string htmlName(std::string_view text);

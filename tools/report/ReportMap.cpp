@@ -195,7 +195,7 @@ private:
         room_.take(box);
         texts_ +=
             fmt::format("<text class=\"{}\" x=\"{:.1f}\" y=\"{:.1f}\"{}>{}</text>\n", place.style,
-                        place.x, place.baseline, place.anchor.attribute, html(text));
+                        place.x, place.baseline, place.anchor.attribute, htmlOfEscaped(text));
         return true;
     }
 
@@ -227,11 +227,11 @@ std::vector<PointGroup> groupsOf(const std::vector<MapPoint>& points,
 std::string pointOf(const PointGroup& group) {
     const std::string others =
         group.fields == 1 ? "" : fmt::format(" and {} more", groupedText(group.fields - 1));
-    return fmt::format("<circle class=\"field\" cx=\"{:.1f}\" cy=\"{:.1f}\" r=\"{:.0f}\">"
-                       "<title>{}{}</title></circle>\n",
-                       group.x, group.y, radius,
-                       group.name.empty() ? "Field without a name" : html(isolated(group.name)),
-                       others);
+    return fmt::format(
+        "<circle class=\"field\" cx=\"{:.1f}\" cy=\"{:.1f}\" r=\"{:.0f}\">"
+        "<title>{}{}</title></circle>\n",
+        group.x, group.y, radius,
+        group.name.empty() ? "Field without a name" : htmlOfEscaped(isolated(group.name)), others);
 }
 
 std::string beginning(const MapProjection& projection, std::size_t fields) {

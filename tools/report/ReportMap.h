@@ -8,7 +8,7 @@
 
 /// A field on the map.
 struct MapPoint {
-    std::string name;
+    std::string name; ///< By escapeLines().
     LLA centroid; ///< A place: see isPlace().
 };
 

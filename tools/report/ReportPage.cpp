@@ -20,6 +20,7 @@
 #include "tools/report/RateBar.h"
 #include "tools/report/ReportMap.h"
 #include "tools/report/ReportStyle.h"
+#include "tools/text/Escape.h"
 #include "tools/text/NumberText.h"
 #include "tools/text/Words.h"
 
@@ -83,7 +84,7 @@ private:
                 for (QenField& field : farm.fields())
                     for (QenFieldGeometry& geometry : field.geometries()) {
                         if (isPlace(geometry.centroid()))
-                            points_.push_back({field.name(), geometry.centroid()});
+                            points_.push_back({escapeLines(field.name()), geometry.centroid()});
                         else
                             ++withoutPlace_;
                     }

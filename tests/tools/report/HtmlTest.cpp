@@ -16,14 +16,24 @@ TEST(Html, KeepsOtherCharactersOfAllScripts) {
 }
 
 TEST(Html, ReplacesWhatHtmlForbids) {
-    EXPECT_EQ(html("\x01\x1B\x7F\r"), "\uFFFD\uFFFD\uFFFD\uFFFD");
-    EXPECT_EQ(html("\xC2\x85\uFDD0\uFFFE"), "\uFFFD\uFFFD\uFFFD");
-    EXPECT_EQ(html("a\xFF\xC3"), "a\uFFFD\uFFFD");
+    EXPECT_EQ(html("\uFDD0\uFDEF\uFFFE\U0010FFFF"), "\uFFFD\uFFFD\uFFFD\uFFFD");
 }
 
-TEST(Html, IsolatesTheDirectionOfNames) {
-    EXPECT_EQ(htmlName("\u202Eabc"), "<bdi>\u202Eabc</bdi>");
-    EXPECT_EQ(htmlName(""), "");
+TEST(Html, EscapesWhatIsNotSeenAsATerminalDoes) {
+    EXPECT_EQ(html("\x01\x1B\x7F\r\xC2\x85"), "\\x01\\x1B\\x7F\\x0D\\u{0085}");
+    EXPECT_EQ(html("a\xFF\xC3"), "a\\xFF\\xC3");
+    EXPECT_EQ(html("\uFEFF\u200B\u00AD"), "\\u{FEFF}\\u{200B}\\u{00AD}");
 }
+
+// NOLINTBEGIN(misc-misleading-bidirectional): they are what the test is about
+TEST(Html, LetsNoTextChangeTheDirectionOfWriting) {
+    EXPECT_EQ(html("\u202Aa\u202Eb"), "\\u{202A}a\\u{202E}b");
+    EXPECT_EQ(html("\u2066\u2069\u200E\u200F"), "\\u{2066}\\u{2069}\\u{200E}\\u{200F}");
+    EXPECT_EQ(htmlName("\u202Eabc"), "<bdi>\\u{202E}abc</bdi>");
+    EXPECT_EQ(htmlName("\u05D0\u0627"), "<bdi>\u05D0\u0627</bdi>");
+    EXPECT_EQ(htmlName(""), "");
+    EXPECT_EQ(htmlOfEscaped("\u2068<\u2069"), "\u2068&lt;\u2069");
+}
+// NOLINTEND(misc-misleading-bidirectional)
 
 } // namespace

@@ -129,4 +129,33 @@ TEST(ReportPage, PutsThePlaceOfAFieldUnderItsHeading) {
                          "<h5><bdi>Field</bdi></h5>\n<p class=\"place\"><span class=\"id\">"));
 }
 
+// NOLINTNEXTLINE(misc-misleading-bidirectional): it is what the test is about
+TEST(ReportPage, ShowsWhatWouldTurnTheDirectionOfAnyText) {
+    const std::string bad = "a\u202Eb\u2066c\u200F";
+    QenRec rec = recOf(5, 1.0, bad);
+    rec.setName(bad);
+    rec.setTotalUom(bad);
+    rec.setAreaUom(bad);
+    rec.setRateUom(bad);
+    rec.setOperationName(bad);
+    rec.setSeasonName(bad);
+    rec.setCreationDate(bad);
+    rec.setEditDate(bad);
+    rec.setRecDbfCol(bad);
+    LLA centroid{41.5, -93.25, 0.0};
+    QenField field(bad, test::uuid(3), test::uuid(1), test::uuid(2), bad, test::uuid(4),
+                   test::uuid(5), centroid);
+    field.addRec(rec);
+    QenFarm farm(bad, test::uuid(2), test::uuid(1));
+    farm.addField(field);
+    QenGrower grower(bad, test::uuid(1));
+    grower.addFarm(farm);
+    const std::string page = pageOf({packageOf(bad + "/" + bad + ".xml", {grower})});
+    for (const std::string raw : {"\u202E", "\u2066", "\u200F"})
+        EXPECT_FALSE(contains(page, raw)) << page;
+    const std::string shown = "a\\u{202E}b\\u{2066}c\\u{200F}";
+    for (const std::string before : {"<h6><bdi>", "<h5><bdi>", "<title>\u2068", "Folder: <bdi>"})
+        EXPECT_TRUE(contains(page, before + shown)) << page;
+}
+
 } // namespace
