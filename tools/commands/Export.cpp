@@ -1,13 +1,11 @@
 #include "tools/commands/Export.h"
 
-#include <cstddef>
 #include <map>
 #include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include <boost/uuid/uuid.hpp>
 #include <fmt/format.h>
 
 #include "tools/export/ExportCsv.h"
@@ -21,7 +19,6 @@
 #include "tools/options/HelpFormatter.h"
 #include "tools/output/Output.h"
 #include "tools/records/MergedGrowers.h"
-#include "tools/records/MissingNumbers.h"
 #include "tools/text/Escape.h"
 
 namespace {
@@ -43,34 +40,12 @@ struct ExportOptions {
     PackageOptions packages;
 };
 
-/// The growers of all packages, and what is missing from them.
-class MergedPackages {
-public:
-    void add(std::vector<QenGrower> growers, std::vector<GrowerGaps> gaps) {
-        for (std::size_t i = 0; i < growers.size(); ++i)
-            gaps_[growers[i].id()].merge(std::move(gaps[i]));
-        merged_.add(std::move(growers));
-    }
-
-    std::string write(ExportFormat& format) {
-        std::vector<GrowerGaps> gaps;
-        for (QenGrower& grower : merged_.growers())
-            gaps.push_back(std::move(gaps_[grower.id()]));
-        return format.merged(merged_.growers(), gaps);
-    }
-
-private:
-    MergedGrowers merged_;
-    std::map<boost::uuids::uuid, GrowerGaps> gaps_;
-};
-
 /// Hands a package on, and complains where there is something to say about it.
-void exportPackage(const PackageInput& input, PackageReading& reading, bool merge,
-                   ExportFormat& format, MergedPackages& merged, Console& console) {
-    std::vector<GrowerGaps> gaps = findGaps(input.path(), reading.growers.size());
+void exportPackage(PackageReading& reading, bool merge, ExportFormat& format, MergedGrowers& merged,
+                   Console& console) {
     if (merge)
-        merged.add(std::exchange(reading.growers, {}), std::exchange(gaps, {}));
-    const std::string remark = format.package(reading, gaps);
+        merged.add(std::exchange(reading.growers, {}), std::exchange(reading.gaps, {}));
+    const std::string remark = format.package(reading);
     if (!remark.empty())
         console.complain(fmt::format("{}: {}", escape(reading.name), remark));
 }
@@ -80,20 +55,20 @@ ExitCode exportPackages(const ExportOptions& options, Console& console) {
     Output output(options.output, console);
     const auto format =
         formats.at(options.format)([&output](std::string_view text) { output.write(text); });
-    MergedPackages merged;
+    MergedGrowers merged;
     ExitCode result = ExitCode::Success;
     bool anyRead = false;
     format->begin(options.merge);
     for (const std::string& file : options.packages.files) {
-        const PackageInput input(file, options.packages);
-        PackageReading reading = readAndComplain(input, "exported", console);
+        PackageReading reading =
+            readAndComplain(PackageInput(file, options.packages), "exported", console);
         if (reading.failure)
             result = ExitCode::Failure;
         anyRead = anyRead || !isLost(reading);
-        exportPackage(input, reading, options.merge, *format, merged, console);
+        exportPackage(reading, options.merge, *format, merged, console);
     }
     if (options.merge) {
-        const std::string remark = merged.write(*format);
+        const std::string remark = format->merged(merged);
         if (!remark.empty())
             console.complain(remark);
     }

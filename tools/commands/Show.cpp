@@ -14,6 +14,7 @@
 #include "tools/options/CommonOptions.h"
 #include "tools/options/HelpFormatter.h"
 #include "tools/records/MergedGrowers.h"
+#include "tools/records/RecordWalk.h"
 #include "tools/show/TreeText.h"
 #include "tools/text/Escape.h"
 
@@ -38,11 +39,13 @@ void printHeading(const PackageReading& reading, Console& console) {
                               reading.failure ? style.remark("  (incomplete)") : ""));
 }
 
-void printGrowers(std::vector<QenGrower>& growers, const TreeLayout& layout, Console& console) {
+void printGrowers(std::vector<QenGrower>& growers, const std::vector<GrowerGaps>& gaps,
+                  const TreeLayout& layout, Console& console) {
     if (growers.empty())
         console.print(fmt::format("{:{}}{}\n", "", layout.indent, "no growers"));
-    for (QenGrower& grower : growers)
-        console.print(treeText(grower, layout));
+    forEachGrower(growers, gaps, [&](QenGrower& grower, const GrowerGaps& gapsOfGrower) {
+        console.print(treeText(grower, gapsOfGrower, layout));
+    });
 }
 
 ExitCode showOneByOne(const PackageOptions& packages, Console& console) {
@@ -59,7 +62,7 @@ ExitCode showOneByOne(const PackageOptions& packages, Console& console) {
         if (!std::exchange(first, false))
             console.print("\n");
         printHeading(reading, console);
-        printGrowers(reading.growers, layout, console);
+        printGrowers(reading.growers, reading.gaps, layout, console);
     }
     return result;
 }
@@ -77,11 +80,11 @@ ExitCode showMerged(const PackageOptions& packages, Console& console) {
             continue;
         any = true;
         printHeading(reading, console);
-        merged.add(std::move(reading.growers));
+        merged.add(std::move(reading.growers), std::move(reading.gaps));
     }
     if (any) {
         console.print("\n");
-        printGrowers(merged.growers(), layout, console);
+        printGrowers(merged.growers(), merged.gaps(), layout, console);
     }
     return result;
 }

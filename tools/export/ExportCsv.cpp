@@ -12,6 +12,7 @@
 #include "model/PlantingRec.h"
 #include "parser/internal/TagConstants.h"
 #include "tools/records/ProductText.h"
+#include "tools/records/RecordWalk.h"
 #include "tools/text/Escape.h"
 #include "tools/text/NumberText.h"
 #include "tools/text/Utf8.h"
@@ -270,26 +271,24 @@ public:
         sink_(text_);
     }
 
-    std::string package(PackageReading& reading, const std::vector<GrowerGaps>& gaps) override {
-        return write(reading.growers, gaps);
+    std::string package(PackageReading& reading) override {
+        return write(reading.growers, reading.gaps);
     }
 
-    std::string merged(std::vector<QenGrower>& growers,
-                       const std::vector<GrowerGaps>& gaps) override {
-        return write(growers, gaps);
+    std::string merged(MergedGrowers& merged) override {
+        return write(merged.growers(), merged.gaps());
     }
 
     void end() override {}
 
 private:
     std::string write(std::vector<QenGrower>& growers, const std::vector<GrowerGaps>& gaps) {
-        for (std::size_t i = 0; i < growers.size(); ++i)
-            for (QenFarm& farm : growers[i].farms())
-                for (QenField& field : farm.fields())
-                    for (QenRec& rec : field.recs())
-                        write({growers[i], farm, field, field.centroid(rec.fieldGeometryId()), rec,
-                               gaps[i].ofGeometry(field, rec.fieldGeometryId()),
-                               gaps[i].ofRec(field, rec.id())});
+        forEachRec(growers, gaps, [this](const FieldContext& context, QenRec& rec) {
+            write({context.grower, context.farm, context.field,
+                   context.field.centroid(rec.fieldGeometryId()), rec,
+                   context.gaps.ofGeometry(context.field, rec.fieldGeometryId()),
+                   context.missingFrom(rec)});
+        });
         return "";
     }
 

@@ -2,11 +2,9 @@
 #define QENXML_TOOLS_EXPORT_EXPORTFORMAT_H
 
 #include <string>
-#include <vector>
 
-#include "model/QenGrower.h"
 #include "tools/input/PackageReading.h"
-#include "tools/records/MissingNumbers.h"
+#include "tools/records/MergedGrowers.h"
 
 /// A format of `qenxml export`. It is written while packages are read, so that no more than one of
 /// them is in memory.
@@ -22,13 +20,11 @@ public:
 
     /// A package with its growers, or without them when they come later.
     ///
-    /// @param gaps one for each of the growers
     /// @return what the reader should know about it, safe to print; mostly nothing
-    virtual std::string package(PackageReading& reading, const std::vector<GrowerGaps>& gaps) = 0;
+    virtual std::string package(PackageReading& reading) = 0;
 
-    /// The merged growers. The arguments, and what comes back, are as in package().
-    virtual std::string merged(std::vector<QenGrower>& growers,
-                               const std::vector<GrowerGaps>& gaps) = 0;
+    /// The merged growers. What comes back is as in package().
+    virtual std::string merged(MergedGrowers& merged) = 0;
 
     virtual void end() = 0;
 };

@@ -7,25 +7,12 @@
 #include <boost/uuid/uuid.hpp>
 #include <fmt/format.h>
 
-#include "parser/internal/TagConstants.h"
 #include "tools/export/RecordJson.h"
 #include "tools/output/JsonWriter.h"
 #include "tools/records/Centroid.h"
+#include "tools/records/RecordWalk.h"
 
 namespace {
-
-/// The records around a feature.
-struct Place {
-    QenGrower& grower;
-    QenFarm& farm;
-    QenField& field;
-    const GrowerGaps& gaps;
-};
-
-bool isKnownPlace(const LLA& centroid, const MissingNumbers& missing) {
-    return isPlace(centroid) && !missing.contains(qenxml::tag::Latitude) &&
-           !missing.contains(qenxml::tag::Longitude);
-}
 
 class GeoJsonExport : public ExportFormat {
 public:
@@ -37,15 +24,14 @@ public:
         writer_.beginArray("features");
     }
 
-    std::string package(PackageReading& reading, const std::vector<GrowerGaps>& gaps) override {
+    std::string package(PackageReading& reading) override {
         package_ = reading.uuid;
-        return write(reading.growers, gaps);
+        return write(reading.growers, reading.gaps);
     }
 
-    std::string merged(std::vector<QenGrower>& growers,
-                       const std::vector<GrowerGaps>& gaps) override {
+    std::string merged(MergedGrowers& merged) override {
         package_.reset();
-        return write(growers, gaps);
+        return write(merged.growers(), merged.gaps());
     }
 
     void end() override {
@@ -58,10 +44,7 @@ private:
     std::string write(std::vector<QenGrower>& growers, const std::vector<GrowerGaps>& gaps) {
         features_ = 0;
         withoutPoint_ = 0;
-        for (std::size_t i = 0; i < growers.size(); ++i)
-            for (QenFarm& farm : growers[i].farms())
-                for (QenField& field : farm.fields())
-                    write(Place{growers[i], farm, field, gaps[i]});
+        forEachField(growers, gaps, [this](const FieldContext& context) { write(context); });
         if (withoutPoint_ == 0)
             return "";
         return fmt::format("{} of {} field boundaries have no centroid, or one that is no place; "
@@ -69,16 +52,16 @@ private:
                            withoutPoint_, features_);
     }
 
-    void write(const Place& place) {
-        std::vector<QenFieldGeometry> geometries = place.field.geometries();
+    void write(const FieldContext& context) {
+        std::vector<QenFieldGeometry> geometries = context.field.geometries();
         for (QenFieldGeometry& geometry : geometries)
-            write(place, geometry);
+            write(context, geometry);
     }
 
-    void write(const Place& place, QenFieldGeometry& geometry) {
+    void write(const FieldContext& context, QenFieldGeometry& geometry) {
         const LLA centroid = geometry.centroid();
-        const MissingNumbers& missing = place.gaps.ofGeometry(place.field, geometry.geometryId());
-        const bool hasPoint = isKnownPlace(centroid, missing);
+        const MissingNumbers& missing = context.missingFrom(geometry);
+        const bool hasPoint = isPlace(centroid, missing);
         ++features_;
         withoutPoint_ += hasPoint ? 0 : 1;
         writer_.beginObject();
@@ -89,12 +72,12 @@ private:
             writer_.member("geometry", nullptr);
         writer_.beginObject("properties");
         // The first one is what maps show beside a point.
-        writer_.member("name", jsonText(place.field.name()));
-        writer_.member("fieldId", jsonIdentifier(place.field.id()));
-        writer_.member("farmName", jsonText(place.farm.name()));
-        writer_.member("farmId", jsonIdentifier(place.farm.id()));
-        writer_.member("growerName", jsonText(place.grower.name()));
-        writer_.member("growerId", jsonIdentifier(place.grower.id()));
+        writer_.member("name", jsonText(context.field.name()));
+        writer_.member("fieldId", jsonIdentifier(context.field.id()));
+        writer_.member("farmName", jsonText(context.farm.name()));
+        writer_.member("farmId", jsonIdentifier(context.farm.id()));
+        writer_.member("growerName", jsonText(context.grower.name()));
+        writer_.member("growerId", jsonIdentifier(context.grower.id()));
         if (package_)
             writer_.member("package", jsonIdentifier(*package_));
         writer_.member("geometryId", jsonIdentifier(geometry.geometryId()));
@@ -103,7 +86,7 @@ private:
         // become one table.
         writer_.member("geometryFileId", jsonIdentifier(geometry.geometry()));
         writeCentroid(writer_, centroid, missing);
-        writeRecs(place, geometry.geometryId());
+        writeRecs(context, geometry.geometryId());
         writer_.endObject();
         writer_.endObject();
     }
@@ -118,11 +101,11 @@ private:
         writer_.endObject();
     }
 
-    void writeRecs(const Place& place, const boost::uuids::uuid& geometryId) {
+    void writeRecs(const FieldContext& context, const boost::uuids::uuid& geometryId) {
         writer_.beginArray("recs");
-        for (QenRec& rec : place.field.recs()) {
+        for (QenRec& rec : context.field.recs()) {
             if (rec.fieldGeometryId() == geometryId)
-                writeElement(rec, place.gaps.ofRec(place.field, rec.id()));
+                writeElement(rec, context.missingFrom(rec));
         }
         writer_.endArray();
     }

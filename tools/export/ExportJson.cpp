@@ -4,6 +4,7 @@
 
 #include "tools/export/RecordJson.h"
 #include "tools/output/JsonWriter.h"
+#include "tools/records/RecordWalk.h"
 
 using Json = nlohmann::ordered_json;
 
@@ -19,21 +20,20 @@ public:
         writer_.beginArray("packages");
     }
 
-    std::string package(PackageReading& reading, const std::vector<GrowerGaps>& gaps) override {
+    std::string package(PackageReading& reading) override {
         writer_.beginObject();
         writer_.member("file", jsonText(reading.name));
         writer_.member("uuid", reading.uuid ? jsonIdentifier(*reading.uuid) : Json());
         write(reading.failure);
         if (!merged_)
-            write(reading.growers, gaps);
+            write(reading.growers, reading.gaps);
         writer_.endObject();
         return "";
     }
 
-    std::string merged(std::vector<QenGrower>& growers,
-                       const std::vector<GrowerGaps>& gaps) override {
+    std::string merged(MergedGrowers& merged) override {
         writer_.endArray();
-        write(growers, gaps);
+        write(merged.growers(), merged.gaps());
         return "";
     }
 
@@ -59,8 +59,9 @@ private:
 
     void write(std::vector<QenGrower>& growers, const std::vector<GrowerGaps>& gaps) {
         writer_.beginArray("growers");
-        for (std::size_t i = 0; i < growers.size(); ++i)
-            write(growers[i], gaps[i]);
+        forEachGrower(growers, gaps, [this](QenGrower& grower, const GrowerGaps& gapsOfGrower) {
+            write(grower, gapsOfGrower);
+        });
         writer_.endArray();
     }
 

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <new>
 #include <system_error>
+#include <utility>
 
 #include <boost/uuid/uuid_io.hpp>
 #include <fmt/format.h>
@@ -23,16 +24,22 @@ bool isSpecial(const std::string& path) {
     return std::filesystem::exists(status) && !std::filesystem::is_regular_file(status);
 }
 
-bool parse(QenXmlParser& parser, const std::string& path) {
-    if (isSpecial(path))
-        return false;
+/// What the library reads of a package.
+///
+/// @param growers out: what was read
+/// @return whether that is all of it
+bool parse(const std::string& path, std::vector<QenGrower>& growers) {
+    QenXmlParser parser;
+    bool complete = false;
     try {
-        return parser.parseFile(path);
+        complete = !isSpecial(path) && parser.parseFile(path);
     } catch (const std::bad_alloc&) {
         throw;
     } catch (const std::exception&) {
-        return false; // The diagnosis says more than its text.
+        // The diagnosis says more than its text.
     }
+    growers = parser.getGrowers();
+    return complete;
 }
 
 } // namespace
@@ -46,9 +53,11 @@ PackageReading readPackage(const PackageInput& input) {
     }
     try {
         reading.uuid = packageUuid(input.path());
-        QenXmlParser parser;
-        const bool complete = parse(parser, input.path());
-        reading.growers = parser.getGrowers();
+        std::vector<QenGrower> growers;
+        const bool complete = parse(input.path(), growers);
+        // Without the gaps, what is not known would be taken for 0.
+        reading.gaps = findGaps(input.path(), growers.size());
+        reading.growers = std::move(growers);
         if (!complete)
             reading.failure = diagnose(input.path());
     } catch (const std::bad_alloc&) {

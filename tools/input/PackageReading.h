@@ -12,12 +12,14 @@
 #include "tools/input/Diagnosis.h"
 #include "tools/input/PackageInput.h"
 #include "tools/output/Console.h"
+#include "tools/records/MissingNumbers.h"
 
 /// What came of reading one package file.
 struct PackageReading {
     std::string name;                       ///< What messages call the file.
     std::optional<boost::uuids::uuid> uuid; ///< Identity of the package, from the path.
     std::vector<QenGrower> growers;         ///< After a failure, those that came before it.
+    std::vector<GrowerGaps> gaps;           ///< What the package does not give of each of them.
     std::optional<ReadFailure> failure;     ///< Set when not all of the file was read.
 };
 

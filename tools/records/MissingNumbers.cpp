@@ -125,6 +125,5 @@ std::vector<GrowerGaps> findGaps(const std::string& path, std::size_t growers) {
     pugi::xml_node grower = document.child(tag::RecPackage).child(tag::Grower);
     for (; grower && gaps.size() < growers; grower = grower.next_sibling())
         gaps.push_back(GrowerGaps::of(grower));
-    gaps.resize(growers);
     return gaps;
 }

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,6 +22,14 @@ class MissingNumbers {
 public:
     /// @param name of the element or attribute
     bool contains(std::string_view name) const;
+
+    /// A number of the record; none when it is missing.
+    ///
+    /// @param name of the element or attribute
+    template <class Number>
+    std::optional<Number> known(std::string_view name, Number number) const {
+        return contains(name) ? std::nullopt : std::optional<Number>(number);
+    }
 
     /// Adds those of an element.
     ///
@@ -60,7 +69,7 @@ private:
 /// What is missing from a package.
 ///
 /// @param growers how many of its growers the library has read
-/// @return one for each of them
+/// @return one for each of them that the file has
 /// @throws std::bad_alloc
 std::vector<GrowerGaps> findGaps(const std::string& path, std::size_t growers);
 

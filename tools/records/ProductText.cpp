@@ -9,6 +9,9 @@
 #include "model/CommercialFertilizerRec.h"
 #include "model/PesticideRec.h"
 #include "model/PlantingRec.h"
+#include "parser/internal/TagConstants.h"
+
+namespace tag = qenxml::tag;
 
 namespace {
 
@@ -76,25 +79,36 @@ std::optional<Unit> productUnit(QenRecData* data) {
     return byKind<std::optional<Unit>>(data, unit, unit, unit, unit);
 }
 
-std::string blendContent(CustomFertilizerRec& blend) {
-    const std::array<std::pair<const char*, double>, 13> percentages = {{{"N", blend.pct_N()},
-                                                                         {"P", blend.pct_P()},
-                                                                         {"K", blend.pct_K()},
-                                                                         {"Ca", blend.pct_Ca()},
-                                                                         {"Mg", blend.pct_Mg()},
-                                                                         {"S", blend.pct_S()},
-                                                                         {"Fe", blend.pct_Fe()},
-                                                                         {"Mn", blend.pct_Mn()},
-                                                                         {"Zn", blend.pct_Zn()},
-                                                                         {"Cu", blend.pct_Cu()},
-                                                                         {"B", blend.pct_B()},
-                                                                         {"Mo", blend.pct_Mo()},
-                                                                         {"Cl", blend.pct_Cl()}}};
+std::string blendContent(CustomFertilizerRec& blend, const MissingNumbers& missing) {
+    struct Nutrient {
+        const char* symbol;
+        const char* name;
+        double percentage;
+    };
+    const std::array<Nutrient, 13> percentages = {{{"N", tag::Pct_N, blend.pct_N()},
+                                                   {"P", tag::Pct_P, blend.pct_P()},
+                                                   {"K", tag::Pct_K, blend.pct_K()},
+                                                   {"Ca", tag::Pct_Ca, blend.pct_Ca()},
+                                                   {"Mg", tag::Pct_Mg, blend.pct_Mg()},
+                                                   {"S", tag::Pct_S, blend.pct_S()},
+                                                   {"Fe", tag::Pct_Fe, blend.pct_Fe()},
+                                                   {"Mn", tag::Pct_Mn, blend.pct_Mn()},
+                                                   {"Zn", tag::Pct_Zn, blend.pct_Zn()},
+                                                   {"Cu", tag::Pct_Cu, blend.pct_Cu()},
+                                                   {"B", tag::Pct_B, blend.pct_B()},
+                                                   {"Mo", tag::Pct_Mo, blend.pct_Mo()},
+                                                   {"Cl", tag::Pct_Cl, blend.pct_Cl()}}};
     std::string nutrients;
-    for (const auto& [symbol, percentage] : percentages) {
+    bool allKnown = true;
+    for (const auto& [symbol, name, percentage] : percentages) {
+        allKnown = allKnown && !missing.contains(name);
         if (percentage != 0.0)
             nutrients += fmt::format("{}{} {}%", nutrients.empty() ? "" : ", ", symbol, percentage);
     }
-    return fmt::format("specific gravity {}; {}", blend.spGravity(),
-                       nutrients.empty() ? "no nutrients" : nutrients);
+    if (nutrients.empty() && allKnown)
+        nutrients = "no nutrients";
+    if (missing.contains(tag::SpGravity))
+        return nutrients;
+    return fmt::format("specific gravity {}{}{}", blend.spGravity(), nutrients.empty() ? "" : "; ",
+                       nutrients);
 }

@@ -9,6 +9,7 @@
 
 #include "model/CustomFertilizerRec.h"
 #include "model/QenRecData.h"
+#include "tools/records/MissingNumbers.h"
 
 /// A unit of measure.
 struct Unit {
@@ -29,7 +30,7 @@ std::string productName(QenRecData* data);
 /// The unit of the product.
 std::optional<Unit> productUnit(QenRecData* data);
 
-/// "specific gravity 1.2; N 20%, K 5%"
-std::string blendContent(CustomFertilizerRec& blend);
+/// "specific gravity 1.2; N 20%, K 5%"; of the numbers those that the package gives.
+std::string blendContent(CustomFertilizerRec& blend, const MissingNumbers& missing);
 
 #endif

@@ -7,8 +7,12 @@
 
 #include <fmt/format.h>
 
+#include "parser/internal/TagConstants.h"
 #include "tools/records/ProductText.h"
+#include "tools/records/RecordWalk.h"
 #include "tools/report/GroupedNumber.h"
+
+namespace tag = qenxml::tag;
 
 RecordCounts& RecordCounts::operator+=(const RecordCounts& other) {
     growers += other.growers;
@@ -43,29 +47,33 @@ void Sum::add(double number) {
 }
 
 std::string Sum::text() const {
+    if (numbers_ == 0)
+        return "";
     if (numbers_ == 1 || !std::isfinite(sum_))
         return groupedText(sum_);
     return grouped(fmt::format("{:.15g}", sum_ + lost_));
 }
 
-void ProductTotals::add(std::vector<QenGrower>& growers) {
-    for (QenGrower& grower : growers)
-        for (QenFarm& farm : grower.farms())
-            for (QenField& field : farm.fields())
-                for (QenRec& rec : field.recs()) {
-                    if (seen_.insert({grower.id(), farm.id(), field.id(), rec.id()}).second)
-                        add(rec);
-                    else
-                        ++repeated_;
-                }
+void ProductTotals::add(std::vector<QenGrower>& growers, const std::vector<GrowerGaps>& gaps) {
+    forEachRec(growers, gaps, [this](const FieldContext& context, QenRec& rec) {
+        const auto& [grower, farm, field, gapsOfGrower] = context;
+        if (seen_.insert({grower.id(), farm.id(), field.id(), rec.id()}).second)
+            add(rec, context.missingFrom(rec));
+        else
+            ++repeated_;
+    });
 }
 
-void ProductTotals::add(QenRec& rec) {
+void ProductTotals::add(QenRec& rec, const MissingNumbers& missing) {
     const std::string unit = textOrCode(rec.totalUom(), rec.totalUomId());
     ProductTotal& sum = totals_[{productKind(rec.recData()), productName(rec.recData()), unit}];
     ++sum.recs;
-    sum.total.add(rec.total());
-    sum.areas[textOrCode(rec.areaUom(), rec.areaUomId())].add(rec.area());
+    if (missing.contains(tag::Total))
+        ++sum.recsWithoutTotal;
+    else
+        sum.total.add(rec.total());
+    if (!missing.contains(tag::Area))
+        sum.areas[textOrCode(rec.areaUom(), rec.areaUomId())].add(rec.area());
 }
 
 RecordCounts countRecords(std::vector<QenGrower>& growers) {

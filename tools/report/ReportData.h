@@ -55,7 +55,7 @@ class Sum {
 public:
     void add(double number);
 
-    /// The sum with all digits that are exact; a single number as it was given.
+    /// The sum with all digits that are exact; a single number as it was given; empty without any.
     std::string text() const;
 
 private:
@@ -67,6 +67,7 @@ private:
 /// What recs say together about a product.
 struct ProductTotal {
     std::size_t recs = 0;
+    std::size_t recsWithoutTotal = 0; ///< Their packages do not give any.
     Sum total;
     std::map<std::string, Sum> areas; ///< By unit.
 };
@@ -75,7 +76,7 @@ struct ProductTotal {
 /// first: the library merges them so.
 class ProductTotals {
 public:
-    void add(std::vector<QenGrower>& growers);
+    void add(std::vector<QenGrower>& growers, const std::vector<GrowerGaps>& gaps);
 
     const std::map<ProductUnit, ProductTotal>& totals() const { return totals_; }
 
@@ -83,7 +84,7 @@ public:
     std::size_t repeated() const { return repeated_; }
 
 private:
-    void add(QenRec& rec);
+    void add(QenRec& rec, const MissingNumbers& missing);
 
     std::map<ProductUnit, ProductTotal> totals_;
     std::set<std::array<boost::uuids::uuid, 4>> seen_; // grower, farm, field and rec

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -9,10 +10,12 @@
 #include <fmt/format.h>
 
 #include "model/version.h"
+#include "parser/internal/TagConstants.h"
 #include "tools/files/PackageUuid.h"
 #include "tools/findings/FindingText.h"
 #include "tools/records/Centroid.h"
 #include "tools/records/ProductText.h"
+#include "tools/records/RecordWalk.h"
 #include "tools/report/FileNames.h"
 #include "tools/report/GroupedNumber.h"
 #include "tools/report/Html.h"
@@ -23,6 +26,8 @@
 #include "tools/text/Escape.h"
 #include "tools/text/NumberText.h"
 #include "tools/text/Words.h"
+
+namespace tag = qenxml::tag;
 
 namespace {
 
@@ -59,8 +64,8 @@ public:
         : packages_(packages), sink_(sink) {
         for (ReportPackage& package : packages) {
             counts_ += package.counts;
-            totals_.add(package.reading.growers);
-            addPoints(package.reading.growers);
+            totals_.add(package.reading.growers, package.reading.gaps);
+            addPoints(package.reading);
             if (!isStandardInput(package.reading))
                 files_.add(package.reading.name);
         }
@@ -78,16 +83,15 @@ public:
     }
 
 private:
-    void addPoints(std::vector<QenGrower>& growers) {
-        for (QenGrower& grower : growers)
-            for (QenFarm& farm : grower.farms())
-                for (QenField& field : farm.fields())
-                    for (QenFieldGeometry& geometry : field.geometries()) {
-                        if (isPlace(geometry.centroid()))
-                            points_.push_back({escapeLines(field.name()), geometry.centroid()});
-                        else
-                            ++withoutPlace_;
-                    }
+    void addPoints(PackageReading& reading) {
+        forEachField(reading.growers, reading.gaps, [this](const FieldContext& context) {
+            for (QenFieldGeometry& geometry : context.field.geometries()) {
+                if (isPlace(geometry.centroid(), context.missingFrom(geometry)))
+                    points_.push_back({escapeLines(context.field.name()), geometry.centroid()});
+                else
+                    ++withoutPlace_;
+            }
+        });
     }
 
     /// The file of a package as text, not escaped.
@@ -275,8 +279,17 @@ private:
                 ? "no product data"
                 : nameOr(product.name, "without a name") +
                       fmt::format("<br><span class=\"quiet\">{}</span>", product.kind);
-        return {name, groupedText(total.recs),
-                fmt::format("{} {}", total.total.text(), htmlName(product.unit)), areas};
+        return {name, groupedText(total.recs), totalText(product, total), areas};
+    }
+
+    static std::string totalText(const ProductUnit& product, const ProductTotal& total) {
+        const std::string sum = total.total.text();
+        const std::string known =
+            sum.empty() ? "" : fmt::format("{} {}", sum, htmlName(product.unit));
+        if (total.recsWithoutTotal == 0)
+            return known;
+        return fmt::format("{}{}<span class=\"quiet\">not given by {}</span>", known,
+                           known.empty() ? "" : "<br>", count(total.recsWithoutTotal, "rec"));
     }
 
     void writeFields() {
@@ -287,8 +300,9 @@ private:
             sink_(fmt::format("<section>\n<h3>{}</h3>\n", shownName(package.reading)));
             if (package.counts.fields == 0)
                 sink_("<p>No fields.</p>\n");
-            for (QenGrower& grower : package.reading.growers)
-                write(grower);
+            forEachGrower(
+                package.reading.growers, package.reading.gaps,
+                [this](QenGrower& grower, const GrowerGaps& gaps) { write(grower, gaps); });
             sink_("</section>\n");
         }
         if (fields_ < counts_.fields || recs_ < counts_.recs)
@@ -299,7 +313,7 @@ private:
         sink_("</section>\n");
     }
 
-    void write(QenGrower& grower) {
+    void write(QenGrower& grower, const GrowerGaps& gaps) {
         for (QenFarm& farm : grower.farms()) {
             if (fields_ >= mostFields || recs_ >= mostRecs)
                 return;
@@ -309,65 +323,73 @@ private:
                               nameOr(farm.name(), "farm without a name")));
             for (QenField& field : farm.fields()) {
                 if (fields_ < mostFields && recs_ < mostRecs)
-                    write(field);
+                    write({grower, farm, field, gaps});
             }
         }
     }
 
-    void write(QenField& field) {
+    void write(const FieldContext& context) {
+        QenField& field = context.field;
         ++fields_;
         sink_(fmt::format("<h5>{}</h5>\n<p class=\"place\">{}</p>\n",
-                          nameOr(field.name(), "Field without a name"), places(field)));
+                          nameOr(field.name(), "Field without a name"), places(context)));
         if (field.recs().empty()) {
             sink_("<p>No recs.</p>\n");
             return;
         }
-        const std::map<std::string, RateScale> scales = rateScales(field);
+        const std::map<std::string, RateScale> scales = rateScales(context);
         sink_(fmt::format("<details{}>\n<summary>{}</summary>\n<ul class=\"recs\">\n",
                           counts_.recs <= recsShownAtOnce ? " open" : "",
                           count(field.recs().size(), "rec")));
         for (QenRec& rec : field.recs()) {
+            const MissingNumbers& missing = context.missingFrom(rec);
             if (recs_ < mostRecs)
-                write(rec, scales.at(rates(rec).unit));
+                write(rec, missing, scales.at(rates(rec, missing).unit));
         }
         sink_("</ul>\n</details>\n");
     }
 
     /// Where a field is.
-    static std::string places(QenField& field) {
-        std::string text = identifier(field.id());
-        for (QenFieldGeometry& geometry : field.geometries()) {
+    static std::string places(const FieldContext& context) {
+        std::string text = identifier(context.field.id());
+        for (QenFieldGeometry& geometry : context.field.geometries()) {
             const LLA centroid = geometry.centroid();
-            if (isPlace(centroid))
+            if (isPlace(centroid, context.missingFrom(geometry)))
                 text += fmt::format("<br>Centroid: latitude {}, longitude {}",
                                     numberText(centroid.latitude), numberText(centroid.longitude));
         }
         return text;
     }
 
-    static Rates rates(QenRec& rec) {
-        return {rec.minimumRate(), rec.averageRate(), rec.maximumRate(),
+    static Rates rates(QenRec& rec, const MissingNumbers& missing) {
+        return {missing.known(tag::MinimumRate, rec.minimumRate()),
+                missing.known(tag::AverageRate, rec.averageRate()),
+                missing.known(tag::MaximumRate, rec.maximumRate()),
                 textOrCode(rec.rateUom(), rec.rateUomId())};
     }
 
     /// The bars of a field's recs in the same unit have the same scale.
-    static std::map<std::string, RateScale> rateScales(QenField& field) {
+    static std::map<std::string, RateScale> rateScales(const FieldContext& context) {
         std::map<std::string, RateScale> scales;
-        for (QenRec& rec : field.recs())
-            scales[rates(rec).unit].include(rates(rec));
+        for (QenRec& rec : context.field.recs()) {
+            const Rates values = rates(rec, context.missingFrom(rec));
+            scales[values.unit].include(values);
+        }
         return scales;
     }
 
-    void write(QenRec& rec, const RateScale& scale) {
+    void write(QenRec& rec, const MissingNumbers& missing, const RateScale& scale) {
         ++recs_;
-        const Rates values = rates(rec);
+        const Rates values = rates(rec, missing);
         sink_(fmt::format("<li><h6>{}</h6>\n", nameOr(rec.name(), "Rec without a name")));
-        writeProduct(rec.recData());
+        writeProduct(rec.recData(), missing);
         sink_(rateBar(values, scale));
         sink_("<dl class=\"facts\">\n");
-        writeFact("Rates", values.unit.empty() && scale.from == scale.to ? "" : ratesText(values));
-        writeFact("Total", quantity(rec.total(), textOrCode(rec.totalUom(), rec.totalUomId())));
-        writeFact("Area", quantity(rec.area(), textOrCode(rec.areaUom(), rec.areaUomId())));
+        writeFact("Rates", ratesText(values));
+        writeFact("Total", quantity(missing.known(tag::Total, rec.total()),
+                                    textOrCode(rec.totalUom(), rec.totalUomId())));
+        writeFact("Area", quantity(missing.known(tag::Area, rec.area()),
+                                   textOrCode(rec.areaUom(), rec.areaUomId())));
         writeFact("Operation", rec.operationName());
         writeFact("Season", textOrCode(rec.seasonName(), rec.seasonId()));
         writeFact("Created", rec.creationDate());
@@ -376,7 +398,7 @@ private:
         sink_(fmt::format("<dt>ID</dt><dd>{}</dd>\n</dl></li>\n", identifier(rec.id())));
     }
 
-    void writeProduct(QenRecData* data) {
+    void writeProduct(QenRecData* data, const MissingNumbers& missing) {
         if (data == nullptr) {
             sink_("<p class=\"warning\"><strong>No product data</strong></p>\n");
             return;
@@ -384,14 +406,17 @@ private:
         const std::string name = productName(data);
         sink_(fmt::format("<p>{}{}{}</p>\n", productKind(data), name.empty() ? "" : ": ",
                           htmlName(name)));
-        if (data->recType() == RecTypeCustomFertilizer)
-            sink_(fmt::format("<p class=\"quiet\">{}</p>\n",
-                              html(blendContent(static_cast<CustomFertilizerRec&>(*data)))));
+        const std::string content =
+            data->recType() == RecTypeCustomFertilizer
+                ? blendContent(static_cast<CustomFertilizerRec&>(*data), missing)
+                : "";
+        if (!content.empty())
+            sink_(fmt::format("<p class=\"quiet\">{}</p>\n", html(content)));
     }
 
-    /// A quantity with its unit; empty when both are missing.
-    static std::string quantity(double value, const std::string& unit) {
-        return value == 0.0 && unit.empty() ? "" : groupedText(value) + " " + unit;
+    /// A quantity with its unit; empty when the package does not give it.
+    static std::string quantity(const std::optional<double>& value, const std::string& unit) {
+        return value ? groupedText(*value) + (unit.empty() ? "" : " " + unit) : "";
     }
 
     /// @param value not escaped; nothing is written for an empty one

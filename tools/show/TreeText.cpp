@@ -1,6 +1,6 @@
 #include "tools/show/TreeText.h"
 
-#include <array>
+#include <optional>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -12,8 +12,11 @@
 #include "model/CustomFertilizerRec.h"
 #include "model/PesticideRec.h"
 #include "model/PlantingRec.h"
+#include "parser/internal/TagConstants.h"
 #include "tools/records/ProductText.h"
 #include "tools/text/Escape.h"
+
+namespace tag = qenxml::tag;
 
 namespace {
 
@@ -40,16 +43,21 @@ std::string labelled(std::string_view label, const std::string& value) {
     return value.empty() ? "" : fmt::format("{} {}", label, value);
 }
 
-/// A quantity with its unit; empty when both are missing.
-std::string quantity(double value, const std::string& unit) {
-    if (value == 0.0 && unit.empty())
-        return "";
-    return join({fmt::format("{}", value), unit}, " ");
+/// Empty for a number that the package does not give.
+std::string knownText(const std::optional<double>& number) {
+    return number ? fmt::format("{}", *number) : "";
+}
+
+/// A number, or several in words, with the unit; empty without a number, which a unit is nothing
+/// without.
+std::string quantity(const std::string& numbers, const std::string& unit) {
+    return numbers.empty() ? "" : join({numbers, unit}, " ");
 }
 
 class TreeWriter {
 public:
-    explicit TreeWriter(const TreeLayout& layout) : layout_(layout), style_(layout.style) {}
+    TreeWriter(const TreeLayout& layout, const GrowerGaps& gaps)
+        : layout_(layout), style_(layout.style), gaps_(gaps) {}
 
     void write(QenGrower& grower) {
         title(0, "Grower", grower.name(), grower.id());
@@ -70,31 +78,34 @@ private:
         title(2, "Field", field.name(), field.id());
         std::vector<QenFieldGeometry> geometries = field.geometries();
         for (QenFieldGeometry& geometry : geometries)
-            write(geometry);
+            write(geometry, gaps_.ofGeometry(field, geometry.geometryId()));
         for (QenRec& rec : field.recs())
-            write(rec, geometries.size() > 1);
+            write(rec, gaps_.ofRec(field, rec.id()), geometries.size() > 1);
     }
 
-    void write(QenFieldGeometry& geometry) {
+    void write(QenFieldGeometry& geometry, const MissingNumbers& missing) {
         title(3, "Boundary", geometry.geometryDate(), geometry.geometryId());
         property("file", identifier(geometry.geometry()));
         const LLA centroid = geometry.centroid();
-        if (centroid.latitude != 0.0 || centroid.longitude != 0.0)
-            property("centroid", fmt::format("{}, {}", centroid.latitude, centroid.longitude));
+        const std::string latitude = knownText(missing.known(tag::Latitude, centroid.latitude));
+        const std::string longitude = knownText(missing.known(tag::Longitude, centroid.longitude));
+        const bool whole = !latitude.empty() && !longitude.empty();
+        property("centroid", join({whole ? latitude : labelled("latitude", latitude),
+                                   whole ? longitude : labelled("longitude", longitude)},
+                                  ", "));
     }
 
-    void write(QenRec& rec, bool showBoundary) {
+    void write(QenRec& rec, const MissingNumbers& missing, bool showBoundary) {
         title(3, "Rec", rec.name(), rec.id());
         if (layout_.showPackages)
             property("package", identifier(rec.xmlFileName()));
         property("operation",
                  join({escape(rec.operationName()), identifier(rec.operationId())}, "  "));
         if (rec.seasonId() != -1)
-            property("season", rec.seasonName().empty() ? fmt::format("code {}", rec.seasonId())
-                                                        : escape(rec.seasonName()));
+            property("season", season(rec, missing));
         property("zone", identifier(rec.mgmtZoneId()));
-        writeProduct(rec.recData());
-        writeStatistics(rec);
+        writeProduct(rec.recData(), missing);
+        writeStatistics(rec, missing);
         if (showBoundary)
             property("boundary", identifier(rec.fieldGeometryId()));
         property("geometry",
@@ -104,20 +115,29 @@ private:
         property("edited", escape(rec.editDate()));
     }
 
-    void writeStatistics(QenRec& rec) {
-        const std::array rates = {rec.minimumRate(), rec.averageRate(), rec.maximumRate()};
-        const std::string rateUnit = escapedTextOrCode(rec.rateUom(), rec.rateUomId());
-        if (rates[0] != 0.0 || rates[1] != 0.0 || rates[2] != 0.0 || !rateUnit.empty())
-            property("rate",
-                     join({fmt::format("min {}, avg {}, max {}", rates[0], rates[1], rates[2]),
-                           rateUnit},
-                          " "));
-        property("total",
-                 quantity(rec.total(), escapedTextOrCode(rec.totalUom(), rec.totalUomId())));
-        property("area", quantity(rec.area(), escapedTextOrCode(rec.areaUom(), rec.areaUomId())));
+    static std::string season(QenRec& rec, const MissingNumbers& missing) {
+        if (!rec.seasonName().empty() || missing.contains(tag::SeasonID))
+            return escape(rec.seasonName());
+        return fmt::format("code {}", rec.seasonId());
     }
 
-    void writeProduct(QenRecData* data) {
+    void writeStatistics(QenRec& rec, const MissingNumbers& missing) {
+        const auto known = [&missing](const char* name, double number) {
+            return knownText(missing.known(name, number));
+        };
+        property("rate",
+                 quantity(join({labelled("min", known(tag::MinimumRate, rec.minimumRate())),
+                                labelled("avg", known(tag::AverageRate, rec.averageRate())),
+                                labelled("max", known(tag::MaximumRate, rec.maximumRate()))},
+                               ", "),
+                          escapedTextOrCode(rec.rateUom(), rec.rateUomId())));
+        property("total", quantity(known(tag::Total, rec.total()),
+                                   escapedTextOrCode(rec.totalUom(), rec.totalUomId())));
+        property("area", quantity(known(tag::Area, rec.area()),
+                                  escapedTextOrCode(rec.areaUom(), rec.areaUomId())));
+    }
+
+    void writeProduct(QenRecData* data, const MissingNumbers& missing) {
         const RecType type = data == nullptr ? RecTypeNone : data->recType();
         switch (type) {
         case RecTypePlanting:
@@ -125,7 +145,7 @@ private:
         case RecTypeCommercialFertilizer:
             return writeProduct(static_cast<CommercialFertilizerRec&>(*data));
         case RecTypeCustomFertilizer:
-            return writeProduct(static_cast<CustomFertilizerRec&>(*data));
+            return writeProduct(static_cast<CustomFertilizerRec&>(*data), missing);
         case RecTypePesticide:
             return writeProduct(static_cast<PesticideRec&>(*data));
         case RecTypeNone:
@@ -149,12 +169,12 @@ private:
                  labelled("unit", escapedTextOrCode(fertilizer.uom(), fertilizer.uomId()))});
     }
 
-    void writeProduct(CustomFertilizerRec& blend) {
+    void writeProduct(CustomFertilizerRec& blend, const MissingNumbers& missing) {
         product("blend",
                 {escape(blend.productName()),
                  labelled("unit", escapedTextOrCode(blend.uom(), blend.uomId()))},
                 identifier(blend.productId()));
-        property("", blendContent(blend));
+        property("", blendContent(blend, missing));
     }
 
     void writeProduct(PesticideRec& mix) {
@@ -197,14 +217,15 @@ private:
 
     const TreeLayout& layout_;
     const Style& style_;
+    const GrowerGaps& gaps_;
     std::size_t indent_ = 0;
     std::string text_;
 };
 
 } // namespace
 
-std::string treeText(QenGrower& grower, const TreeLayout& layout) {
-    TreeWriter writer(layout);
+std::string treeText(QenGrower& grower, const GrowerGaps& gaps, const TreeLayout& layout) {
+    TreeWriter writer(layout, gaps);
     writer.write(grower);
     return writer.text();
 }

@@ -6,6 +6,7 @@
 
 #include "model/QenGrower.h"
 #include "tools/output/Style.h"
+#include "tools/records/MissingNumbers.h"
 
 /// How growers are written.
 struct TreeLayout {
@@ -15,6 +16,6 @@ struct TreeLayout {
 };
 
 /// A grower with everything beneath it as indented lines. What a package does not give is left out.
-std::string treeText(QenGrower& grower, const TreeLayout& layout);
+std::string treeText(QenGrower& grower, const GrowerGaps& gaps, const TreeLayout& layout);
 
 #endif

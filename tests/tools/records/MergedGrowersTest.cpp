@@ -24,8 +24,8 @@ double timeOfMerging(unsigned number) {
     std::vector<QenGrower> second = growers(number);
     MergedGrowers merged;
     const std::clock_t start = std::clock();
-    merged.add(std::move(first));
-    merged.add(std::move(second));
+    merged.add(std::move(first), {});
+    merged.add(std::move(second), {});
     const auto time = static_cast<double>(std::clock() - start);
     EXPECT_EQ(merged.growers().size(), number);
     return time;

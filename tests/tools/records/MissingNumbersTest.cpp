@@ -235,4 +235,79 @@ TEST_F(Exported, GeoJsonHasNoPropertyThatTablesOfShapesHaveThemselves) {
         EXPECT_FALSE(properties.contains(taken)) << taken;
 }
 
+/// A field of which some numbers are given as 0, and others not at all.
+const std::string fieldWithGaps =
+    test::field(3, element("FieldGeometryID", test::uuidText(5)) +
+                       "<FieldCentroid><Longitude>0</Longitude></FieldCentroid>" +
+                       test::recommendations(test::rec(
+                           4, "<Season/><RecStats><AverageRate>0</AverageRate><MaximumRate>20"
+                              "</MaximumRate><RateUOM>kg/ha</RateUOM><TotalUOM>kg</TotalUOM>"
+                              "<Area>0</Area></RecStats>")));
+
+class WithGaps : public testing::Test {
+protected:
+    std::string run(std::vector<std::string> command, const std::string& fields) {
+        command.push_back(folder_.writePackage(packageOf(fields)));
+        return test::runCommand(command).output;
+    }
+
+    static bool contains(const std::string& text, const std::string& part) {
+        return text.find(part) != std::string::npos;
+    }
+
+    test::TemporaryFolder folder_;
+};
+
+TEST_F(WithGaps, ShowLeavesOutEachNumberThatIsNotGiven) {
+    for (const std::vector<std::string>& command :
+         {std::vector<std::string>{"show"}, {"show", "--merge"}}) {
+        const std::string text = run(command, fieldWithGaps);
+        EXPECT_TRUE(contains(text, "centroid   longitude 0\n")) << text;
+        EXPECT_TRUE(contains(text, "rate       avg 0, max 20 kg/ha\n")) << text;
+        EXPECT_TRUE(contains(text, "area       0\n")) << text;
+        EXPECT_FALSE(contains(text, "total")) << text;
+        EXPECT_FALSE(contains(text, "season")) << text;
+    }
+}
+
+TEST_F(WithGaps, ReportLeavesOutEachNumberThatIsNotGiven) {
+    const std::string page = run({"report"}, fieldWithGaps);
+    EXPECT_TRUE(contains(page, "<dt>Rates</dt><dd><bdi>average 0, maximum 20 kg/ha</bdi></dd>"));
+    EXPECT_FALSE(contains(page, "class=\"bar\"")) << page;
+    EXPECT_FALSE(contains(page, "<dt>Total</dt>"));
+    EXPECT_TRUE(contains(page, "<dt>Area</dt><dd><bdi>0</bdi></dd>"));
+    EXPECT_TRUE(contains(page, "<span class=\"quiet\">not given by 1 rec</span>"));
+    EXPECT_FALSE(contains(page, "Centroid: latitude"));
+    EXPECT_TRUE(contains(page, "No field has a centroid that could be drawn"));
+}
+
+TEST_F(WithGaps, ReportSumsUpWhatIsGiven) {
+    const std::string total = "<RecStats><Total>5</Total><TotalUOM>kg</TotalUOM></RecStats>";
+    const std::string none = "<RecStats><TotalUOM>kg</TotalUOM></RecStats>";
+    const std::string page =
+        run({"report"}, fieldOf(test::rec(4, total) + test::rec(5, none) + test::rec(6, total)));
+    EXPECT_TRUE(contains(page, ">10 <bdi>kg</bdi><br><span class=\"quiet\">not given by 1 rec"
+                               "</span></td>"));
+}
+
+TEST_F(WithGaps, ABlendHasNoContentThatIsNotGiven) {
+    std::string values;
+    for (const std::string name :
+         {"N", "P", "K", "Ca", "Mg", "S", "Fe", "Mn", "Zn", "Cu", "B", "Mo", "Cl"})
+        values += element("Pct_" + name, name == "K" ? "x" : "0");
+    const auto content = [&](const std::string& gravity) {
+        return run({"show"},
+                   fieldOf(test::rec(4, "<RecData><CustomFertilizer>" +
+                                            element("ProductID", test::uuidText(6)) +
+                                            "<ProductName>Mix</ProductName><UOMID>1</UOMID>"
+                                            "<UOM>l</UOM><SFertT_ID>1</SFertT_ID>" +
+                                            element("SpGravity", gravity) + values +
+                                            "</CustomFertilizer></RecData>")));
+    };
+    EXPECT_TRUE(contains(content("1.5"), "           specific gravity 1.5\n"));
+    EXPECT_FALSE(contains(content("x"), "specific gravity"));
+    values.replace(values.find('x'), 1, "7");
+    EXPECT_TRUE(contains(content("x"), "           K 7%\n"));
+}
+
 } // namespace

@@ -72,6 +72,20 @@ TEST(RateBar, TellsLargeRatesInGroupsOfDigits) {
     EXPECT_TRUE(contains(rateBar(rates, scaleOf({rates})), "from 0 to 36\u202F000\""));
 }
 
+TEST(RateBar, TellsAndDrawsNoRateThatThePackageDoesNotGive) {
+    const Rates noAverage{50.0, std::nullopt, 100.0, "kg"};
+    const RateScale scale = scaleOf({noAverage});
+    const std::string bar = rateBar(noAverage, scale);
+    EXPECT_TRUE(contains(bar, "Rates: minimum 50, maximum 100 kg;"));
+    EXPECT_TRUE(contains(bar, "class=\"range\" x=\"100.0\" y=\"3\" width=\"100.0\""));
+    EXPECT_FALSE(contains(bar, "average"));
+    EXPECT_EQ(rateBar({std::nullopt, 60.0, 80.0, "kg"}, scale), "");
+    EXPECT_EQ(rateBar({40.0, 60.0, std::nullopt, "kg"}, scale), "");
+    EXPECT_EQ(ratesText({std::nullopt, 60.0, std::nullopt, "kg"}), "average 60 kg");
+    EXPECT_EQ(ratesText({std::nullopt, std::nullopt, std::nullopt, "kg"}), "");
+    EXPECT_EQ(scaleOf({{-5.0, 900.0, std::nullopt, ""}}).to, 0.0);
+}
+
 TEST(RateBar, IsLeftOutWithoutRatesThatCanBeDrawn) {
     for (const Rates& rates : {Rates{0.0, 0.0, 0.0, ""}, Rates{nan, 1.0, 2.0, ""},
                                Rates{0.0, 1.0, infinity, ""}, Rates{-1.7e308, 0.0, 1.7e308, ""}})
@@ -107,7 +121,7 @@ TEST(ProductTotals, SumUpByProductAndUnit) {
     std::vector<QenGrower> growers =
         growersWith({recOf(1, "Urea", 10.0, "kg"), recOf(2, "Urea", 5.0, "kg"),
                      recOf(3, "Urea", 3.0, "lb"), recOf(4, "", 1.0, "kg")});
-    totals.add(growers);
+    totals.add(growers, {});
     ASSERT_EQ(totals.totals().size(), 3U);
     const ProductTotal& kilograms = totals.totals().at({"fertilizer", "Urea", "kg"});
     EXPECT_EQ(kilograms.recs, 2U);
@@ -122,8 +136,8 @@ TEST(ProductTotals, CountARecOfSeveralPackagesOnce) {
     std::vector<QenGrower> first = growersWith({recOf(1, "Urea", 10.0, "kg")});
     std::vector<QenGrower> second =
         growersWith({recOf(1, "Urea", 99.0, "kg"), recOf(2, "Urea", 5.0, "kg")});
-    totals.add(first);
-    totals.add(second);
+    totals.add(first, {});
+    totals.add(second, {});
     EXPECT_EQ(totals.totals().at({"fertilizer", "Urea", "kg"}).total.text(), "15");
     EXPECT_EQ(totals.repeated(), 1U);
 }
@@ -132,7 +146,7 @@ TEST(ProductTotals, PutRecsWithoutProductDataLast) {
     ProductTotals totals;
     std::vector<QenGrower> growers =
         growersWith({recOf(1, "", 1.0, "kg"), recOf(2, "Urea", 1.0, "kg")});
-    totals.add(growers);
+    totals.add(growers, {});
     ASSERT_EQ(totals.totals().size(), 2U);
     EXPECT_EQ(totals.totals().begin()->first.name, "Urea");
     EXPECT_EQ(totals.totals().rbegin()->first.kind, "");

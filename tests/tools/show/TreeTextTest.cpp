@@ -11,7 +11,9 @@
 #include "model/CustomFertilizerRec.h"
 #include "model/PesticideRec.h"
 #include "model/PlantingRec.h"
+#include "tests/support/PackageText.h"
 #include "tests/support/Uuids.h"
+#include "tests/support/Xml.h"
 
 using test::uuid;
 
@@ -19,15 +21,25 @@ namespace {
 
 constexpr const char* nilText = "00000000-0000-0000-0000-000000000000";
 
+/// What is missing from a package with nothing but records and their identifiers.
+GrowerGaps nothingGiven() {
+    const test::Xml grower("<Grower><Farm FarmID='" + test::uuidText(2) + "'><Field FieldID='" +
+                           test::uuidText(3) + "'><FieldGeometryID>" + test::uuidText(4) +
+                           "</FieldGeometryID><Recommendations><Rec RecID='" + nilText +
+                           "'/></Recommendations></Field></Farm></Grower>");
+    return GrowerGaps::of(grower.root());
+}
+
 /// The lines about a rec, which is the only one of a grower, a farm and a field.
-std::string recText(const QenRec& rec, const TreeLayout& layout = {}) {
+std::string recText(const QenRec& rec, const GrowerGaps& gaps = nothingGiven(),
+                    const TreeLayout& layout = {}) {
     QenField field("", uuid(3), uuid(1), uuid(2));
     field.addRec(rec);
     QenFarm farm("", uuid(2), uuid(1));
     farm.addField(field);
     QenGrower grower("", uuid(1));
     grower.addFarm(farm);
-    const std::string text = treeText(grower, layout);
+    const std::string text = treeText(grower, gaps, layout);
     return text.substr(text.find("      Rec"));
 }
 
@@ -46,7 +58,7 @@ std::unique_ptr<CustomFertilizerRec> blend(double spGravity, const std::string& 
 
 TEST(TreeText, ShowsNoMoreThanTheIdentifierOfAnEmptyGrower) {
     QenGrower grower("", uuid(1));
-    EXPECT_EQ(treeText(grower, {}), "Grower  00000000-0000-0000-0000-000000000001\n");
+    EXPECT_EQ(treeText(grower, {}, {}), "Grower  00000000-0000-0000-0000-000000000001\n");
 }
 
 TEST(TreeText, ShowsAllLevelsOneDeeperThanTheOther) {
@@ -58,7 +70,7 @@ TEST(TreeText, ShowsAllLevelsOneDeeperThanTheOther) {
     QenGrower grower("Hansen", uuid(1));
     grower.addFarm(farm);
     grower.addFarm(QenFarm("Away", uuid(9), uuid(1)));
-    EXPECT_EQ(treeText(grower, TreeLayout{Style(), 1, false}),
+    EXPECT_EQ(treeText(grower, {}, TreeLayout{Style(), 1, false}),
               " Grower Hansen  00000000-0000-0000-0000-000000000001\n"
               "   Farm Home  00000000-0000-0000-0000-000000000002\n"
               "     Field North \xC2\xBD  00000000-0000-0000-0000-000000000003\n"
@@ -71,18 +83,18 @@ TEST(TreeText, ShowsAllLevelsOneDeeperThanTheOther) {
 TEST(TreeText, LeavesOutTheCentroidThatIsNotGiven) {
     QenField field("", uuid(3), uuid(1), uuid(2));
     field.addFieldGeometry(QenFieldGeometry(uuid(4), "", uuid(5), LLA{}));
-    field.addFieldGeometry(QenFieldGeometry(uuid(6), "", uuid(7), LLA{0, 1, 0}));
+    field.addFieldGeometry(QenFieldGeometry(uuid(6), "", uuid(7), LLA{0, 0, 0}));
     QenFarm farm("", uuid(2), uuid(1));
     farm.addField(field);
     QenGrower grower("", uuid(1));
     grower.addFarm(farm);
-    const std::string text = treeText(grower, {});
+    const std::string text = treeText(grower, nothingGiven(), {});
     EXPECT_EQ(text.substr(text.find("      Boundary")),
               "      Boundary  00000000-0000-0000-0000-000000000004\n"
               "        file       00000000-0000-0000-0000-000000000005\n"
               "      Boundary  00000000-0000-0000-0000-000000000006\n"
               "        file       00000000-0000-0000-0000-000000000007\n"
-              "        centroid   0, 1\n");
+              "        centroid   0, 0\n");
 }
 
 TEST(TreeText, ShowsOfARecWithoutAnythingOnlyThatItHasNoProduct) {
@@ -113,10 +125,11 @@ TEST(TreeText, ShowsThePackageOfARecOnDemand) {
     rec.setXmlFileName(uuid(14));
     TreeLayout layout;
     layout.showPackages = true;
-    EXPECT_EQ(recText(rec, layout), std::string("      Rec  ") + nilText +
-                                        "\n"
-                                        "        package    00000000-0000-0000-0000-00000000000e\n"
-                                        "        product    no product data\n");
+    EXPECT_EQ(recText(rec, nothingGiven(), layout),
+              std::string("      Rec  ") + nilText +
+                  "\n"
+                  "        package    00000000-0000-0000-0000-00000000000e\n"
+                  "        product    no product data\n");
 }
 
 TEST(TreeText, ShowsTheBoundaryOfARecWhenItsFieldHasSeveral) {
@@ -129,7 +142,7 @@ TEST(TreeText, ShowsTheBoundaryOfARecWhenItsFieldHasSeveral) {
         farm.addField(field);
         QenGrower grower("", uuid(1));
         grower.addFarm(farm);
-        return treeText(grower, {});
+        return treeText(grower, {}, {});
     };
     const std::string line = "        boundary   00000000-0000-0000-0000-000000000004\n";
     field.addFieldGeometry(QenFieldGeometry(uuid(4), "", uuid(5), LLA{}));
@@ -145,24 +158,26 @@ TEST(TreeText, ShowsCodesWhereTextsAreMissing) {
     rec.setTotalUomId(-2);
     rec.setAreaUomId(0);
     rec.setOperationId(uuid(12));
-    EXPECT_EQ(recText(rec), std::string("      Rec  ") + nilText +
-                                "\n"
-                                "        operation  00000000-0000-0000-0000-00000000000c\n"
-                                "        season     code 0\n"
-                                "        product    no product data\n"
-                                "        rate       min 0, avg 0, max 0 code 9\n"
-                                "        total      0 code -2\n");
+    EXPECT_EQ(recText(rec, {}), std::string("      Rec  ") + nilText +
+                                    "\n"
+                                    "        operation  00000000-0000-0000-0000-00000000000c\n"
+                                    "        season     code 0\n"
+                                    "        product    no product data\n"
+                                    "        rate       min 0, avg 0, max 0 code 9\n"
+                                    "        total      0 code -2\n"
+                                    "        area       0\n");
 }
 
 TEST(TreeText, ShowsNumbersWithoutAUnit) {
     QenRec rec;
     rec.setAverageRate(-0.5);
     rec.setTotal(1e300);
-    EXPECT_EQ(recText(rec), std::string("      Rec  ") + nilText +
-                                "\n"
-                                "        product    no product data\n"
-                                "        rate       min 0, avg -0.5, max 0\n"
-                                "        total      1e+300\n");
+    EXPECT_EQ(recText(rec, {}), std::string("      Rec  ") + nilText +
+                                    "\n"
+                                    "        product    no product data\n"
+                                    "        rate       min 0, avg -0.5, max 0\n"
+                                    "        total      1e+300\n"
+                                    "        area       0\n");
 }
 
 TEST(TreeText, SaysWhatAPlantingPlants) {
@@ -242,11 +257,12 @@ TEST(TreeText, EscapesEveryText) {
     farm.addField(QenField(bad, uuid(3), uuid(1), uuid(2), bad, uuid(4), uuid(5), centroid));
     QenGrower grower(bad, uuid(1));
     grower.addFarm(farm);
-    EXPECT_EQ(treeText(grower, {}), "Grower a\\nb  00000000-0000-0000-0000-000000000001\n"
-                                    "  Farm a\\nb  00000000-0000-0000-0000-000000000002\n"
-                                    "    Field a\\nb  00000000-0000-0000-0000-000000000003\n"
-                                    "      Boundary a\\nb  00000000-0000-0000-0000-000000000004\n"
-                                    "        file       00000000-0000-0000-0000-000000000005\n");
+    EXPECT_EQ(treeText(grower, nothingGiven(), {}),
+              "Grower a\\nb  00000000-0000-0000-0000-000000000001\n"
+              "  Farm a\\nb  00000000-0000-0000-0000-000000000002\n"
+              "    Field a\\nb  00000000-0000-0000-0000-000000000003\n"
+              "      Boundary a\\nb  00000000-0000-0000-0000-000000000004\n"
+              "        file       00000000-0000-0000-0000-000000000005\n");
 }
 
 TEST(TreeText, ColoursKindsNamesLabelsAndIdentifiers) {
@@ -261,7 +277,7 @@ TEST(TreeText, ColoursKindsNamesLabelsAndIdentifiers) {
     grower.addFarm(farm);
     const std::string dim = "\x1b[2m";
     const std::string end = "\x1b[0m";
-    EXPECT_EQ(treeText(grower, TreeLayout{Style(true), 0, false}),
+    EXPECT_EQ(treeText(grower, nothingGiven(), TreeLayout{Style(true), 0, false}),
               "\x1b[36mGrower\x1b[0m  " + dim + "00000000-0000-0000-0000-000000000001" + end +
                   "\n" + "  \x1b[36mFarm\x1b[0m  " + dim + "00000000-0000-0000-0000-000000000002" +
                   end + "\n" + "    \x1b[36mField\x1b[0m \x1b[1mNorth\x1b[0m  " + dim +
