@@ -37,7 +37,7 @@ std::string htmlOfEscaped(std::string_view text) {
 }
 
 std::string html(std::string_view text) {
-    return htmlOfEscaped(escapeLines(text));
+    return htmlOfEscaped(escape(text));
 }
 
 std::string htmlName(std::string_view text) {

@@ -8,10 +8,10 @@
 #include <string_view>
 
 /// A text of others for the content of elements and for attributes in quotes. What is not seen, or
-/// changes the direction of what stands around it, is escaped as by escapeLines().
+/// changes the direction of what stands around it, is escaped as by escape().
 std::string html(std::string_view text);
 
-/// A text that has been through escapeLines() already, and may have characters of our own in it that
+/// A text that has been through escape() already, and may have characters of our own in it that
 /// change the direction of writing.
 std::string htmlOfEscaped(std::string_view text);
 

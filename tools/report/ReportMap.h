@@ -8,8 +8,8 @@
 
 /// A field on the map.
 struct MapPoint {
-    std::string name; ///< By escapeLines().
-    LLA centroid; ///< A place: see isPlace().
+    std::string name; ///< By escape().
+    LLA centroid;     ///< A place: see isPlace().
 };
 
 /// A map in SVG with a point for each field, lines of latitude and longitude, a scale, and names

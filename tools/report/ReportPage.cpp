@@ -87,7 +87,7 @@ private:
         forEachField(reading.growers, reading.gaps, [this](const FieldContext& context) {
             for (QenFieldGeometry& geometry : context.field.geometries()) {
                 if (isPlace(geometry.centroid(), context.missingFrom(geometry)))
-                    points_.push_back({escapeLines(context.field.name()), geometry.centroid()});
+                    points_.push_back({escape(context.field.name()), geometry.centroid()});
                 else
                     ++withoutPlace_;
             }
@@ -220,13 +220,13 @@ private:
             finding.location ? fmt::format(" in line {}, column {}", finding.location->begin.line,
                                            finding.location->begin.column)
                              : "",
-            html(finding.found)));
-        sink_(fmt::format("<p>Consequence: {}</p>\n", html(consequenceText(finding))));
+            htmlOfEscaped(finding.found)));
+        sink_(fmt::format("<p>Consequence: {}</p>\n", htmlOfEscaped(consequenceText(finding))));
         if (const std::string records = recordsText(finding); !records.empty())
-            sink_(fmt::format("<p>In: {}</p>\n", htmlName(records)));
+            sink_(fmt::format("<p>In: <bdi>{}</bdi></p>\n", htmlOfEscaped(records)));
         sink_("<p class=\"quiet\">");
         if (!finding.path.empty())
-            sink_(fmt::format("<code>{}</code> ", html(finding.path)));
+            sink_(fmt::format("<code>{}</code> ", htmlOfEscaped(finding.path)));
         sink_(fmt::format("[{}]</p></li>\n", html(kindOf(finding.code).code)));
     }
 
@@ -284,8 +284,7 @@ private:
 
     static std::string totalText(const ProductUnit& product, const ProductTotal& total) {
         const std::string sum = total.total.text();
-        const std::string known =
-            sum.empty() ? "" : fmt::format("{} {}", sum, htmlName(product.unit));
+        std::string known = sum.empty() ? "" : fmt::format("{} {}", sum, htmlName(product.unit));
         if (total.recsWithoutTotal == 0)
             return known;
         return fmt::format("{}{}<span class=\"quiet\">not given by {}</span>", known,

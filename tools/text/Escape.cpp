@@ -94,9 +94,12 @@ std::string escapeExcerpt(std::string_view text) {
     return escapeUpTo(excerptLength, text);
 }
 
-std::string escapeLines(std::string_view text) {
+std::string escapeDocument(std::string_view text) {
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     constexpr std::array<std::string_view, 3> layout = {"\r\n", "\n", "\t"};
     std::string result;
+    if (text.substr(0, byteOrderMark.size()) == byteOrderMark)
+        text.remove_prefix(byteOrderMark.size());
     while (!text.empty()) {
         const auto* const kept =
             std::find_if(layout.begin(), layout.end(), [text](std::string_view end) {
@@ -111,10 +114,4 @@ std::string escapeLines(std::string_view text) {
         text.remove_prefix(length);
     }
     return result;
-}
-
-std::string escapeDocument(std::string_view text) {
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    const bool marked = text.substr(0, byteOrderMark.size()) == byteOrderMark;
-    return escapeLines(text.substr(marked ? byteOrderMark.size() : 0));
 }

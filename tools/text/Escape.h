@@ -25,11 +25,8 @@ std::string escape(std::string_view text);
 /// As escape(), but a long text is cut, which three dots at the end show.
 std::string escapeExcerpt(std::string_view text);
 
-/// As escape(), but line ends, tabs and backslashes stay.
-std::string escapeLines(std::string_view text);
-
-/// A document as a terminal may show it: as escapeLines(), but the byte-order mark that it may
-/// begin with is left out.
+/// A document of many lines as a terminal may show it: as escape(), but line ends, tabs and
+/// backslashes stay, and the byte-order mark that it may begin with is left out.
 std::string escapeDocument(std::string_view text);
 
 #endif
