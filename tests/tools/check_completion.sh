@@ -65,15 +65,18 @@ check_shell() { # SHELL
 }
 
 check_codes() { # SHELL
-    local words code
+    local words code asked
     if [ "$1" = zsh ]; then
-        grep -q 'ignore.*check --codes' "$share/zsh/site-functions/_qenxml" ||
+        [ "$(grep -c 'check --codes' "$share/zsh/site-functions/_qenxml")" -eq 2 ] ||
             fail "zsh does not ask for the codes of findings"
         return
     fi
-    words=$("offered_by_$1" qenxml check --ignore "")
-    for code in $("$command" check --codes); do
-        grep -qxe "$code" <<<"$words" || fail "$1 does not offer the code $code"
+    for asked in "check --ignore" explain; do
+        # shellcheck disable=SC2086
+        words=$("offered_by_$1" qenxml $asked "")
+        for code in $("$command" check --codes); do
+            grep -qxe "$code" <<<"$words" || fail "$1 does not offer the code $code after $asked"
+        done
     done
 }
 

@@ -59,6 +59,15 @@ for file in samples["files"]:
 known = {kind["properties"]["kind"]["const"] for kind in schema["$defs"]["consequence"]["oneOf"]}
 assert known - kinds == {"check-ends"}, (known, kinds)  # Memory does not run out here.
 
+explained_schema = json.loads(
+    (source / "docs/explanations.schema.json").read_text(encoding="utf-8"))
+validator_class.check_schema(explained_schema)
+explained = json.loads(subprocess.run(
+    [command, "explain", "--json", "--all"], capture_output=True, check=True).stdout)
+validator_class(explained_schema).validate(explained)
+codes = subprocess.run([command, "check", "--codes"], capture_output=True, check=True, text=True)
+assert [finding["code"] for finding in explained["findings"]] == codes.stdout.split()
+
 # The schema refuses what is wrong, so that the validation above means something.
 finding = samples["files"][0]["findings"][0]
 for change in ({"code": "Wrong"}, {"severity": "fatal"}, {"line": 3}, {"found": "a\x1b"},

@@ -14,6 +14,7 @@
 #include "model/version.h"
 #include "tools/commands/Check.h"
 #include "tools/commands/Command.h"
+#include "tools/commands/Explain.h"
 #include "tools/commands/Export.h"
 #include "tools/commands/Report.h"
 #include "tools/commands/Show.h"
@@ -88,7 +89,8 @@ ExitCode parseAndRun(int argc, const char* const* argv, Console& console) {
     application.set_version_flag("--version", "qenxml " QENXML_VERSION, "Print the version");
     application.require_subcommand(1);
     const std::array commands = {addShow(application), addCheck(application),
-                                 addExport(application), addReport(application)};
+                                 addExplain(application), addExport(application),
+                                 addReport(application)};
 
     try {
         application.parse(guardedArguments(argc, argv));

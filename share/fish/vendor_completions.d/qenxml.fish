@@ -1,21 +1,26 @@
 # Completion of the qenxml command for fish.
 
-set -l commands show check export report
+set -l commands show check explain export report
+set -l readers show check export report
 
 complete -c qenxml -f
 complete -c qenxml -s h -l help -d 'Print help'
 complete -c qenxml -n "not __fish_seen_subcommand_from $commands" -l version -d 'Print the version'
 complete -c qenxml -n "not __fish_seen_subcommand_from $commands" -a show -d 'Print what packages hold'
 complete -c qenxml -n "not __fish_seen_subcommand_from $commands" -a check -d 'Find what is wrong with packages'
+complete -c qenxml -n "not __fish_seen_subcommand_from $commands" -a explain -d 'Say what a finding means and what to do'
 complete -c qenxml -n "not __fish_seen_subcommand_from $commands" -a export -d 'Write what packages hold as JSON, CSV or GeoJSON'
 complete -c qenxml -n "not __fish_seen_subcommand_from $commands" -a report -d 'Write a page about packages for a browser'
 
-complete -c qenxml -n "__fish_seen_subcommand_from $commands" -k -a '(__fish_complete_suffix .xml)'
+complete -c qenxml -n "__fish_seen_subcommand_from $readers" -k -a '(__fish_complete_suffix .xml)'
 complete -c qenxml -n '__fish_seen_subcommand_from show export' -l merge -d 'Merge the growers of all packages'
-complete -c qenxml -n "__fish_seen_subcommand_from $commands" -l uuid -x -d 'UUID of the package on the standard input'
+complete -c qenxml -n "__fish_seen_subcommand_from $readers" -l uuid -x -d 'UUID of the package on the standard input'
 complete -c qenxml -n '__fish_seen_subcommand_from export report' -s o -l output -r -F -d 'Write to this file'
 complete -c qenxml -n '__fish_seen_subcommand_from export' -l format -x -a 'json csv geojson' -d 'The format'
 complete -c qenxml -n '__fish_seen_subcommand_from check' -l json -d 'Write all findings as one JSON document'
 complete -c qenxml -n '__fish_seen_subcommand_from check' -l strict -d 'Fail on warnings, too'
 complete -c qenxml -n '__fish_seen_subcommand_from check' -l ignore -x -a '(qenxml check --codes 2>/dev/null)' -d 'Leave out the findings of a code'
 complete -c qenxml -n '__fish_seen_subcommand_from check' -l codes -d 'Print the codes of all findings'
+complete -c qenxml -n '__fish_seen_subcommand_from explain' -l all -d 'Explain all codes'
+complete -c qenxml -n '__fish_seen_subcommand_from explain' -l json -d 'Write one JSON document'
+complete -c qenxml -n '__fish_seen_subcommand_from explain' -a '(qenxml check --codes 2>/dev/null)'
