@@ -1,9 +1,6 @@
 #include "tools/check/OpenElement.h"
 
-#include <algorithm>
 #include <array>
-#include <utility>
-#include <vector>
 
 #include "tools/text/SourceText.h"
 
@@ -11,44 +8,60 @@ namespace {
 
 constexpr const char* afterName = " \t\r\n/>";
 
-/// Where something ends that is neither an element nor a text; nothing when there is none.
-std::optional<std::size_t> endOfOther(std::string_view text, std::size_t offset) {
-    using Ends = std::pair<std::string_view, std::string_view>;
-    constexpr std::array<Ends, 4> others = {Ends{"<!--", "-->"}, Ends{"<![CDATA[", "]]>"},
-                                            Ends{"<?", "?>"}, Ends{"<!", ">"}};
-    for (const auto& [begin, end] : others) {
-        if (text.substr(offset, begin.size()) != begin)
-            continue;
-        const std::size_t found = text.find(end, offset + begin.size());
-        return std::min(found, text.size() - end.size()) + end.size();
+/// Markup by how it begins and ends.
+struct Markup {
+    std::string_view begin;
+    std::string_view end;
+    const char* name;
+};
+
+constexpr std::array<Markup, 4> markupOfOtherKinds = {
+    Markup{"<!--", "-->", "a comment"}, Markup{"<![CDATA[", "]]>", "a text in CDATA"},
+    Markup{"<?", "?>", "a declaration"}, Markup{"<!", ">", "a declaration"}};
+
+/// What begins at an offset.
+Markup markupAt(std::string_view text, std::size_t offset) {
+    for (const Markup& other : markupOfOtherKinds) {
+        if (text.substr(offset, other.begin.size()) == other.begin)
+            return other;
     }
-    return std::nullopt;
+    return {"<", ">", "a tag"};
+}
+
+/// Where markup ends that begins at an offset; npos when it does not.
+std::size_t endOf(const Markup& markup, std::string_view text, std::size_t offset) {
+    if (markup.begin == "<")
+        return endOfTag(text, offset);
+    const std::size_t found = text.find(markup.end, offset + markup.begin.size());
+    return found == std::string_view::npos ? found : found + markup.end.size();
+}
+
+/// Takes account of a complete tag.
+void follow(std::vector<OpenElement>& open, std::string_view tag, std::size_t offset) {
+    if (tag[1] == '/') {
+        if (!open.empty())
+            open.pop_back();
+    } else if (tag[tag.size() - 2] != '/') {
+        const std::size_t end = tag.find_first_of(afterName);
+        open.push_back({std::string(tag.substr(1, end - 1)), offset});
+    }
 }
 
 } // namespace
 
-std::optional<OpenElement> innermostOpenElement(std::string_view text) {
-    std::vector<std::size_t> open;
-    std::size_t offset = text.find('<');
-    while (offset != std::string_view::npos) {
-        std::size_t end = 0;
-        if (const auto other = endOfOther(text, offset)) {
-            end = std::max(*other, offset + 1);
-        } else {
-            end = endOfTag(text, offset);
-            const bool complete = text[end - 1] == '>';
-            if (complete && text[offset + 1] == '/') {
-                if (!open.empty())
-                    open.pop_back();
-            } else if (complete && text[end - 2] != '/') {
-                open.push_back(offset);
-            }
+OpenMarkup openMarkup(std::string_view text) {
+    OpenMarkup open;
+    while ((open.end = text.find('<', open.end)) != std::string_view::npos) {
+        const Markup markup = markupAt(text, open.end);
+        const std::size_t end = endOf(markup, text, open.end);
+        if (end == std::string_view::npos) {
+            open.unfinished = markup.name;
+            return open;
         }
-        offset = text.find('<', end);
+        if (markup.begin == "<")
+            follow(open.elements, text.substr(open.end, end - open.end), open.end);
+        open.end = end;
     }
-    if (open.empty())
-        return std::nullopt;
-    const std::size_t name = open.back() + 1;
-    const std::size_t end = text.find_first_of(afterName, name);
-    return OpenElement{std::string(text.substr(name, end - name)), open.back()};
+    open.end = text.size();
+    return open;
 }

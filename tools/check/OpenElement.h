@@ -2,9 +2,9 @@
 #define QENXML_TOOLS_CHECK_OPENELEMENT_H
 
 #include <cstddef>
-#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// An element that has begun and not ended.
 struct OpenElement {
@@ -12,7 +12,14 @@ struct OpenElement {
     std::size_t offset; ///< Of its "<".
 };
 
-/// The innermost element that is open where a text of XML ends; nothing when none is.
-std::optional<OpenElement> innermostOpenElement(std::string_view text);
+/// What is open where a text of XML ends.
+struct OpenMarkup {
+    std::vector<OpenElement> elements; ///< From the outermost to the innermost.
+    std::string unfinished;            ///< "a tag", "a comment" ...; empty when that is complete.
+    std::size_t end = 0; ///< Where the last complete markup, or the text behind it, ends.
+};
+
+/// What is open where a text of XML ends.
+OpenMarkup openMarkup(std::string_view text);
 
 #endif

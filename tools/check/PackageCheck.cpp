@@ -12,6 +12,7 @@
 #include <fmt/format.h>
 
 #include "tools/check/FindingCollection.h"
+#include "tools/check/FirstAid.h"
 #include "tools/check/OpenElement.h"
 #include "tools/check/PackageWalk.h"
 #include "tools/files/FileContent.h"
@@ -104,22 +105,25 @@ private:
 };
 
 /// Why the XML library could not load a text.
-std::string describeFault(const SourceText& source, const pugi::xml_parse_result& loaded) {
-    if (source.text().empty())
-        return "not well-formed: the file is empty";
+std::string describeFault(const SourceText& source, std::size_t fileSize,
+                          const pugi::xml_parse_result& loaded) {
+    if (const auto aid = firstAid(source.text(), fileSize))
+        return fmt::format("{}; {}", aid->what, aid->cure);
     std::string text = fmt::format("not well-formed: {}", loaded.description());
     if (loaded.status != pugi::status_end_element_mismatch)
         return text;
     const std::string_view before =
         source.text().substr(0, static_cast<std::size_t>(loaded.offset));
-    const auto open = innermostOpenElement(before.substr(0, before.rfind("</")));
-    if (open)
-        text += fmt::format("; {} of line {} has not ended here", escapeExcerpt(open->name),
-                            source.position(open->offset).line);
+    const OpenMarkup open = openMarkup(before.substr(0, before.rfind("</")));
+    if (!open.elements.empty())
+        text += fmt::format("; {} of line {} has not ended here",
+                            escapeExcerpt(open.elements.back().name),
+                            source.position(open.elements.back().offset).line);
     return text;
 }
 
 void checkContent(std::string bytes, FindingSink& sink) {
+    const std::size_t fileSize = bytes.size();
     const SourceText source(std::move(bytes));
     pugi::xml_document document;
     const pugi::xml_parse_result loaded = source.load(document);
@@ -129,7 +133,7 @@ void checkContent(std::string bytes, FindingSink& sink) {
     if (loaded)
         walkPackage(document, source, all);
     else
-        add(all, FindingCode::NotWellFormed, describeFault(source, loaded), NothingRead{},
+        add(all, FindingCode::NotWellFormed, describeFault(source, fileSize, loaded), NothingRead{},
             source.location({static_cast<std::size_t>(loaded.offset), 0}));
     all.finish();
 }

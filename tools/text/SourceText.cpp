@@ -250,5 +250,5 @@ std::size_t endOfTag(std::string_view text, std::size_t offset) {
         else if (c == '>')
             return offset + 1;
     }
-    return offset;
+    return std::string_view::npos;
 }

@@ -86,7 +86,7 @@ private:
 Extent nameExtent(pugi::xml_node element, pugi::xml_attribute attribute);
 
 /// Where the tag ends that begins at an offset of a text: behind its ">", which may stand in a
-/// value, too.
+/// value, too; npos when it does not end.
 std::size_t endOfTag(std::string_view text, std::size_t offset);
 
 #endif

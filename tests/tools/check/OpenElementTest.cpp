@@ -7,8 +7,10 @@
 namespace {
 
 std::string openIn(const std::string& text) {
-    const auto open = innermostOpenElement(text);
-    return open ? open->name + " " + std::to_string(open->offset) : "none";
+    const OpenMarkup open = openMarkup(text);
+    return open.elements.empty()
+               ? "none"
+               : open.elements.back().name + " " + std::to_string(open.elements.back().offset);
 }
 
 TEST(OpenElement, IsTheInnermostThatHasNotEnded) {
@@ -30,6 +32,29 @@ TEST(OpenElement, IsFoundInTextsThatEndWithinATag) {
     EXPECT_EQ(openIn("<a><b x='"), "a 0");
     EXPECT_EQ(openIn("<a><"), "a 0");
     EXPECT_EQ(openIn("<a>\n<b\tx='1'>"), "b 4");
+}
+
+TEST(OpenElement, StandsInsideThoseThatAreOpenToo) {
+    const OpenMarkup open = openMarkup("<a><b/><c x='1'><d></d>text");
+    ASSERT_EQ(open.elements.size(), 2U);
+    EXPECT_EQ(open.elements[0].name, "a");
+    EXPECT_EQ(open.elements[1].name, "c");
+    EXPECT_EQ(open.unfinished, "");
+    EXPECT_EQ(open.end, 27U);
+}
+
+TEST(OpenElement, MayBeFollowedByMarkupThatIsNotFinished) {
+    const auto unfinished = [](const std::string& text) {
+        const OpenMarkup open = openMarkup(text);
+        return open.unfinished + " " + std::to_string(open.end);
+    };
+    EXPECT_EQ(unfinished("<a><b x='>"), "a tag 3");
+    EXPECT_EQ(unfinished("<a></"), "a tag 3");
+    EXPECT_EQ(unfinished("<a>t<!-- -"), "a comment 4");
+    EXPECT_EQ(unfinished("<a><![CDATA[ ]]"), "a text in CDATA 3");
+    EXPECT_EQ(unfinished("<?xml version='1.0'?"), "a declaration 0");
+    EXPECT_EQ(unfinished("<!DOCTYPE a"), "a declaration 0");
+    EXPECT_EQ(unfinished("<a>t"), " 4");
 }
 
 } // namespace

@@ -100,8 +100,11 @@ TEST_F(Diagnosis, FindsThatAFileNameHasNoUuid) {
 }
 
 TEST_F(Diagnosis, FindsWhereAFileIsNotWellFormed) {
-    EXPECT_EQ(of(""), "1:1 not well-formed: the file is empty");
-    EXPECT_EQ(of("\n"), "2:1 not well-formed: No document element found");
+    EXPECT_EQ(of(""), "1:1 the file is empty; copy it again from where it came, or have it "
+                      "written once more");
+    EXPECT_EQ(of("\n"),
+              "2:1 the file holds nothing but blanks; copy it again from where it came, or "
+              "have it written once more");
     EXPECT_EQ(of("<RecPackage>\n  <Grower></Farm>\n</RecPackage>"),
               "2:13 not well-formed: Start-end tags mismatch; Grower of line 2 has not ended here");
     EXPECT_EQ(of("<RecPackage>\n<Grower GrowerID=1/>"),
