@@ -5,6 +5,7 @@
 #include <fmt/format.h>
 
 #include "tools/check/NameCounts.h"
+#include "tools/check/TextCheck.h"
 #include "tools/text/Escape.h"
 #include "tools/text/NameSuggestion.h"
 #include "tools/text/Words.h"
@@ -165,8 +166,10 @@ void ElementCheck::attributes(const std::vector<DatumFormat>& known, pugi::xml_n
         seen[index] = true;
         if (onKnown)
             onKnown(attribute);
-        values_.check(*datum, attribute.value(), report_.source().extent(node, attribute),
-                      fmt::format("@{}", attribute.name()));
+        const Extent extent = report_.source().extent(node, attribute);
+        const std::string step = fmt::format("@{}", attribute.name());
+        checkCharacters(report_, extent, attribute.value(), step);
+        values_.check(*datum, attribute.value(), extent, step);
     }
 }
 
@@ -239,7 +242,10 @@ void ElementCheck::value(const DatumFormat& datum, pugi::xml_node node) {
     const pugi::xml_node held = node.text().data(); // the first text
     const auto readHeld = [&] {
         const SourceText& source = report_.source();
-        values_.check(datum, held.value(), held ? source.wholeText(held) : source.extent(node), "");
+        const Extent extent = held ? source.wholeText(held) : source.extent(node);
+        if (held.type() == pugi::node_pcdata) // In a CDATA section, "&" is a letter.
+            checkCharacters(report_, extent, held.value(), "");
+        values_.check(datum, held.value(), extent, "");
     };
     // In the order of the file: what is said of a text that is not there, is said of the element.
     if (!held)

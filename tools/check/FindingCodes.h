@@ -96,6 +96,15 @@ constexpr std::string_view wordFor(Severity severity) {
             "the text is ignored")                                                                 \
     FINDING(TextCutOff, "text-cut-off", Warning, "only the first part of a text is read",          \
             "it is read as \"{}\"")                                                                \
+    FINDING(ReferenceToNul, "reference-to-nul", Warning, "a reference ends a value",               \
+            "it is read as \"{}\"")                                                                \
+    FINDING(ReferenceToNoCharacter, "reference-to-no-character", Warning,                          \
+            "a reference stands for no character",                                                 \
+            "it gives bytes that are not UTF-8; hosts may not show them")                          \
+    FINDING(ReferenceUnknown, "reference-unknown", Warning, "a reference is none that XML knows",  \
+            "it is read as it is written, as \"{}\"")                                              \
+    FINDING(ControlCharacter, "control-character", Warning, "a value holds a control character",   \
+            "it is passed on; hosts may not show it")                                              \
     FINDING(NoStatistics, "no-recstats", Warning, "a rec has no statistics",                       \
             "its rates, total and area are read as {}")                                            \
     FINDING(StatisticsIncomplete, "recstats-incomplete", Note, "statistics are incomplete",        \

@@ -25,7 +25,7 @@ TEST(Explanation, IsThereForEveryCodeWithoutMarkup) {
             EXPECT_EQ(text.find("]("), std::string::npos) << text;
             EXPECT_EQ(text.find("**"), std::string::npos) << text;
             EXPECT_EQ(text.find('\n'), std::string::npos) << text;
-            EXPECT_EQ(text.find('#'), std::string::npos) << text;
+            EXPECT_EQ(text.find("##"), std::string::npos) << text;
         }
     }
 }
