@@ -16,6 +16,7 @@
 #include "tools/check/OpenElement.h"
 #include "tools/check/PackageWalk.h"
 #include "tools/files/FileContent.h"
+#include "tools/files/OriginalName.h"
 #include "tools/files/PackageUuid.h"
 #include "tools/text/Escape.h"
 #include "tools/text/Utf8.h"
@@ -32,7 +33,10 @@ void add(FindingSink& sink, FindingCode code, std::string found, Consequence con
 }
 
 void checkName(const std::string& path, FindingSink& sink) {
-    const std::string expected = fmt::format("a name such as {} is expected", packageNameForm);
+    const auto original = originalName(path);
+    const std::string expected =
+        original ? "rename it to " + *original
+                 : fmt::format("a name such as {} is expected", packageNameForm);
     if (path.size() < shortestPackagePath) {
         add(sink, FindingCode::PathTooShort,
             fmt::format("the path has {} of at least {} bytes; {}", path.size(),

@@ -18,11 +18,10 @@ inline constexpr const char* checkExitCodeHelp =
     "  2  wrong usage; nothing was read";
 
 /// The exit codes of the command that explains findings.
-inline constexpr const char* explainExitCodeHelp =
-    "Exit codes:\n"
-    "  0  the codes were explained\n"
-    "  1  the output could not be written\n"
-    "  2  wrong usage, such as a code that is none";
+inline constexpr const char* explainExitCodeHelp = "Exit codes:\n"
+                                                   "  0  the codes were explained\n"
+                                                   "  1  the output could not be written\n"
+                                                   "  2  wrong usage, such as a code that is none";
 
 /// The exit codes as the help texts of the other commands explain them.
 inline constexpr const char* exitCodeHelp =

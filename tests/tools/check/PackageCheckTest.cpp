@@ -101,6 +101,17 @@ TEST_F(PackageCheck, CountsThePathInBytes) {
     EXPECT_EQ(found.substr(0, found.find(';')), "the path has 6 of at least 40 bytes");
 }
 
+TEST_F(PackageCheck, SaysWhatToRenameACopyTo) {
+    const std::string uuid = "00112233-4455-6677-8899-aabbccddeeff";
+    for (const std::string& copy : {uuid + " (1).xml", uuid + " - Copy.xml", uuid + ".xml.txt"}) {
+        const std::vector<Finding> findings = checkPackage(folder_.write(copy, test::package("")));
+        ASSERT_FALSE(findings.empty());
+        EXPECT_EQ(findings.front().code, FindingCode::NameNotUuid);
+        EXPECT_EQ(findings.front().found,
+                  "the file is not named by a UUID; rename it to " + uuid + ".xml");
+    }
+}
+
 TEST_F(PackageCheck, NamesTheDeclaredEncodingAsTheCauseOfBytesThatAreNotUtf8) {
     const auto found = [&](const std::string& declaration) {
         const std::vector<Finding> findings = checkPackage(folder_.writePackage(
