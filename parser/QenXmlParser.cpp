@@ -37,12 +37,13 @@ bool QenXmlParser::parseFile(std::string path) {
     if (!loaded)
         return false;
 
-    const pugi::xml_node package = document_.child(names_.RecPackage_.c_str());
+    namespace format = qenxml::format;
+    const pugi::xml_node package = document_.child((names_.*format::recPackage.name).c_str());
     if (package.empty())
         return false;
 
     const qenxml::PackageReader reader = this->reader(package);
-    qenxml::walkList(package.child(names_.Grower_.c_str()),
+    qenxml::walkList(reader.read<format::recPackage>(package).firstItem(),
                      [&](pugi::xml_node node) { growers_.push_back(reader.grower(node)); });
     return true;
 }

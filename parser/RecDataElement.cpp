@@ -36,10 +36,10 @@ struct Maker<PesticideRec> {
 
 template <const auto& format>
 auto PackageReader::product(const boost::uuids::uuid& recId, pugi::xml_node node) const {
-    using Product = typename std::remove_reference_t<decltype(format)>::Type;
-    ValueChildren children(names_, node, origin_);
-    const auto values = children.unconverted<format>();
-    if (!children.complete())
+    using Product = typename std::remove_reference_t<decltype(format)>::Product;
+    auto element = read<format>(node);
+    const auto values = element.unconverted();
+    if (!element.complete())
         return std::unique_ptr<Product>();
     // Only now, so that a missing child yields null even when an identifier is malformed.
     return std::apply(
@@ -48,7 +48,7 @@ auto PackageReader::product(const boost::uuids::uuid& recId, pugi::xml_node node
 }
 
 template <const auto&... formats>
-std::unique_ptr<QenRecData> PackageReader::productOf(format::ProductList<formats...> /*products*/,
+std::unique_ptr<QenRecData> PackageReader::productOf(format::Elements<formats...> /*products*/,
                                                      const boost::uuids::uuid& recId,
                                                      pugi::xml_node node) const {
     const std::string_view kind = node.name();
@@ -63,7 +63,7 @@ std::unique_ptr<QenRecData> PackageReader::recData(const boost::uuids::uuid& rec
                                                    pugi::xml_node node) const {
     // Only the first node counts, and it may be a text, whose name is empty. All else is null,
     // pesticide mixes included, on purpose.
-    return productOf(format::Products(), recId, node.first_child());
+    return productOf(format::recData.parts, recId, node.first_child());
 }
 
 } // namespace qenxml

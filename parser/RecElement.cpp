@@ -1,51 +1,43 @@
-#include <string>
-
 #include "parser/internal/PackageReader.h"
 
 namespace qenxml {
 
-namespace {
-
-void readOperation(const TagNames& names, pugi::xml_node operation, Origin origin,
-                   RecDescription& rec) {
-    if (operation.empty())
+void PackageReader::readOperation(RecDescription& rec, pugi::xml_node node) const {
+    if (node.empty())
         return;
-    const boost::uuids::uuid id = attributeValue(names, operation, format::operationId);
-    if (id.is_nil()) // A nil operation is none at all, so its name is dropped with it.
-        return;
-    rec.operationId = id;
-    rec.operationName =
-        std::string(ValueChildren(names, operation, origin).value(format::operationName));
+    auto element = read<format::operation>(node);
+    element.readAttributes(rec);
+    if (!rec.operationId
+             .is_nil()) // A nil operation is none at all, so its name is dropped with it.
+        element.readValues(rec);
 }
 
-void readSeason(const TagNames& names, pugi::xml_node season, Origin origin, RecDescription& rec) {
-    if (season.empty())
+void PackageReader::readSeason(RecDescription& rec, pugi::xml_node node) const {
+    if (node.empty())
         return;
-    const int id = attributeValue(names, season, format::seasonId);
-    if (id < 0) // A negative season is none at all, so its name is dropped with it.
-        return;
-    rec.seasonId = id;
-    rec.seasonName = std::string(ValueChildren(names, season, origin).value(format::seasonName));
+    auto element = read<format::season>(node);
+    element.readAttributes(rec);
+    if (rec.seasonId < 0) // A negative season is none at all, so its name is dropped with it.
+        rec.seasonId = -1;
+    else
+        element.readValues(rec);
 }
-
-} // namespace
 
 void PackageReader::readRec(QenRec& rec, const boost::uuids::uuid& fieldId,
                             const boost::uuids::uuid& fieldGeometryId, pugi::xml_node node) const {
     RecDescription& description = rec.description_;
-    ValueChildren children(names_, node, origin_);
+    auto element = read<format::rec>(node);
 
     description.fieldId = fieldId;
     description.fieldGeometryId = fieldGeometryId;
-    readAttributes<format::recAttributes>(names_, node, description);
-    children.readInto<format::recValues>(description);
-    readOperation(names_, children.element(&TagNames::Operation_), origin_, description);
-    readSeason(names_, children.element(&TagNames::Season_), origin_, description);
-    rec.recData_.set(recData(description.id, children.element(&TagNames::RecData_)).release());
+    element.readAttributes(description);
+    element.readValues(description);
+    readOperation(description, element.part<format::operation>());
+    readSeason(description, element.part<format::season>());
+    rec.recData_.set(recData(description.id, element.part<format::recData>()).release());
     // Without the element the statistics read as zeros: the unit codes become 0, unlike the -1 of a
     // rec that was not read from a package.
-    ValueChildren(names_, children.element(&TagNames::RecStats_), origin_)
-        .readInto<format::statisticsValues>(rec.statistics_);
+    read<format::recStats>(element.part<format::recStats>()).readValues(rec.statistics_);
     rec.xmlFileName_ = package_;
 }
 

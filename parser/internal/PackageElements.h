@@ -32,7 +32,8 @@ constexpr Datum datum(Bound<Value, Record, Member> bound) {
 
 template <class... Rows>
 constexpr auto data(const std::tuple<Rows...>& rows) {
-    return std::apply([](const auto&... row) { return std::array{datum(row)...}; }, rows);
+    return std::apply(
+        [](const auto&... row) { return std::array<Datum, sizeof...(row)>{datum(row)...}; }, rows);
 }
 
 /// A list of constants.
@@ -52,9 +53,6 @@ private:
     std::size_t size_ = 0;
 };
 
-/// What an element is to people and hosts.
-enum class Record { None, Grower, Farm, Field, Rec };
-
 /// An element that holds others. The first of its attributes, and of its values, is identifier and
 /// name where it is a record.
 struct Element {
@@ -67,69 +65,35 @@ struct Element {
     bool isProduct = false;        ///< Read only when all of its values are there.
 };
 
-/// The data and elements of each element; @ref element has the elements themselves.
-namespace list {
+template <class Formats>
+struct ElementList;
 
-inline constexpr std::array growerAttributes = {datum(growerId)};
-inline constexpr std::array growerValues = {datum(growerName)};
-inline constexpr std::array farmAttributes = {datum(farmId)};
-inline constexpr std::array farmValues = {datum(farmName)};
-inline constexpr std::array fieldAttributes = {datum(fieldId)};
-inline constexpr auto fieldValues = data(format::fieldValues);
-inline constexpr auto centroidValues = data(format::centroidValues);
-inline constexpr auto recAttributes = data(format::recAttributes);
-inline constexpr auto recValues = data(format::recValues);
-inline constexpr std::array operationAttributes = {datum(operationId)};
-inline constexpr std::array operationValues = {datum(operationName)};
-inline constexpr std::array seasonAttributes = {datum(seasonId)};
-inline constexpr std::array seasonValues = {datum(seasonName)};
-inline constexpr auto statisticsValues = data(format::statisticsValues);
+/// The constants that the lists of an element are made of.
+template <const auto& format>
+struct Lists {
+    static constexpr auto attributes = data(format.attributes);
+    static constexpr auto values = data(format.values);
+    static constexpr auto parts = ElementList<decltype(format.parts)>::all();
+    static constexpr auto items = ElementList<decltype(format.item)>::all();
+};
 
-template <const auto& product>
-inline constexpr auto productValues = data(product.rows);
-
-} // namespace list
-
-namespace element {
-
-template <const auto& product>
-inline constexpr Element productElement = {
-    product.name, Record::None, {}, list::productValues<product>, {}, nullptr, true};
+/// An element of the table.
+template <const auto& format>
+inline constexpr Element elementOf = {format.name,
+                                      format.record,
+                                      Lists<format>::attributes,
+                                      Lists<format>::values,
+                                      Lists<format>::parts,
+                                      Lists<format>::items.empty() ? nullptr
+                                                                   : Lists<format>::items.front(),
+                                      format.isProduct};
 
 template <const auto&... formats>
-constexpr auto productElements(ProductList<formats...> /*products*/) {
-    return std::array{&productElement<formats>...};
-}
-
-inline constexpr auto products = productElements(Products());
-inline constexpr Element recData = {&TagNames::RecData_, Record::None, {}, {}, products};
-
-inline constexpr Element operation = {&TagNames::Operation_, Record::None,
-                                      list::operationAttributes, list::operationValues};
-inline constexpr Element season = {&TagNames::Season_, Record::None, list::seasonAttributes,
-                                   list::seasonValues};
-inline constexpr Element recStats = {
-    &TagNames::RecStats_, Record::None, {}, list::statisticsValues};
-
-inline constexpr std::array recParts = {&operation, &season, &recData, &recStats};
-inline constexpr Element rec = {&TagNames::Rec_, Record::Rec, list::recAttributes, list::recValues,
-                                recParts};
-
-inline constexpr Element recommendations = {
-    &TagNames::Recommendations_, Record::None, {}, {}, {}, &rec};
-inline constexpr Element fieldCentroid = {
-    &TagNames::FieldCentroid_, Record::None, {}, list::centroidValues};
-
-inline constexpr std::array fieldParts = {&fieldCentroid, &recommendations};
-inline constexpr Element field = {&TagNames::Field_, Record::Field, list::fieldAttributes,
-                                  list::fieldValues, fieldParts};
-inline constexpr Element farm = {&TagNames::Farm_, Record::Farm, list::farmAttributes,
-                                 list::farmValues, {},           &field};
-inline constexpr Element grower = {
-    &TagNames::Grower_, Record::Grower, list::growerAttributes, list::growerValues, {}, &farm};
-inline constexpr Element recPackage = {&TagNames::RecPackage_, Record::None, {}, {}, {}, &grower};
-
-} // namespace element
+struct ElementList<Elements<formats...>> {
+    static constexpr std::array<const Element*, sizeof...(formats)> all() {
+        return {&elementOf<formats>...};
+    }
+};
 
 } // namespace qenxml::format
 

@@ -1,11 +1,10 @@
 /// @file
-/// The one table of the package format: which attributes and elements are read, as what, and into
-/// what. The readers take its rows while compiling; PackageElements.h has them as lists.
+/// The one table of the package format: which attributes and elements are read, from which element,
+/// as what, and into what. The readers take it while compiling; PackageElements.h has it as lists.
 
 #ifndef QENXML_PARSER_INTERNAL_PACKAGEFORMAT_H
 #define QENXML_PARSER_INTERNAL_PACKAGEFORMAT_H
 
-#include <cstddef>
 #include <string>
 #include <tuple>
 #include <type_traits>
@@ -93,67 +92,54 @@ constexpr Bound<Value, Record, Member> bind(Row<Value> row, Member Record::*memb
     return {row, member};
 }
 
-/// A kind of product data, with the arguments of its constructor behind the identifier of the rec.
-/// A product is read when all of them are there, and else not at all.
-template <class Product, class... Rows>
-struct ProductFormat {
-    using Type = Product;
-    static constexpr std::size_t size = sizeof...(Rows);
+/// What an element is to people and hosts.
+enum class Record { None, Grower, Farm, Field, Rec };
 
-    TagName name;
-    std::tuple<Rows...> rows;
-};
+/// Elements of the table, as a type.
+template <const auto&... elements>
+struct Elements {};
 
-template <class Product, class... Rows>
-constexpr ProductFormat<Product, Rows...> product(TagName name, Rows... rows) {
-    return {name, {rows...}};
+template <const auto& element, const auto&... elements>
+constexpr bool contains(Elements<elements...> /*elements*/) {
+    return ((elements.name == element.name) || ...);
 }
 
-// Attributes and children of each element, in the order in which packages have them.
+/// An element of the table: what is read from it, in the order in which packages have it.
+/// @tparam ProductData of a product: its class, of which the values are the constructor's arguments
+///                     behind the identifier of the rec. Such an element is read when all of its
+///                     values are there, and else not at all.
+template <class Attributes, class Values, class Parts, class Item, class ProductData = void>
+struct ElementFormat {
+    using Product = ProductData;
+    static constexpr bool isProduct = !std::is_void_v<Product>;
 
-inline constexpr auto growerId = identifier(&TagNames::GrowerID_);
-inline constexpr auto growerName = recordName(&TagNames::GrowerName_);
+    TagName name;
+    Record record = Record::None;
+    Attributes attributes{}; ///< The first of a record is its identifier.
+    Values values{};         ///< The children that hold a value. The first of a record is its name.
+    Parts parts{};           ///< The children that hold others, each there once.
+    Item item{};             ///< What it has a list of, if anything.
+};
 
-inline constexpr auto farmId = identifier(&TagNames::FarmID_);
-inline constexpr auto farmName = recordName(&TagNames::FarmName_);
+template <class... Rows>
+constexpr std::tuple<Rows...> rows(Rows... rows) {
+    return {rows...};
+}
 
-inline constexpr auto fieldId = identifier(&TagNames::FieldID_);
-inline constexpr std::tuple fieldValues = {recordName(&TagNames::FieldName_),
-                                           byFirstValue(identifier(&TagNames::FieldGeometryID_)),
-                                           byFirstValue(text(&TagNames::FieldGeometryDate_)),
-                                           byFirstValue(identifier(&TagNames::FieldGeometry_))};
+template <class Attributes, class Values, class Parts = Elements<>, class Item = Elements<>>
+constexpr ElementFormat<Attributes, Values, Parts, Item>
+element(TagName name, Record record, Attributes attributes, Values values, Parts parts = {},
+        Item item = {}) {
+    return {name, record, attributes, values, parts, item};
+}
 
-inline constexpr std::tuple centroidValues = {number(&TagNames::Latitude_),
-                                              number(&TagNames::Longitude_)};
+template <class Product, class... Rows>
+constexpr ElementFormat<std::tuple<>, std::tuple<Rows...>, Elements<>, Elements<>, Product>
+product(TagName name, Rows... rows) {
+    return {name, Record::None, {}, {rows...}};
+}
 
-inline constexpr std::tuple recAttributes = {
-    bind(identifier(&TagNames::RecID_), &RecDescription::id),
-    bind(optionalIdentifier(&TagNames::MgmtZoneID_), &RecDescription::mgmtZoneId)};
-inline constexpr std::tuple recValues = {
-    bind(recordName(&TagNames::RecName_), &RecDescription::name),
-    bind(identifier(&TagNames::RecGeometry_), &RecDescription::recGeometry),
-    bind(text(&TagNames::CreationDate_), &RecDescription::creationDate),
-    bind(text(&TagNames::EditDate_), &RecDescription::editDate),
-    bind(text(&TagNames::RecDBFCol_), &RecDescription::recDbfCol)};
-
-inline constexpr auto operationId = identifier(&TagNames::OpID_);
-inline constexpr auto operationName = text(&TagNames::OpName_);
-
-inline constexpr auto seasonId = integer(&TagNames::SeasonID_);
-inline constexpr auto seasonName = text(&TagNames::SeasonName_);
-
-inline constexpr std::tuple statisticsValues = {
-    bind(number(&TagNames::MinimumRate_), &RecStatistics::minimumRate),
-    bind(number(&TagNames::MaximumRate_), &RecStatistics::maximumRate),
-    bind(number(&TagNames::AverageRate_), &RecStatistics::averageRate),
-    bind(integer(&TagNames::RateUOMID_), &RecStatistics::rateUomId),
-    bind(text(&TagNames::RateUOM_), &RecStatistics::rateUom),
-    bind(number(&TagNames::Total_), &RecStatistics::total),
-    bind(integer(&TagNames::TotalUOMID_), &RecStatistics::totalUomId),
-    bind(text(&TagNames::TotalUOM_), &RecStatistics::totalUom),
-    bind(number(&TagNames::Area_), &RecStatistics::area),
-    bind(integer(&TagNames::AreaUOMID_), &RecStatistics::areaUomId),
-    bind(text(&TagNames::AreaUOM_), &RecStatistics::areaUom)};
+// The table, from the innermost elements to the root.
 
 inline constexpr auto commercialFertilizer = product<CommercialFertilizerRec>(
     &TagNames::CommercialFertilizer_, integer(&TagNames::ProductID_), text(&TagNames::ProductName_),
@@ -173,16 +159,74 @@ inline constexpr auto planting = product<PlantingRec>(
     integer(&TagNames::CompanyID_), text(&TagNames::CompanyName_), integer(&TagNames::VarietyID_),
     text(&TagNames::VarietyName_), integer(&TagNames::UOMID_), text(&TagNames::UOM_));
 
-/// Read only when a host asks for it.
+/// Read only when a host asks for it: it is not among the parts of RecData.
 inline constexpr auto pesticide =
     product<PesticideRec>(&TagNames::Pesticide_, text(&TagNames::PesticideMixName_),
                           integer(&TagNames::UOMID_), text(&TagNames::UOM_));
 
-template <const auto&... formats>
-struct ProductList {};
+inline constexpr auto recData =
+    element(&TagNames::RecData_, Record::None, rows(), rows(),
+            Elements<commercialFertilizer, customFertilizer, planting>());
 
-/// What RecData is read for.
-using Products = ProductList<commercialFertilizer, customFertilizer, planting>;
+inline constexpr auto operation =
+    element(&TagNames::Operation_, Record::None,
+            rows(bind(identifier(&TagNames::OpID_), &RecDescription::operationId)),
+            rows(bind(text(&TagNames::OpName_), &RecDescription::operationName)));
+
+inline constexpr auto season =
+    element(&TagNames::Season_, Record::None,
+            rows(bind(integer(&TagNames::SeasonID_), &RecDescription::seasonId)),
+            rows(bind(text(&TagNames::SeasonName_), &RecDescription::seasonName)));
+
+inline constexpr auto recStats =
+    element(&TagNames::RecStats_, Record::None, rows(),
+            rows(bind(number(&TagNames::MinimumRate_), &RecStatistics::minimumRate),
+                 bind(number(&TagNames::MaximumRate_), &RecStatistics::maximumRate),
+                 bind(number(&TagNames::AverageRate_), &RecStatistics::averageRate),
+                 bind(integer(&TagNames::RateUOMID_), &RecStatistics::rateUomId),
+                 bind(text(&TagNames::RateUOM_), &RecStatistics::rateUom),
+                 bind(number(&TagNames::Total_), &RecStatistics::total),
+                 bind(integer(&TagNames::TotalUOMID_), &RecStatistics::totalUomId),
+                 bind(text(&TagNames::TotalUOM_), &RecStatistics::totalUom),
+                 bind(number(&TagNames::Area_), &RecStatistics::area),
+                 bind(integer(&TagNames::AreaUOMID_), &RecStatistics::areaUomId),
+                 bind(text(&TagNames::AreaUOM_), &RecStatistics::areaUom)));
+
+inline constexpr auto rec =
+    element(&TagNames::Rec_, Record::Rec,
+            rows(bind(identifier(&TagNames::RecID_), &RecDescription::id),
+                 bind(optionalIdentifier(&TagNames::MgmtZoneID_), &RecDescription::mgmtZoneId)),
+            rows(bind(recordName(&TagNames::RecName_), &RecDescription::name),
+                 bind(identifier(&TagNames::RecGeometry_), &RecDescription::recGeometry),
+                 bind(text(&TagNames::CreationDate_), &RecDescription::creationDate),
+                 bind(text(&TagNames::EditDate_), &RecDescription::editDate),
+                 bind(text(&TagNames::RecDBFCol_), &RecDescription::recDbfCol)),
+            Elements<operation, season, recData, recStats>());
+
+inline constexpr auto recommendations = element(&TagNames::Recommendations_, Record::None, rows(),
+                                                rows(), Elements<>(), Elements<rec>());
+
+inline constexpr auto fieldCentroid =
+    element(&TagNames::FieldCentroid_, Record::None, rows(),
+            rows(number(&TagNames::Latitude_), number(&TagNames::Longitude_)));
+
+inline constexpr auto field = element(
+    &TagNames::Field_, Record::Field, rows(identifier(&TagNames::FieldID_)),
+    rows(recordName(&TagNames::FieldName_), byFirstValue(identifier(&TagNames::FieldGeometryID_)),
+         byFirstValue(text(&TagNames::FieldGeometryDate_)),
+         byFirstValue(identifier(&TagNames::FieldGeometry_))),
+    Elements<fieldCentroid, recommendations>());
+
+inline constexpr auto farm =
+    element(&TagNames::Farm_, Record::Farm, rows(identifier(&TagNames::FarmID_)),
+            rows(recordName(&TagNames::FarmName_)), Elements<>(), Elements<field>());
+
+inline constexpr auto grower =
+    element(&TagNames::Grower_, Record::Grower, rows(identifier(&TagNames::GrowerID_)),
+            rows(recordName(&TagNames::GrowerName_)), Elements<>(), Elements<farm>());
+
+inline constexpr auto recPackage =
+    element(&TagNames::RecPackage_, Record::None, rows(), rows(), Elements<>(), Elements<grower>());
 
 } // namespace qenxml::format
 

@@ -15,8 +15,8 @@
 #include "model/QenRec.h"
 #include "model/QenRecData.h"
 #include "parser/TagNames.h"
+#include "parser/internal/ElementReader.h"
 #include "parser/internal/PackageFormat.h"
-#include "parser/internal/ValueChildren.h"
 
 namespace qenxml {
 
@@ -47,16 +47,20 @@ public:
     template <const auto& format>
     auto product(const boost::uuids::uuid& recId, pugi::xml_node node) const;
 
+    /// An element to be read by the table.
+    template <const auto& element>
+    ElementReader<element> read(pugi::xml_node node) const {
+        return {names_, node, origin_};
+    }
+
 private:
     template <const auto&... formats>
-    std::unique_ptr<QenRecData> productOf(format::ProductList<formats...> products,
+    std::unique_ptr<QenRecData> productOf(format::Elements<formats...> products,
                                           const boost::uuids::uuid& recId,
                                           pugi::xml_node node) const;
 
-    pugi::xml_node child(pugi::xml_node node, TagName name) const {
-        return node.child((names_.*name).c_str());
-    }
-
+    void readOperation(RecDescription& rec, pugi::xml_node node) const;
+    void readSeason(RecDescription& rec, pugi::xml_node node) const;
     LLA centroid(pugi::xml_node node) const;
 
     const TagNames& names_;

@@ -59,7 +59,7 @@ std::string outline(const format::Element& element, const std::string& indent = 
 }
 
 TEST(PackageElements, AreThoseOfThePackageFormat) {
-    EXPECT_EQ(outline(format::element::recPackage), R"(RecPackage
+    EXPECT_EQ(outline(format::elementOf<format::recPackage>), R"(RecPackage
   list of
   Grower (grower)
     @GrowerID mandatory identifier

@@ -9,7 +9,7 @@
 
 #include "parser/internal/PackageElements.h"
 
-namespace element = qenxml::format::element;
+namespace table = qenxml::format;
 using qenxml::TagName;
 using qenxml::TagNames;
 using qenxml::format::Datum;
@@ -107,7 +107,7 @@ private:
 };
 
 const Formats& formats() {
-    static const Formats formats(element::recPackage);
+    static const Formats formats(table::elementOf<table::recPackage>);
     return formats;
 }
 
@@ -116,57 +116,57 @@ const Formats& formats() {
 namespace format {
 
 const ElementFormat& recPackage() {
-    static const ElementFormat& format = formats().of(element::recPackage);
+    static const ElementFormat& format = formats().of(table::elementOf<table::recPackage>);
     return format;
 }
 
 const ElementFormat& grower() {
-    static const ElementFormat& format = formats().of(element::grower);
+    static const ElementFormat& format = formats().of(table::elementOf<table::grower>);
     return format;
 }
 
 const ElementFormat& farm() {
-    static const ElementFormat& format = formats().of(element::farm);
+    static const ElementFormat& format = formats().of(table::elementOf<table::farm>);
     return format;
 }
 
 const ElementFormat& field() {
-    static const ElementFormat& format = formats().of(element::field);
+    static const ElementFormat& format = formats().of(table::elementOf<table::field>);
     return format;
 }
 
 const ElementFormat& fieldCentroid() {
-    static const ElementFormat& format = formats().of(element::fieldCentroid);
+    static const ElementFormat& format = formats().of(table::elementOf<table::fieldCentroid>);
     return format;
 }
 
 const ElementFormat& recommendations() {
-    static const ElementFormat& format = formats().of(element::recommendations);
+    static const ElementFormat& format = formats().of(table::elementOf<table::recommendations>);
     return format;
 }
 
 const ElementFormat& rec() {
-    static const ElementFormat& format = formats().of(element::rec);
+    static const ElementFormat& format = formats().of(table::elementOf<table::rec>);
     return format;
 }
 
 const ElementFormat& operation() {
-    static const ElementFormat& format = formats().of(element::operation);
+    static const ElementFormat& format = formats().of(table::elementOf<table::operation>);
     return format;
 }
 
 const ElementFormat& season() {
-    static const ElementFormat& format = formats().of(element::season);
+    static const ElementFormat& format = formats().of(table::elementOf<table::season>);
     return format;
 }
 
 const ElementFormat& recData() {
-    static const ElementFormat& format = formats().of(element::recData);
+    static const ElementFormat& format = formats().of(table::elementOf<table::recData>);
     return format;
 }
 
 const ElementFormat& recStats() {
-    static const ElementFormat& format = formats().of(element::recStats);
+    static const ElementFormat& format = formats().of(table::elementOf<table::recStats>);
     return format;
 }
 

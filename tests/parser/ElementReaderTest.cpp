@@ -83,7 +83,7 @@ void expectReadAsTheXmlLibraryReadsIt(const std::string& content) {
 
 } // namespace
 
-TEST(ValueChildren, OfAFileHoldWhatTheXmlLibraryFindsInThem) {
+TEST(ElementReader, OfAFileHoldWhatTheXmlLibraryFindsInThem) {
     for (const char* content :
          {"", " ", "text", " text ", "<b/>text", "text<b/>more", "<b>inner</b>", "<b>inner</b>text",
           "<![CDATA[text]]>", "<![CDATA[]]>", "<![CDATA[]]>text", "text<![CDATA[more]]>",
@@ -91,13 +91,13 @@ TEST(ValueChildren, OfAFileHoldWhatTheXmlLibraryFindsInThem) {
         expectReadAsTheXmlLibraryReadsIt(content);
 }
 
-TEST(ValueChildren, OfAFileHoldTheNumbersThatTheXmlLibraryFindsInThem) {
+TEST(ElementReader, OfAFileHoldTheNumbersThatTheXmlLibraryFindsInThem) {
     for (const std::string& content : test::spellings())
         expectReadAsTheXmlLibraryReadsIt(content);
     expectReadAsTheXmlLibraryReadsIt("12<b/>34");
 }
 
-RC_GTEST_PROP(ValueChildren, OfAFileHoldAnyNumberAsTheXmlLibraryReadsIt, ()) {
+RC_GTEST_PROP(ElementReader, OfAFileHoldAnyNumberAsTheXmlLibraryReadsIt, ()) {
     const auto digit = rc::gen::elementOf(std::string("0123456789"));
     const auto other = rc::gen::elementOf(std::string("+-.xX \t"));
     const auto character = rc::gen::weightedOneOf<char>({{9, digit}, {1, other}});
