@@ -13,17 +13,10 @@ namespace {
 
 using DigitValues = std::array<unsigned char, 256>;
 
-/// The value of every character in the place of a digit; 255 for those that are none.
 constexpr DigitValues makeDigitValues() {
     DigitValues values{};
-    for (unsigned char& value : values)
-        value = 255;
-    for (unsigned char i = 0; i < 10; ++i)
-        values['0' + i] = i;
-    for (unsigned char i = 0; i < 6; ++i) {
-        values['a' + i] = static_cast<unsigned char>(10 + i);
-        values['A' + i] = static_cast<unsigned char>(10 + i);
-    }
+    for (std::size_t c = 0; c < values.size(); ++c)
+        values[c] = digitValue(static_cast<unsigned char>(c));
     return values;
 }
 
@@ -37,14 +30,26 @@ constexpr DigitValues makeHighHalves() {
 constexpr DigitValues digitValues = makeDigitValues();
 constexpr DigitValues highHalves = makeHighHalves();
 
-using Positions = std::array<unsigned char, 16>;
+using Positions = std::array<std::size_t, identifierDigits / 2>;
 
-/// Where the two digits of each byte begin, with and without hyphens.
-constexpr Positions hyphened = {0, 2, 4, 6, 9, 11, 14, 16, 19, 21, 24, 26, 28, 30, 32, 34};
-constexpr Positions plain = {0, 2, 4, 6, 8, 10, 12, 14, 16, 18, 20, 22, 24, 26, 28, 30};
+/// Where the two digits of each byte begin, with or without hyphens.
+constexpr Positions makePositions(bool hyphens) {
+    Positions positions{};
+    for (std::size_t digit = 0; digit < identifierDigits; digit += 2) {
+        std::size_t position = digit;
+        for (const std::size_t before : digitsBeforeHyphens)
+            position += hyphens && before <= digit ? 1 : 0;
+        positions[digit / 2] = position;
+    }
+    return positions;
+}
 
-constexpr std::size_t length(const Positions& positions) {
-    return positions.back() + 2U;
+constexpr Positions hyphened = makePositions(true);
+constexpr Positions plain = makePositions(false);
+
+/// Where the hyphen of a number stands.
+constexpr std::size_t hyphen(std::size_t number) {
+    return digitsBeforeHyphens[number] + number;
 }
 
 /// The UUID of digits that are all there. The positions are known while compiling, which saves a
@@ -72,11 +77,11 @@ boost::uuids::uuid uuidFromText(std::string_view text) {
     const bool braced = !text.empty() && text.front() == '{';
     if (braced)
         text.remove_prefix(1);
-    const bool hyphens = text.size() > 8 && text[8] == '-';
-    const std::size_t digits = length(hyphens ? hyphened : plain);
-    if (text.size() < digits + (braced ? 1 : 0) ||
-        (hyphens && (text[13] != '-' || text[18] != '-' || text[23] != '-')) ||
-        (braced && text[digits] != '}'))
+    const bool hyphens = text.size() > hyphen(0) && text[hyphen(0)] == '-';
+    const std::size_t length = hyphens ? identifierLength : identifierDigits;
+    if (text.size() < length + (braced ? 1 : 0) ||
+        (hyphens && (text[hyphen(1)] != '-' || text[hyphen(2)] != '-' || text[hyphen(3)] != '-')) ||
+        (braced && text[length] != '}'))
         boost::throw_exception(std::runtime_error("invalid uuid string"));
     return hyphens ? uuidFromDigits<hyphened>(text.data()) : uuidFromDigits<plain>(text.data());
 }

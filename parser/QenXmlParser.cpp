@@ -1,25 +1,9 @@
 #include "parser/QenXmlParser.h"
 
-#include <cstddef>
-#include <string_view>
-
 #include "parser/internal/Identifier.h"
 #include "parser/internal/ListWalk.h"
+#include "parser/internal/PackageName.h"
 #include "parser/internal/PackageReader.h"
-
-namespace {
-
-constexpr std::size_t identifierLength = 36;
-constexpr std::size_t extensionLength = 4;
-
-/// The part of a path where the UUID of a package stands.
-/// @throws std::out_of_range when the path is too short
-std::string_view packageIdentifier(std::string_view path) {
-    // For a short path the position wraps around to one far beyond the end, which substr() rejects.
-    return path.substr(path.size() - identifierLength - extensionLength, identifierLength);
-}
-
-} // namespace
 
 void qenxml::QENXML_DOCUMENTS() {}
 
@@ -33,7 +17,7 @@ bool QenXmlParser::parseFile(std::string path) {
         document_.load_file(path.c_str(), pugi::parse_default, pugi::encoding_auto);
     // The name comes before the result of loading: callers rely on a failure of the name being
     // raised for any file, and on the package identifier being taken over for a broken one.
-    xmlFileName_ = qenxml::uuidFromText(packageIdentifier(path));
+    xmlFileName_ = qenxml::uuidFromText(qenxml::packageIdentifier(path));
     if (!loaded)
         return false;
 

@@ -7,9 +7,11 @@
 
 #include <boost/uuid/uuid.hpp>
 
+#include "parser/internal/Identifier.h"
+
 /// What the library makes of the text of an identifier, and what is odd about it.
 struct IdentifierReading {
-    enum class Fault { None, Empty, TooShort, HyphenMissing, BraceMissing };
+    using Fault = qenxml::ExplainedIdentifier::Fault;
 
     Fault fault = Fault::None;   ///< Why the library refuses the text, if it does.
     std::size_t digits = 0;      ///< How many digits come before the fault.

@@ -1,6 +1,5 @@
 #include "tools/files/PackageUuid.h"
 
-#include <cstddef>
 #include <locale>
 #include <new>
 #include <stdexcept>
@@ -29,10 +28,9 @@ namespace {
 
 /// The part of a path where the UUID stands; empty when the path is too short.
 std::string uuidText(const std::string& path) {
-    constexpr std::size_t uuidLength = 36;
-    if (path.size() < shortestPackagePath)
+    if (path.size() < qenxml::shortestPackagePath)
         return {};
-    return path.substr(path.size() - shortestPackagePath, uuidLength);
+    return std::string(qenxml::packageIdentifier(path));
 }
 
 } // namespace

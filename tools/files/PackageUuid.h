@@ -1,17 +1,17 @@
 #ifndef QENXML_TOOLS_FILES_PACKAGEUUID_H
 #define QENXML_TOOLS_FILES_PACKAGEUUID_H
 
-#include <cstddef>
 #include <optional>
 #include <string>
 
 #include <boost/uuid/uuid.hpp>
 
+#include "parser/internal/PackageName.h"
+
 /// The form of a package file's name, for messages.
 inline constexpr const char* packageNameForm = "00112233-4455-6677-8899-aabbccddeeff.xml";
 
-/// How many characters the path of a package file has at least: the UUID and ".xml".
-inline constexpr std::size_t shortestPackagePath = 40;
+using qenxml::shortestPackagePath;
 
 /// The UUID that the library makes of the text of an identifier; nothing when it refuses the text.
 std::optional<boost::uuids::uuid> uuidOf(const std::string& text);

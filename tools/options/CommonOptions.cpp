@@ -13,7 +13,7 @@
 namespace {
 
 std::string checkUuid(const std::string& text) {
-    const bool canonical = text.size() == 36 && isNamedByUuid(text + ".xml");
+    const bool canonical = text.size() == qenxml::identifierLength && isNamedByUuid(text + ".xml");
     return canonical ? "" : "a UUID such as 00112233-4455-6677-8899-aabbccddeeff is expected";
 }
 
