@@ -2,35 +2,13 @@
 
 #include <array>
 #include <cfloat>
-#include <clocale>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <new>
 #include <optional>
-
-#include <locale.h> // NOLINT(modernize-deprecated-headers): strtod_l() and its locales are POSIX
 
 namespace qenxml {
 
 namespace {
-
-/// The "C" locale, without touching that of the process or the thread.
-class CLocale {
-public:
-    CLocale() : locale_(newlocale(LC_ALL_MASK, "C", locale_t{})) {
-        if (locale_ == locale_t{})
-            throw std::bad_alloc();
-    }
-    CLocale(const CLocale&) = delete;
-    CLocale& operator=(const CLocale&) = delete;
-    ~CLocale() { freelocale(locale_); }
-
-    double toDouble(const char* text) const { return strtod_l(text, nullptr, locale_); }
-
-private:
-    locale_t locale_;
-};
 
 constexpr std::size_t maximumDigits = 15;
 
@@ -86,7 +64,7 @@ double numberFromText(const char* text) {
         if (const std::optional<double> number = shortDecimal(text))
             return *number;
     }
-    return CLocale().toDouble(text);
+    return decodeNumber(text, nullptr);
 }
 
 } // namespace qenxml

@@ -1,12 +1,14 @@
 #include "tools/check/NumberReading.h"
 
+#include <cerrno>
 #include <cmath>
-#include <cstdlib>
 #include <cstring>
 #include <new>
 
 #include <fmt/format.h>
 #include <pugixml.hpp>
+
+#include "parser/internal/Number.h"
 
 namespace {
 
@@ -79,34 +81,17 @@ void findOddity(NumberReading& number, const char* text, std::size_t length, boo
         number.place = std::strspn(text, whiteSpace);
 }
 
-/// Whether a text that is read as 0 or as infinity says so.
-bool isMeant(double value, const char* text, const char* end) {
-    const char* const number = unsignedPart(text);
-    if (std::isinf(value))
-        return *number == 'i' || *number == 'I';
-    if (value != 0)
-        return true;
-    // Too small when there is a digit other than 0 before the exponent.
-    const bool hexadecimal = isHexadecimal(text);
-    for (const char* c = hexadecimal ? number + 2 : number; c < end; ++c) {
-        if (hexadecimal ? *c == 'p' || *c == 'P' : *c == 'e' || *c == 'E')
-            break;
-        if (std::strchr(hexadecimalDigits + 1, *c) != nullptr)
-            return false;
-    }
-    return true;
-}
-
 } // namespace
 
 NumberReading readNumber(const char* text) {
     NumberReading number;
     char* end = nullptr;
-    // The command keeps the "C" locale, by which the library reads numbers.
-    number.value = std::strtod(text, &end);
+    errno = 0;
+    number.value = qenxml::decodeNumber(text, &end);
+    // Numbers so small that they lose digits are out of range to the C library, but not here.
+    const bool inRange = errno != ERANGE || (number.value != 0 && std::isfinite(number.value));
     number.read = fmt::format("{}", number.value);
-    findOddity(number, text, static_cast<std::size_t>(end - text),
-               isMeant(number.value, text, end));
+    findOddity(number, text, static_cast<std::size_t>(end - text), inRange);
     return number;
 }
 
@@ -117,7 +102,7 @@ NumberReading readInteger(const char* text) {
     number.value = value;
     number.read = fmt::format("{}", value);
     // Anything of more digits than this is wrong by a factor, so a double tells it well enough.
-    const double written = std::strtod(std::string(text, length).c_str(), nullptr);
+    const double written = qenxml::decodeNumber(std::string(text, length).c_str(), nullptr);
     findOddity(number, text, length, written == number.value);
     return number;
 }
