@@ -1,23 +1,36 @@
-// The table of the format, written out a second time: a row that changes changes a line here.
+// The table of the format says the same as the schema and the tables in docs/package-format.md.
 
 #include "parser/internal/PackageElements.h"
 
+#include <fstream>
+#include <functional>
+#include <map>
+#include <numeric>
+#include <regex>
+#include <set>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
+#include <pugixml.hpp>
 
 namespace format = qenxml::format;
 
 namespace {
 
-const qenxml::TagNames names;
+/// What an element holds, in lines: "Farm @FarmID mandatory identifier", "Farm Field list".
+using Lines = std::set<std::string>;
 
-std::string kindOf(const format::Datum& datum) {
+std::string nameOf(qenxml::TagName name) {
+    static const qenxml::TagNames names;
+    return names.*name;
+}
+
+std::string typeOf(const format::Datum& datum) {
     switch (datum.kind) {
     case format::Kind::Text:
-        return "text";
     case format::Kind::Name:
-        return "name";
+        return "text";
     case format::Kind::Identifier:
         return datum.need == format::Need::Mandatory ? "mandatory identifier" : "identifier";
     case format::Kind::Integer:
@@ -28,120 +41,153 @@ std::string kindOf(const format::Datum& datum) {
     return "";
 }
 
-std::string recordOf(const format::Element& element) {
-    switch (element.record) {
-    case format::Record::None:
-        return element.isProduct ? " (product)" : "";
-    case format::Record::Grower:
-        return " (grower)";
-    case format::Record::Farm:
-        return " (farm)";
-    case format::Record::Field:
-        return " (field)";
-    case format::Record::Rec:
-        return " (rec)";
-    }
-    return "";
-}
-
-std::string outline(const format::Element& element, const std::string& indent = "") {
-    const std::string below = indent + "  ";
-    std::string text = indent + names.*element.name + recordOf(element) + "\n";
+void addTable(Lines& lines, const format::Element& element) {
+    const std::string parent = nameOf(element.name) + " ";
     for (const format::Datum& datum : element.attributes)
-        text += below + "@" + names.*datum.name + " " + kindOf(datum) + "\n";
+        lines.insert(parent + "@" + nameOf(datum.name) + " " + typeOf(datum));
     for (const format::Datum& datum : element.values)
-        text += below + names.*datum.name + " " + kindOf(datum) + "\n";
-    for (const format::Element* part : element.parts)
-        text += outline(*part, below);
-    if (element.item != nullptr)
-        text += below + "list of\n" + outline(*element.item, below);
-    return text;
+        lines.insert(parent + nameOf(datum.name) + " " + typeOf(datum));
+    for (const format::Element* part : element.parts) {
+        lines.insert(parent + nameOf(part->name) + (part->isProduct ? " product" : " container"));
+        addTable(lines, *part);
+    }
+    if (element.item != nullptr) {
+        lines.insert(parent + nameOf(element.item->name) + " list");
+        addTable(lines, *element.item);
+    }
 }
 
-TEST(PackageElements, AreThoseOfThePackageFormat) {
-    EXPECT_EQ(outline(format::elementOf<format::recPackage>), R"(RecPackage
-  list of
-  Grower (grower)
-    @GrowerID mandatory identifier
-    GrowerName name
-    list of
-    Farm (farm)
-      @FarmID mandatory identifier
-      FarmName name
-      list of
-      Field (field)
-        @FieldID mandatory identifier
-        FieldName name
-        FieldGeometryID mandatory identifier
-        FieldGeometryDate text
-        FieldGeometry mandatory identifier
-        FieldCentroid
-          Latitude number
-          Longitude number
-        Recommendations
-          list of
-          Rec (rec)
-            @RecID mandatory identifier
-            @MgmtZoneID identifier
-            RecName name
-            RecGeometry mandatory identifier
-            CreationDate text
-            EditDate text
-            RecDBFCol text
-            Operation
-              @OpID mandatory identifier
-              OpName text
-            Season
-              @SeasonID integer
-              SeasonName text
-            RecData
-              CommercialFertilizer (product)
-                ProductID integer
-                ProductName text
-                UOMID integer
-                UOM text
-              CustomFertilizer (product)
-                ProductID mandatory identifier
-                ProductName text
-                UOMID integer
-                UOM text
-                SFertT_ID integer
-                SpGravity number
-                Pct_N number
-                Pct_P number
-                Pct_K number
-                Pct_Ca number
-                Pct_Mg number
-                Pct_S number
-                Pct_Fe number
-                Pct_Mn number
-                Pct_Zn number
-                Pct_Cu number
-                Pct_B number
-                Pct_Mo number
-                Pct_Cl number
-              Planting (product)
-                CropID integer
-                CropName text
-                CompanyID integer
-                CompanyName text
-                VarietyID integer
-                VarietyName text
-                UOMID integer
-                UOM text
-            RecStats
-              MinimumRate number
-              MaximumRate number
-              AverageRate number
-              RateUOMID integer
-              RateUOM text
-              Total number
-              TotalUOMID integer
-              TotalUOM text
-              Area number
-              AreaUOMID integer
-              AreaUOM text
-)");
+void expectTable(const Lines& lines) {
+    Lines table;
+    addTable(table, format::elementOf<format::recPackage>);
+    const auto text = [](const Lines& all) {
+        return std::accumulate(all.begin(), all.end(), std::string(),
+                               [](const std::string& before, const std::string& line) {
+                                   return before + line + "\n";
+                               });
+    };
+    EXPECT_EQ(text(lines), text(table));
+}
+
+/// The content of a declared element: its own complex type, or the one that it names.
+pugi::xml_node contentOf(pugi::xml_node element) {
+    const pugi::xml_node own = element.child("xs:complexType");
+    return own ? own
+               : element.root()
+                     .child("xs:schema")
+                     .find_child_by_attribute("xs:complexType", "name",
+                                              element.attribute("type").value());
+}
+
+std::string typeOf(pugi::xml_node declaration) {
+    static const std::map<std::string, std::string> types = {{"xs:string", "text"},
+                                                             {"xs:int", "integer"},
+                                                             {"seasonNumber", "integer"},
+                                                             {"latitude", "number"},
+                                                             {"longitude", "number"}};
+    const std::string type = declaration.attribute("type").value();
+    const auto found = types.find(type);
+    const bool optional =
+        std::string(declaration.attribute("minOccurs").value()) == "0" ||
+        (std::string(declaration.name()) == "xs:attribute" && !declaration.attribute("use"));
+    return (type == "identifier" && !optional ? "mandatory " : "") +
+           (found == types.end() ? type : found->second);
+}
+
+void addSchema(Lines& lines, pugi::xml_node element) {
+    const std::string parent = std::string(element.attribute("name").value()) + " ";
+    for (const pugi::xpath_node& found : contentOf(element).select_nodes("xs:attribute"))
+        lines.insert(parent + "@" + found.node().attribute("name").value() + " " +
+                     typeOf(found.node()));
+    for (const pugi::xpath_node& found : contentOf(element).select_nodes("*/xs:element")) {
+        const pugi::xml_node child = found.node();
+        const std::string name = child.attribute("name").value();
+        if (name == "Pesticide") // not read
+            continue;
+        const bool isList = child.attribute("maxOccurs");
+        const bool isProduct = parent == "RecData ";
+        lines.insert(parent + name + " " +
+                     (isList             ? "list"
+                      : isProduct        ? "product"
+                      : contentOf(child) ? "container"
+                                         : typeOf(child)));
+        if (contentOf(child))
+            addSchema(lines, child);
+    }
+}
+
+std::vector<std::string> matches(const std::string& text, const char* pattern) {
+    const std::regex regex(pattern);
+    return {std::sregex_token_iterator(text.begin(), text.end(), regex, 1), {}};
+}
+
+void addDocument(Lines& lines, const std::string& row) {
+    static const std::regex columns(R"(\| `(\w+)` \| (.*?) *\| *(.*?) *\| *(.*?) *\|.*)");
+    static const std::regex product(R"(\| `(\w+)` \| element in `RecData` \| [^|]+ \|)");
+    std::smatch column;
+    if (std::regex_match(row, column, product)) {
+        lines.insert("RecData " + column.str(1) + " product");
+        return;
+    }
+    if (!std::regex_match(row, column, columns))
+        return;
+    const std::string where = column.str(2);
+    std::vector<std::string> parents = matches(where, "`(\\w+)`");
+    if (where == "element in each product")
+        parents = {"Planting", "CommercialFertilizer", "CustomFertilizer"};
+    const std::string at = where.rfind("attribute", 0) == 0 ? "@" : "";
+    const std::vector<std::string> types =
+        matches(column.str(4), "(identifier|text|integer|number|container|list)");
+    for (std::size_t i = 0; i < parents.size() && !types.empty(); ++i) {
+        const std::string& type = types[i % types.size()];
+        const bool mandatory = type == "identifier" && !column.str(3).empty();
+        lines.insert(parents[i] + " " + at + column.str(1) + (mandatory ? " mandatory " : " ") +
+                     type);
+    }
 }
 
 } // namespace
+
+TEST(PackageElements, AreThoseOfTheSchema) {
+    pugi::xml_document schema;
+    ASSERT_TRUE(schema.load_file(QENXML_SOURCE_DIR "/docs/recpackage.xsd"));
+    Lines lines;
+    addSchema(lines, schema.child("xs:schema").child("xs:element"));
+    expectTable(lines);
+}
+
+TEST(PackageElements, AreThoseOfTheDocumentedTables) {
+    std::ifstream document(QENXML_SOURCE_DIR "/docs/package-format.md");
+    Lines lines;
+    for (std::string row; std::getline(document, row);)
+        addDocument(lines, row);
+    expectTable(lines);
+}
+
+// People call a record by its first value, and know it by its first attribute.
+TEST(PackageElements, ThatAreRecordsBeginWithTheirIdentifierAndName) {
+    const std::map<format::Record, std::string> records = {{format::Record::Grower, "Grower"},
+                                                           {format::Record::Farm, "Farm"},
+                                                           {format::Record::Field, "Field"},
+                                                           {format::Record::Rec, "Rec"}};
+    std::size_t found = 0;
+    const std::function<void(const format::Element&)> check = [&](const format::Element& element) {
+        SCOPED_TRACE(nameOf(element.name));
+        const auto record = records.find(element.record);
+        found += record != records.end() ? 1 : 0;
+        if (record != records.end()) {
+            EXPECT_EQ(record->second, nameOf(element.name));
+            EXPECT_EQ(record->second + "ID", nameOf(element.attributes.begin()->name));
+            EXPECT_EQ(record->second + "Name", nameOf(element.values.begin()->name));
+        }
+        for (const format::Datum& datum : element.values)
+            EXPECT_EQ(record != records.end() && &datum == element.values.begin(),
+                      datum.kind == format::Kind::Name);
+        for (const format::Element* part : element.parts)
+            check(*part);
+        if (element.item != nullptr)
+            check(*element.item);
+    };
+    check(format::elementOf<format::recPackage>);
+    EXPECT_EQ(records.size(), found);
+}

@@ -4,10 +4,15 @@
 #include <cstddef>
 #include <vector>
 
+#include "parser/internal/PackageElements.h"
 #include "parser/internal/TagConstants.h"
 #include "tests/support/Uuids.h"
 
 namespace tag = qenxml::tag;
+using qenxml::format::Datum;
+using qenxml::format::Element;
+using qenxml::format::Kind;
+using qenxml::format::Need;
 
 namespace test {
 
@@ -22,7 +27,9 @@ public:
 
     std::string package() {
         return (oneIn(2) ? "<?xml version='1.0' encoding='UTF-8'?>\n" : "") +
-               element("RecPackage", "", list(3, &Writer::grower)) + (oneIn(40) ? "<more/>" : "");
+               element("RecPackage", "",
+                       contentOf(qenxml::format::elementOf<qenxml::format::recPackage>)) +
+               (oneIn(40) ? "<more/>" : "");
     }
 
 private:
@@ -84,93 +91,76 @@ private:
         return text;
     }
 
-    std::string list(std::size_t most, std::string (Writer::*item)()) {
+    static std::string nameOf(qenxml::TagName name) {
+        static const qenxml::TagNames names;
+        return names.*name;
+    }
+
+    std::string valueOf(const Datum& datum) {
+        switch (datum.kind) {
+        case Kind::Identifier:
+            return datum.need == Need::Optional && oneIn(2) ? "" : identifier();
+        case Kind::Integer:
+        case Kind::Number:
+            return number();
+        default:
+            return name();
+        }
+    }
+
+    std::string attributesOf(const Element& format) {
         std::string text;
+        for (const Datum& datum : format.attributes)
+            if (datum.kind != Kind::Identifier || datum.need == Need::Mandatory || oneIn(3))
+                text += attribute(nameOf(datum.name), valueOf(datum));
+        return text;
+    }
+
+    std::string contentOf(const Element& format) {
+        std::vector<std::string> parts;
+        for (const Datum& datum : format.values)
+            parts.push_back(
+                child(nameOf(datum.name), valueOf(datum), datum.need == Need::Mandatory));
+        for (const Element* part : format.parts)
+            parts.push_back(partOf(*part));
+        std::string text = shuffled(std::move(parts));
+        if (format.item == nullptr)
+            return text;
         if (oneIn(20))
             text += oneOf<std::string>({"before", "<Other/>", "<grower/>"});
-        for (std::size_t count = below(most + 1); count > 0; --count) {
-            text += (this->*item)();
+        for (std::size_t count = below(4); count > 0; --count) {
+            const std::string name = oneIn(100) ? "Other" : nameOf(format.item->name);
+            text += element(name, attributesOf(*format.item), contentOf(*format.item));
             if (damages())
                 text += oneOf<std::string>({"after", "<After/>", "<![CDATA[ ]]>"});
         }
         return text;
     }
 
-    std::string grower() {
-        return element("Grower", attribute("GrowerID", identifier()),
-                       child("GrowerName", name()) + list(3, &Writer::farm));
+    std::string partOf(const Element& format) {
+        const std::string name = nameOf(format.name);
+        if (format.attributes.size() > 0)
+            return oneIn(2) ? element(name, attributesOf(format), contentOf(format)) : "";
+        const bool ofProducts = format.parts.size() > 0 && (*format.parts.begin())->isProduct;
+        return child(name, ofProducts ? oneOfProducts(format) : contentOf(format));
     }
 
-    std::string farm() {
-        const std::string tag = oneIn(100) ? "Hof" : "Farm";
-        return element(tag, attribute("FarmID", identifier()),
-                       child("FarmName", name()) + list(3, &Writer::field));
-    }
-
-    std::string field() {
-        std::vector<std::string> parts = {
-            child("FieldName", name()),
-            child("FieldGeometryID", identifier(), true),
-            child("FieldGeometryDate", "2026-01-01"),
-            child("FieldGeometry", identifier(), true),
-            child("FieldCentroid", child("Latitude", number()) + child("Longitude", number())),
-            child("Recommendations", list(3, &Writer::rec))};
-        return element("Field", attribute("FieldID", identifier()), shuffled(std::move(parts)));
-    }
-
-    std::string rec() {
-        const std::string zone =
-            oneIn(3) ? attribute("MgmtZoneID", oneIn(2) ? "" : identifier()) : "";
-        std::vector<std::string> parts = {
-            child("RecName", name()),
-            child("RecGeometry", identifier(), true),
-            child("CreationDate", "2026"),
-            child("EditDate", ""),
-            child("RecDBFCol", "RATE"),
-            oneIn(2)
-                ? element("Operation", attribute("OpID", identifier()), child("OpName", name()))
-                : "",
-            oneIn(2)
-                ? element("Season", attribute("SeasonID", oneOf<std::string>({"1", "-2", "x", ""})),
-                          child("SeasonName", name()))
-                : "",
-            child("RecData", recData()),
-            child("RecStats", statistics())};
-        return element("Rec", zone + attribute("RecID", identifier()), shuffled(std::move(parts)));
-    }
-
-    std::string recData() {
+    std::string oneOfProducts(const Element& recData) {
         const std::string before = oneIn(20) ? "text" : "";
         const std::string after = oneIn(20) ? "<Planting/>" : "";
-        const std::vector<std::string> planting = {"CropID",      "CropName",  "CompanyID",
-                                                   "CompanyName", "VarietyID", "VarietyName"};
-        const std::vector<std::string> blend = {
-            "SFertT_ID", "SpGravity", "Pct_N",  "Pct_P",  "Pct_K", "Pct_Ca", "Pct_Mg", "Pct_S",
-            "Pct_Fe",    "Pct_Mn",    "Pct_Zn", "Pct_Cu", "Pct_B", "Pct_Mo", "Pct_Cl"};
-        const std::string name = oneOf<std::string>(
-            {"Planting", "CommercialFertilizer", "CustomFertilizer", "Pesticide", "planting"});
-        std::vector<std::string> names = {"ProductName", "UOMID", "UOM"};
-        if (name == "Planting" || oneIn(30))
-            names.insert(names.end(), planting.begin(), planting.end());
-        if (name == "CustomFertilizer" || oneIn(30))
-            names.insert(names.end(), blend.begin(), blend.end());
+        const Element& format = *recData.parts.begin()[below(recData.parts.size())];
+        const std::string name =
+            oneIn(4) ? oneOf<std::string>({"Pesticide", "planting"}) : nameOf(format.name);
         const bool complete = !oneIn(3);
         std::vector<std::string> parts;
-        parts.reserve(names.size() + 1);
-        for (const std::string& part : names)
-            parts.push_back(complete ? element(part, "", number()) : child(part, number()));
-        // While a blend is incomplete, its identifier does not matter.
-        parts.push_back(element("ProductID", "", !complete && oneIn(4) ? "4711" : identifier()));
+        for (const Datum& datum : format.values) {
+            // While a blend is incomplete, its identifier does not matter.
+            const bool wrong = datum.kind == Kind::Identifier && !complete && oneIn(4);
+            const std::string value = wrong ? "4711" : valueOf(datum);
+            parts.push_back(complete ? element(nameOf(datum.name), "", value)
+                                     : child(nameOf(datum.name), value));
+        }
         return before + element(name, "", shuffled(std::move(parts))) + after;
-    }
-
-    std::string statistics() {
-        std::string text;
-        for (const std::string part :
-             {"MinimumRate", "MaximumRate", "AverageRate", "RateUOMID", "RateUOM", "Total",
-              "TotalUOMID", "TotalUOM", "Area", "AreaUOMID", "AreaUOM"})
-            text += child(part, number());
-        return text;
     }
 
     std::string shuffled(std::vector<std::string> parts) {
