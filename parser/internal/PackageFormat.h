@@ -113,7 +113,7 @@ struct ElementFormat {
     using Product = ProductData;
     static constexpr bool isProduct = !std::is_void_v<Product>;
 
-    TagName name;
+    TagName name = nullptr;
     Record record = Record::None;
     Attributes attributes{}; ///< The first of a record is its identifier.
     Values values{};         ///< The children that hold a value. The first of a record is its name.
