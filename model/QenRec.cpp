@@ -38,17 +38,14 @@ QenRec& QenRec::operator=(const QenRec& other) { // NOLINT(*-use-equals-default)
     return *this;
 }
 
-void qenxml::reserve(std::vector<QenRec>& recs, std::size_t count) {
-    std::vector<QenRec> larger;
-    larger.reserve(count);
-    for (QenRec& rec : recs)
-        larger.emplace_back().take(rec);
-    recs.swap(larger);
-}
-
 QenRec& QenRec::appendEmpty(std::vector<QenRec>& recs) {
-    if (recs.size() == recs.capacity())
-        qenxml::reserve(recs, std::max<std::size_t>(2 * recs.size(), 1));
+    if (recs.size() == recs.capacity()) {
+        std::vector<QenRec> larger;
+        larger.reserve(std::max<std::size_t>(2 * recs.size(), 1));
+        for (QenRec& rec : recs)
+            larger.emplace_back().take(rec);
+        recs.swap(larger);
+    }
     return recs.emplace_back();
 }
 

@@ -1,7 +1,6 @@
 #ifndef QENXML_MODEL_QENREC_H
 #define QENXML_MODEL_QENREC_H
 
-#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -11,15 +10,9 @@
 #include "QenExport.h"
 #include "QenRecData.h"
 
-class QenRec;
-
 namespace qenxml { // not for hosts
 
 class PackageReader;
-
-/// Makes room for so many recs by hand, because a list that grows by itself copies every rec with
-/// its product data. When memory runs out, the list has not changed.
-QENXML_LOCAL void reserve(std::vector<QenRec>& recs, std::size_t count);
 
 /// What a rec says of itself, before its product data.
 struct RecDescription {
@@ -211,9 +204,10 @@ private:
     // They take recs over, read const ones and fill new ones, without copying.
     friend class QenField;
     friend class qenxml::PackageReader;
-    friend void qenxml::reserve(std::vector<QenRec>& recs, std::size_t count);
 
-    /// Appends an empty rec. When memory runs out, the list has not changed.
+    /// Appends an empty rec to @p recs, which it makes longer by hand, because a list that grows by
+    /// itself copies every rec with its product data. When memory runs out, the list has not
+    /// changed.
     QENXML_LOCAL static QenRec& appendEmpty(std::vector<QenRec>& recs);
 
     /// Takes the content of @p other over, where nobody will look at @p other again. Like copying,

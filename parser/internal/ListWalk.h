@@ -4,13 +4,11 @@
 #ifndef QENXML_PARSER_INTERNAL_LISTWALK_H
 #define QENXML_PARSER_INTERNAL_LISTWALK_H
 
-#include <algorithm>
 #include <cstddef>
 #include <vector>
 
 #include <pugixml.hpp>
 
-#include "model/QenRec.h"
 #include "parser/internal/DuplicateIdentifiers.h"
 
 namespace qenxml {
@@ -24,32 +22,22 @@ void walkList(pugi::xml_node firstItem, ReadItem readItem) {
         readItem(node);
 }
 
-/// Makes room for @p count children. Of recs there is a reserve() of its own.
+/// Makes room for the items of a list, as far as they are not many, so that a short list does not
+/// grow step by step and a file of many tiny items claims little memory before any of them is read.
 template <class Child>
-void reserve(std::vector<Child>& children, std::size_t count) {
-    children.reserve(count);
-}
-
-/// Makes room for the items from @p next on at once, so that a long list hardly grows step by step:
-/// up to a few times what is in it, so that a file with many tiny items behind some proper ones
-/// does not claim much more memory than its own size before it fails.
-template <class Child>
-void makeRoom(std::vector<Child>& children, pugi::xml_node next) {
-    std::size_t count = children.size();
-    const std::size_t limit = std::max<std::size_t>(1024, 5 * count);
-    for (; next && count < limit; next = next.next_sibling())
+void reserveForItems(std::vector<Child>& children, pugi::xml_node firstItem) {
+    constexpr std::size_t many = 1024;
+    std::size_t count = 0;
+    for (pugi::xml_node node = firstItem; node && count < many; node = node.next_sibling())
         ++count;
-    reserve(children, count);
+    children.reserve(count);
 }
 
 /// Reads a whole list of children, one per identifier. @p readItem appends the item of a node.
 template <class Child, class ReadItem>
 void readChildren(std::vector<Child>& children, pugi::xml_node firstItem, ReadItem readItem) {
-    walkList(firstItem, [&](pugi::xml_node item) {
-        if (children.size() == children.capacity())
-            makeRoom(children, item);
-        readItem(item);
-    });
+    reserveForItems(children, firstItem);
+    walkList(firstItem, readItem);
     keepLastOfEachIdentifier(children);
 }
 

@@ -194,7 +194,8 @@ class Memory : public testing::TestWithParam<Shape> {};
 TEST_P(Memory, OfReadingStaysBelowTheLimitAtEverySize) {
     // Among them sizes at which a list has just grown, and at which the room reserved for children
     // is largest in relation to the file.
-    for (const std::size_t count : {1U, 100U, 1'024U, 1'025U, 5'120U, 5'121U, 25'601U, 131'073U}) {
+    for (const std::size_t count :
+         {1U, 100U, 1'000U, 1'025U, 2'047U, 4'096U, 4'097U, 8'193U, 131'073U}) {
         const Peak peak = peakOf(GetParam().content(count));
         std::printf("%-45s x %7zu: file %9zu, peak %10zu, multiple %8.2f\n",
                     GetParam().name.c_str(), count, peak.file, peak.peak, peak.multiple());
