@@ -45,6 +45,14 @@ public:
     /// One more was found of a code of which it wants no more than that.
     virtual void addCode(FindingCode /*code*/) {}
 
+    /// Gives a finding that is there anyway, in the one way or the other.
+    void offer(const Finding& finding) {
+        if (wants(finding.code))
+            add(finding);
+        else
+            addCode(finding.code);
+    }
+
     /// How much of a file is checked, called now and then.
     /// @param part from 0 to 1
     virtual void progress(double /*part*/) {}

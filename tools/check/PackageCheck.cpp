@@ -15,7 +15,6 @@
 #include "tools/check/FirstAid.h"
 #include "tools/check/OpenElement.h"
 #include "tools/check/PackageWalk.h"
-#include "tools/files/FileContent.h"
 #include "tools/files/OriginalName.h"
 #include "tools/files/PackageUuid.h"
 #include "tools/text/Escape.h"
@@ -26,10 +25,7 @@ namespace {
 /// Adds a finding that is about no element.
 void add(FindingSink& sink, FindingCode code, std::string found, Consequence consequence,
          std::optional<Location> location = std::nullopt) {
-    if (sink.wants(code))
-        sink.add({code, std::move(found), std::move(consequence), std::move(location)});
-    else
-        sink.addCode(code);
+    sink.offer({code, std::move(found), std::move(consequence), std::move(location)});
 }
 
 void checkName(const std::string& path, FindingSink& sink) {
@@ -145,7 +141,10 @@ void checkContent(std::string bytes, FindingSink& sink) {
 } // namespace
 
 void checkPackage(const std::string& path, FindingSink& sink) {
-    FileContent content = readFileContent(path);
+    checkPackage(path, readFileContent(path), sink);
+}
+
+void checkPackage(const std::string& path, FileContent content, FindingSink& sink) {
     if (!content.failure.empty()) {
         // Its name means nothing: it may be the name that is mistyped.
         add(sink, FindingCode::Unreadable, content.failure, NothingRead{});

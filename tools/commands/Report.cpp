@@ -5,7 +5,6 @@
 #include <string_view>
 #include <vector>
 
-#include "tools/input/InputCheck.h"
 #include "tools/input/PackageInput.h"
 #include "tools/input/PackageReading.h"
 #include "tools/options/CommonOptions.h"
@@ -27,8 +26,7 @@ struct ReportOptions {
 
 ReportPackage examine(const PackageInput& input, Console& console) {
     ReportPackage package;
-    package.reading = readAndComplain(input, "reported", console);
-    checkInput(input, package.findings);
+    package.reading = readAndComplain(input, "reported", console, &package.findings);
     package.counts = countRecords(package.reading.growers);
     return package;
 }

@@ -1,30 +1,20 @@
 #include "tools/input/InputCheck.h"
 
 #include <new>
-#include <string>
 #include <utility>
 
 #include "tools/check/PackageCheck.h"
 
-namespace {
-
-void addUnreadable(FindingSink& sink, std::string found, Consequence consequence) {
-    if (sink.wants(FindingCode::Unreadable))
-        sink.add({FindingCode::Unreadable, std::move(found), std::move(consequence)});
-    else
-        sink.addCode(FindingCode::Unreadable);
-}
-
-} // namespace
-
-void checkInput(const PackageInput& input, FindingSink& sink) {
+void checkInput(const PackageInput& input, FindingSink& sink, std::optional<FileContent> content) {
     if (input.failure()) {
-        addUnreadable(sink, *input.failure(), NothingRead{});
+        sink.offer({FindingCode::Unreadable, *input.failure(), NothingRead{}});
         return;
     }
     try {
-        checkPackage(input.path(), sink);
+        checkPackage(input.path(), content ? std::move(*content) : readFileContent(input.path()),
+                     sink);
     } catch (const std::bad_alloc&) {
-        addUnreadable(sink, "there is not enough memory to check the file", CheckEnds{});
+        sink.offer(
+            {FindingCode::Unreadable, "there is not enough memory to check the file", CheckEnds{}});
     }
 }

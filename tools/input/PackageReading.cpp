@@ -4,6 +4,7 @@
 #include <exception>
 #include <filesystem>
 #include <new>
+#include <optional>
 #include <system_error>
 #include <utility>
 
@@ -11,7 +12,9 @@
 #include <fmt/format.h>
 
 #include "parser/QenXmlParser.h"
+#include "tools/files/FileContent.h"
 #include "tools/files/PackageUuid.h"
+#include "tools/input/InputCheck.h"
 #include "tools/text/Escape.h"
 
 namespace {
@@ -42,27 +45,46 @@ bool parse(const std::string& path, std::vector<QenGrower>& growers) {
     return complete;
 }
 
+/// Reads what can be read.
+///
+/// @param content out: that of the file, for all but the library, which takes no less than a path
+/// @return whether that is all
+bool read(const std::string& path, PackageReading& reading, std::optional<FileContent>& content) {
+    reading.uuid = packageUuid(path);
+    std::vector<QenGrower> growers;
+    const bool complete = parse(path, growers);
+    content = readFileContent(path);
+    // Without the gaps, what is not known would be taken for 0.
+    reading.gaps = findGaps(content->bytes, growers.size());
+    reading.growers = std::move(growers);
+    return complete;
+}
+
 } // namespace
 
-PackageReading readPackage(const PackageInput& input) {
+PackageReading readPackage(const PackageInput& input, FindingSink* findings) {
     PackageReading reading;
     reading.name = input.name();
-    if (input.failure()) {
-        reading.failure = ReadFailure{*input.failure(), std::nullopt};
+    const auto unlessMemoryRunsOut = [&](const auto& step) {
+        try {
+            step();
+        } catch (const std::bad_alloc&) {
+            reading.failure = ReadFailure{"not enough memory", std::nullopt};
+        }
+    };
+    std::optional<FileContent> content;
+    bool complete = false;
+    unlessMemoryRunsOut(
+        [&] { complete = !input.failure() && read(input.path(), reading, content); });
+    const bool unexplained = !complete && !reading.failure;
+    if (findings == nullptr && !unexplained)
         return reading;
-    }
-    try {
-        reading.uuid = packageUuid(input.path());
-        std::vector<QenGrower> growers;
-        const bool complete = parse(input.path(), growers);
-        // Without the gaps, what is not known would be taken for 0.
-        reading.gaps = findGaps(input.path(), growers.size());
-        reading.growers = std::move(growers);
-        if (!complete)
-            reading.failure = diagnose(input.path());
-    } catch (const std::bad_alloc&) {
-        reading.failure = ReadFailure{"not enough memory", std::nullopt};
-    }
+    unlessMemoryRunsOut([&] {
+        Diagnosis diagnosis(findings);
+        checkInput(input, diagnosis, std::move(content));
+        if (unexplained)
+            reading.failure = diagnosis.failure();
+    });
     return reading;
 }
 
@@ -70,8 +92,9 @@ PackageReading readPackage(const std::string& path) {
     return readPackage(PackageInput(path));
 }
 
-PackageReading readAndComplain(const PackageInput& input, std::string_view done, Console& console) {
-    PackageReading reading = readPackage(input);
+PackageReading readAndComplain(const PackageInput& input, std::string_view done, Console& console,
+                               FindingSink* findings) {
+    PackageReading reading = readPackage(input, findings);
     if (reading.failure)
         console.complain(failureMessage(reading, done));
     else if (!isNamedByUuid(input.path()))

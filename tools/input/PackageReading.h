@@ -24,13 +24,16 @@ struct PackageReading {
 };
 
 /// Reads one package; whatever goes wrong is in the result.
-PackageReading readPackage(const PackageInput& input);
+///
+/// @param findings takes all that is wrong with it, if that is wanted
+PackageReading readPackage(const PackageInput& input, FindingSink* findings = nullptr);
 PackageReading readPackage(const std::string& path);
 
 /// Reads one package. When that fails, says so, and what has been printed before comes before it.
 ///
 /// @param done what the command does with what it reads: "shown"
-PackageReading readAndComplain(const PackageInput& input, std::string_view done, Console& console);
+PackageReading readAndComplain(const PackageInput& input, std::string_view done, Console& console,
+                               FindingSink* findings = nullptr);
 
 /// Nothing came of it: it failed before its first grower.
 bool isLost(const PackageReading& reading);

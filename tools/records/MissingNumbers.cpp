@@ -117,10 +117,11 @@ void GrowerGaps::remove(const Key& first, std::size_t length) {
     }
 }
 
-std::vector<GrowerGaps> findGaps(const std::string& path, std::size_t growers) {
+std::vector<GrowerGaps> findGaps(const std::string& bytes, std::size_t growers) {
     std::vector<GrowerGaps> gaps;
     pugi::xml_document document;
-    if (growers > 0 && document.load_file(path.c_str()).status == pugi::status_out_of_memory)
+    if (growers > 0 &&
+        document.load_buffer(bytes.data(), bytes.size()).status == pugi::status_out_of_memory)
         throw std::bad_alloc();
     pugi::xml_node grower = document.child(tag::RecPackage).child(tag::Grower);
     for (; grower && gaps.size() < growers; grower = grower.next_sibling())

@@ -68,9 +68,10 @@ private:
 
 /// What is missing from a package.
 ///
+/// @param bytes   the content of its file
 /// @param growers how many of its growers the library has read
 /// @return one for each of them that the file has
 /// @throws std::bad_alloc
-std::vector<GrowerGaps> findGaps(const std::string& path, std::size_t growers);
+std::vector<GrowerGaps> findGaps(const std::string& bytes, std::size_t growers);
 
 #endif

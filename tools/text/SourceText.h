@@ -29,9 +29,9 @@ struct Extent {
 /// A part of a file.
 struct Location {
     Extent extent;
-    Position begin;  ///< Of its first character.
-    Position end;    ///< Behind its last character.
-    Excerpt excerpt; ///< The line in which it begins, around that place.
+    Position begin = {}; ///< Of its first character.
+    Position end = {};   ///< Behind its last character.
+    Excerpt excerpt;     ///< The line in which it begins, around that place.
 };
 
 /// The text of an XML file. It tells where in the file something stands, which pugixml alone does

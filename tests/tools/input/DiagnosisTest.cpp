@@ -6,11 +6,15 @@
 #include <string>
 
 #include <gtest/gtest.h>
+#include <sys/inotify.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/Uuids.h"
+#include "tools/check/FindingCollection.h"
+#include "tools/check/PackageCheck.h"
+#include "tools/files/Descriptor.h"
 #include "tools/files/FileContent.h"
 #include "tools/input/PackageReading.h"
 
@@ -20,7 +24,9 @@ const std::string uuidText = "a1b2c3d4-0000-4000-8000-000000000001";
 
 /// "LINE:COLUMN reason", or only the reason, of what is wrong with a package.
 std::string diagnosisOf(const std::string& path) {
-    const ReadFailure failure = diagnose(path);
+    Diagnosis diagnosis;
+    checkPackage(path, diagnosis);
+    const ReadFailure failure = diagnosis.failure();
     std::string text;
     if (failure.position)
         text = std::to_string(failure.position->line) + ":" +
@@ -28,7 +34,7 @@ std::string diagnosisOf(const std::string& path) {
     return text + failure.reason;
 }
 
-class Diagnosis : public testing::Test {
+class DiagnosisTest : public testing::Test {
 protected:
     std::string of(const std::string& content) {
         return diagnosisOf(folder_.writePackage(content));
@@ -51,25 +57,25 @@ const std::string recPath =
 const std::string recId = "RecID='" + uuidText + "'";
 const std::string recGeometry = "<RecGeometry>" + uuidText + "</RecGeometry>";
 
-TEST_F(Diagnosis, FindsThatAFileIsMissing) {
+TEST_F(DiagnosisTest, FindsThatAFileIsMissing) {
     EXPECT_EQ(diagnosisOf(folder_.path("00112233-4455-6677-8899-aabbccddeeff.xml")), "not found");
     EXPECT_EQ(diagnosisOf(folder_.path("a.xml")), "not found");
 }
 
-TEST_F(Diagnosis, FindsThatAFileIsAFolder) {
+TEST_F(DiagnosisTest, FindsThatAFileIsAFolder) {
     const std::string path = folder_.path("00112233-4455-6677-8899-aabbccddeeff.xml");
     std::filesystem::create_directory(path);
     EXPECT_EQ(diagnosisOf(path), "is a directory");
 }
 
-TEST_F(Diagnosis, FindsThatAFileIsNoRegularFile) {
+TEST_F(DiagnosisTest, FindsThatAFileIsNoRegularFile) {
     const std::string path = folder_.path("00112233-4455-6677-8899-aabbccddeeff.xml");
     ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
     EXPECT_EQ(diagnosisOf(path), "is not a regular file");
     EXPECT_EQ(diagnosisOf("/dev/null"), "is not a regular file");
 }
 
-TEST_F(Diagnosis, FindsThatAFileMayNotBeRead) {
+TEST_F(DiagnosisTest, FindsThatAFileMayNotBeRead) {
     const std::string path = folder_.writePackage("<RecPackage/>");
     ASSERT_EQ(chmod(path.c_str(), 0), 0);
     const uid_t user = geteuid();
@@ -83,14 +89,14 @@ TEST_F(Diagnosis, FindsThatAFileMayNotBeRead) {
     EXPECT_EQ(reading.failure->position, std::nullopt);
 }
 
-TEST_F(Diagnosis, SaysOfOtherFailuresWhatTheSystemSays) {
+TEST_F(DiagnosisTest, SaysOfOtherFailuresWhatTheSystemSays) {
     EXPECT_EQ(diagnosisOf(folder_.writePackage("<RecPackage/>") + "/a"),
               "cannot be read: Not a directory");
     EXPECT_EQ(describeFileError(EIO), "cannot be read: Input/output error");
     EXPECT_EQ(describeFileError(EACCES), "permission denied");
 }
 
-TEST_F(Diagnosis, FindsThatAFileNameHasNoUuid) {
+TEST_F(DiagnosisTest, FindsThatAFileNameHasNoUuid) {
     const std::string expected =
         "; a name such as 00112233-4455-6677-8899-aabbccddeeff.xml is expected";
     EXPECT_EQ(diagnosisOf(folder_.write("00112233-44556677-8899-aabbccddeeff_.xml", "<a>")),
@@ -99,7 +105,7 @@ TEST_F(Diagnosis, FindsThatAFileNameHasNoUuid) {
     EXPECT_EQ(diagnosisOf(shortPath), "the path has 13 of at least 40 bytes" + expected);
 }
 
-TEST_F(Diagnosis, FindsWhereAFileIsNotWellFormed) {
+TEST_F(DiagnosisTest, FindsWhereAFileIsNotWellFormed) {
     EXPECT_EQ(of(""), "1:1 the file is empty; copy it again from where it came, or have it "
                       "written once more");
     EXPECT_EQ(of("\n"),
@@ -111,7 +117,7 @@ TEST_F(Diagnosis, FindsWhereAFileIsNotWellFormed) {
               "2:18 not well-formed: Error parsing element attribute");
 }
 
-TEST_F(Diagnosis, FindsThatTheRootIsAnother) {
+TEST_F(DiagnosisTest, FindsThatTheRootIsAnother) {
     EXPECT_EQ(of("<?xml version='1.0'?>\n<!-- x -->\n <Package/>"),
               "3:2 the root element is \"Package\" instead of RecPackage");
     EXPECT_EQ(of("<p:RecPackage/>"),
@@ -120,7 +126,7 @@ TEST_F(Diagnosis, FindsThatTheRootIsAnother) {
               "1:1 the root element is \"recpackage\\u{2028}\" instead of RecPackage");
 }
 
-TEST_F(Diagnosis, FindsIdentifiersOfGrowers) {
+TEST_F(DiagnosisTest, FindsIdentifiersOfGrowers) {
     EXPECT_EQ(of("<RecPackage>\n <Grower GrowerID='" + uuidText + "'/>\n <Grower/></RecPackage>"),
               "3:2 invalid uuid string: /RecPackage/Grower[2]: Grower has no attribute GrowerID");
     EXPECT_EQ(of("<RecPackage><Grower GrowerID=''/></RecPackage>"),
@@ -131,7 +137,7 @@ TEST_F(Diagnosis, FindsIdentifiersOfGrowers) {
         "short: it ends after 5 of 32 digits");
 }
 
-TEST_F(Diagnosis, FindsIdentifiersOfFarms) {
+TEST_F(DiagnosisTest, FindsIdentifiersOfFarms) {
     EXPECT_EQ(
         of("<RecPackage><Grower GrowerID='" + uuidText + "'><Farm FarmID='" + uuidText +
            "'/>\n<Farm FarmID='" + uuidText + "'/><Farm FarmID='x'/></Grower></RecPackage>"),
@@ -139,7 +145,7 @@ TEST_F(Diagnosis, FindsIdentifiersOfFarms) {
         "short: it ends after 1 of 32 digits");
 }
 
-TEST_F(Diagnosis, FindsIdentifiersOfFields) {
+TEST_F(DiagnosisTest, FindsIdentifiersOfFields) {
     const auto ofField = [&](const std::string& field) {
         return of("<RecPackage><Grower GrowerID='" + uuidText + "'><Farm FarmID='" + uuidText +
                   "'>\n" + field + "</Farm></Grower></RecPackage>");
@@ -159,7 +165,7 @@ TEST_F(Diagnosis, FindsIdentifiersOfFields) {
             "/FieldGeometry: FieldGeometry \"17\" is too short: it ends after 2 of 32 digits");
 }
 
-TEST_F(Diagnosis, FindsIdentifiersOfRecs) {
+TEST_F(DiagnosisTest, FindsIdentifiersOfRecs) {
     EXPECT_EQ(ofRec("", ""), "2:1 " + recPath + ": Rec has no attribute RecID");
     EXPECT_EQ(ofRec(recId, ""), "2:1 " + recPath + ": Rec has no element RecGeometry");
     EXPECT_EQ(ofRec(recId + " MgmtZoneID='abc'", recGeometry),
@@ -172,7 +178,7 @@ TEST_F(Diagnosis, FindsIdentifiersOfRecs) {
               "3:1 " + recPath + "/Operation: Operation has no attribute OpID");
 }
 
-TEST_F(Diagnosis, FindsTheIdentifierOfABlend) {
+TEST_F(DiagnosisTest, FindsTheIdentifierOfABlend) {
     std::string blend = "<RecData><CustomFertilizer>\n<ProductID/><ProductName/><UOMID/><UOM/>"
                         "<SFertT_ID/><SpGravity/>";
     for (const std::string nutrient :
@@ -183,13 +189,13 @@ TEST_F(Diagnosis, FindsTheIdentifierOfABlend) {
               "3:1 " + recPath + "/RecData/CustomFertilizer/ProductID: ProductID is empty");
 }
 
-TEST_F(Diagnosis, ReportsTheIdentifierThatStopsTheLibraryFirst) {
+TEST_F(DiagnosisTest, ReportsTheIdentifierThatStopsTheLibraryFirst) {
     // The farm has no identifier either, but the library never comes to it.
     EXPECT_EQ(of("<RecPackage><Grower>\n<Farm/></Grower></RecPackage>"),
               "1:13 invalid uuid string: /RecPackage/Grower[1]: Grower has no attribute GrowerID");
 }
 
-TEST_F(Diagnosis, ExplainsThatAForeignNodeAfterAListIsReadAsAnItem) {
+TEST_F(DiagnosisTest, ExplainsThatAForeignNodeAfterAListIsReadAsAnItem) {
     EXPECT_EQ(
         of("<RecPackage><Grower GrowerID='" + uuidText + "'><Farm FarmID='" + uuidText +
            "'/>\n<GrowerName>Hansen</GrowerName></Grower></RecPackage>"),
@@ -200,7 +206,7 @@ TEST_F(Diagnosis, ExplainsThatAForeignNodeAfterAListIsReadAsAnItem) {
               "first Grower and is read as one too, but has no readable GrowerID");
 }
 
-TEST_F(Diagnosis, CutsLongTexts) {
+TEST_F(DiagnosisTest, CutsLongTexts) {
     EXPECT_EQ(of("<" + std::string(100000, 'a') + "/>"),
               "1:1 the root element is \"" + std::string(60, 'a') + "...\" instead of RecPackage");
     const std::string text(100, '-');
@@ -209,7 +215,7 @@ TEST_F(Diagnosis, CutsLongTexts) {
                   std::string(59, '-') + "...\" lacks the closing brace after its last digit");
 }
 
-TEST_F(Diagnosis, AdmitsThatItFindsNothingWrong) {
+TEST_F(DiagnosisTest, AdmitsThatItFindsNothingWrong) {
     EXPECT_EQ(of("<RecPackage/>"),
               "could not be read, but nothing is wrong with it now; it may have changed meanwhile");
 }
@@ -224,6 +230,40 @@ TEST(PackageReading, KeepsTheGrowersBeforeAFailure) {
     ASSERT_TRUE(reading.failure);
     EXPECT_EQ(reading.failure->reason,
               "invalid uuid string: /RecPackage/Grower[2]: Grower has no attribute GrowerID");
+}
+
+/// How often a file is opened from now on.
+class OpenCount {
+public:
+    explicit OpenCount(const std::string& path) : watch_(inotify_init1(IN_NONBLOCK)) {
+        // Of equal events in succession only one is told, so there must be others between them.
+        EXPECT_GE(inotify_add_watch(watch_.number(), path.c_str(), IN_OPEN | IN_CLOSE_NOWRITE), 0);
+    }
+
+    int count() const {
+        int opened = 0;
+        inotify_event event{}; // without a name: it is the file itself that is watched
+        while (read(watch_.number(), &event, sizeof event) == sizeof event)
+            opened += (event.mask & IN_OPEN) != 0 ? 1 : 0;
+        return opened;
+    }
+
+private:
+    Descriptor watch_;
+};
+
+TEST(PackageReading, ReadsABrokenFileOnceForAllButTheLibrary) {
+    const test::TemporaryFolder folder;
+    const std::string path = folder.writePackage("<RecPackage><Grower GrowerID='" + uuidText +
+                                                 "'/>\n<Grower/><Grower/></RecPackage>");
+    const OpenCount opened(path);
+    FindingCollection findings;
+    const PackageReading reading = readPackage(PackageInput(path), &findings);
+    EXPECT_EQ(findings.counts().of(FindingCode::GrowerId), 2U);
+    ASSERT_TRUE(reading.failure);
+    EXPECT_EQ(reading.failure->position->line, 2U);
+    EXPECT_EQ(reading.gaps.size(), 1U);
+    EXPECT_EQ(opened.count(), 2); // The library opens it itself.
 }
 
 TEST(PackageReading, FailsInNothingForAGoodPackage) {
