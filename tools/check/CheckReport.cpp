@@ -1,5 +1,7 @@
 #include "tools/check/CheckReport.h"
 
+#include <algorithm>
+
 #include <fmt/format.h>
 
 #include "tools/text/Escape.h"
@@ -11,13 +13,33 @@ void CheckReport::add(FindingCode code, Extent extent, std::string_view step,
         Details details = make();
         if (error)
             details.consequence = errorConsequence();
-        sink_.add({code, std::move(details.found), std::move(details.consequence),
-                   source_.location(extent), path(step), records_});
+        Finding finding{code,
+                        std::move(details.found),
+                        std::move(details.consequence),
+                        source_.location(extent),
+                        path(step),
+                        records_};
+        if (held_)
+            held_->push_back(std::move(finding));
+        else
+            sink_.add(finding);
     } else {
         sink_.addCode(code);
     }
     if (error)
         noteError(extent.offset);
+}
+
+void CheckReport::inOrder(const std::function<void()>& checks) {
+    held_.emplace();
+    checks();
+    std::vector<Finding> findings = std::move(*held_);
+    held_.reset();
+    std::stable_sort(findings.begin(), findings.end(), [](const Finding& a, const Finding& b) {
+        return a.location->extent.offset < b.location->extent.offset;
+    });
+    for (const Finding& finding : findings)
+        sink_.add(finding);
 }
 
 void CheckReport::noteError(std::size_t offset) {

@@ -42,6 +42,10 @@ public:
         add(code, source_.extent(node), step, make);
     }
 
+    /// Does several checks of one value, whose findings are put in the order of the file. There are
+    /// few of them.
+    void inOrder(const std::function<void()>& checks);
+
     /// The check comes to the next grower.
     void beginGrower() { ++grower_; }
 
@@ -92,7 +96,8 @@ private:
     FindingSink& sink_;
     std::vector<std::pair<const char*, std::size_t>> path_;
     std::vector<RecordName> records_;
-    std::size_t grower_ = 0; ///< Number of the grower, from 1.
+    std::optional<std::vector<Finding>> held_; ///< While they are put in order.
+    std::size_t grower_ = 0;                   ///< Number of the grower, from 1.
     std::size_t errors_ = 0;
     std::optional<std::size_t> firstError_;
     std::size_t growerOfFirstError_ = 0;

@@ -168,8 +168,10 @@ void ElementCheck::attributes(const std::vector<DatumFormat>& known, pugi::xml_n
             onKnown(attribute);
         const Extent extent = report_.source().extent(node, attribute);
         const std::string step = fmt::format("@{}", attribute.name());
-        checkCharacters(report_, extent, attribute.value(), step);
-        values_.check(*datum, attribute.value(), extent, step);
+        report_.inOrder([&] {
+            checkCharacters(report_, extent, attribute.value(), step);
+            values_.check(*datum, attribute.value(), extent, step);
+        });
     }
 }
 
@@ -243,9 +245,11 @@ void ElementCheck::value(const DatumFormat& datum, pugi::xml_node node) {
     const auto readHeld = [&] {
         const SourceText& source = report_.source();
         const Extent extent = held ? source.wholeText(held) : source.extent(node);
-        if (held.type() == pugi::node_pcdata) // In a CDATA section, "&" is a letter.
-            checkCharacters(report_, extent, held.value(), "");
-        values_.check(datum, held.value(), extent, "");
+        report_.inOrder([&] {
+            if (held.type() == pugi::node_pcdata) // In a CDATA section, "&" is a letter.
+                checkCharacters(report_, extent, held.value(), "");
+            values_.check(datum, held.value(), extent, "");
+        });
     };
     // In the order of the file: what is said of a text that is not there, is said of the element.
     if (!held)

@@ -92,8 +92,14 @@ std::vector<OddReference> oddReferences(std::string_view value) {
          at = value.find('&', at + 1)) {
         const auto reference = referenceAt(value.substr(at));
         const auto fate = reference ? fateOf(*reference) : std::nullopt;
-        if (fate)
+        if (!fate)
+            continue;
+        const auto first = std::find_if(
+            odd.begin(), odd.end(), [&](const OddReference& other) { return other.fate == *fate; });
+        if (first == odd.end())
             odd.push_back({at, value.substr(at, reference->size() + 2), *fate});
+        else
+            ++first->more;
     }
     return odd;
 }

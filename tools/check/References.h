@@ -18,10 +18,11 @@ struct OddReference {
     std::size_t offset; ///< In the value, of its "&".
     std::string_view text;
     ReferenceFate fate;
+    std::size_t more = 0; ///< How many of the same fate follow in the value.
 };
 
-/// The odd references of a value, in order. A "&" that begins no reference is none: it reads as
-/// what a person sees in it.
+/// The odd references of a value, of each fate the first one, in order. A "&" that begins no
+/// reference is none: it reads as what a person sees in it.
 ///
 /// @param value of an attribute or a text, as it is written in the file
 std::vector<OddReference> oddReferences(std::string_view value);

@@ -25,19 +25,31 @@ FindingCode codeOf(ReferenceFate fate) {
     return FindingCode::ReferenceUnknown;
 }
 
-Details describe(const OddReference& reference, std::string_view value) {
-    const std::string text = escapeExcerpt(reference.text);
-    switch (reference.fate) {
+/// What is said of a reference of a fate.
+const char* predicate(ReferenceFate fate) {
+    switch (fate) {
     case ReferenceFate::EndsValue:
-        return {fmt::format("\"{}\" ends the value", text), ReadAs{escapeExcerpt(value)}};
+        return "ends the value";
     case ReferenceFate::GivesNoText:
-        return {fmt::format("\"{}\" stands for no character", text), Kept{}};
+        return "stands for no character";
     case ReferenceFate::GivesOther:
-        return {fmt::format("\"{}\" stands for a character that XML does not allow", text), Kept{}};
+        return "stands for a character that XML does not allow";
     case ReferenceFate::Stands:
         break;
     }
-    return {fmt::format("\"{}\" is no reference that XML knows", text), ReadAs{text}};
+    return "is no reference that XML knows";
+}
+
+Details describe(const OddReference& reference, std::string_view value) {
+    const std::string text = escapeExcerpt(reference.text);
+    const std::string more =
+        reference.more > 0 ? fmt::format("; {} more of the kind follow", reference.more) : "";
+    Details details{fmt::format("\"{}\" {}{}", text, predicate(reference.fate), more), Kept{}};
+    if (reference.fate == ReferenceFate::EndsValue)
+        details.consequence = ReadAs{escapeExcerpt(value)};
+    if (reference.fate == ReferenceFate::Stands)
+        details.consequence = ReadAs{text};
+    return details;
 }
 
 bool isControl(char c) {

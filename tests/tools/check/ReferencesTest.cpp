@@ -53,13 +53,14 @@ TEST(References, DoNotBeginWithEveryAmpersand) {
         EXPECT_TRUE(oddReferences(value).empty()) << value;
 }
 
-TEST(References, ComeInTheirOrder) {
-    const std::vector<OddReference> odd = oddReferences("&a;&amp;&#0;&&b;");
-    ASSERT_EQ(odd.size(), 3U);
+TEST(References, ComeInTheirOrderTheFirstOfEachFate) {
+    const std::vector<OddReference> odd = oddReferences("&a;&amp;&#0;&&b;&#0;&c;");
+    ASSERT_EQ(odd.size(), 2U);
     EXPECT_EQ(odd[0].text, "&a;");
+    EXPECT_EQ(odd[0].more, 2U);
     EXPECT_EQ(odd[1].text, "&#0;");
-    EXPECT_EQ(odd[2].text, "&b;");
-    EXPECT_EQ(odd[2].offset, 13U);
+    EXPECT_EQ(odd[1].offset, 8U);
+    EXPECT_EQ(odd[1].more, 1U);
 }
 
 } // namespace
