@@ -1,5 +1,7 @@
 #include "tools/report/Html.h"
 
+#include <algorithm>
+
 #include "tools/text/Escape.h"
 #include "tools/text/Utf8.h"
 
@@ -42,4 +44,14 @@ std::string html(std::string_view text) {
 
 std::string htmlName(std::string_view text) {
     return text.empty() ? "" : "<bdi>" + html(text) + "</bdi>";
+}
+
+std::string htmlWithCode(std::string_view text) {
+    std::string result;
+    for (bool isCode = false; !text.empty(); isCode = !isCode) {
+        const std::string part = html(text.substr(0, text.find('`')));
+        result += isCode ? "<code>" + part + "</code>" : part;
+        text.remove_prefix(std::min(text.find('`'), text.size() - 1) + 1);
+    }
+    return result;
 }

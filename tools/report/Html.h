@@ -15,6 +15,9 @@ std::string html(std::string_view text);
 /// change the direction of writing.
 std::string htmlOfEscaped(std::string_view text);
 
+/// A text of our own in which parts of packages stand between "`".
+std::string htmlWithCode(std::string_view text);
+
 /// A text whose direction of writing changes nothing outside of it.
 std::string htmlName(std::string_view text);
 

@@ -12,6 +12,7 @@
 #include "model/version.h"
 #include "parser/internal/TagConstants.h"
 #include "tools/files/PackageUuid.h"
+#include "tools/findings/Explanation.h"
 #include "tools/findings/FindingText.h"
 #include "tools/records/Centroid.h"
 #include "tools/records/ProductText.h"
@@ -224,6 +225,8 @@ private:
         sink_(fmt::format("<p>Consequence: {}</p>\n", htmlOfEscaped(consequenceText(finding))));
         if (const std::string records = recordsText(finding); !records.empty())
             sink_(fmt::format("<p>In: <bdi>{}</bdi></p>\n", htmlOfEscaped(records)));
+        sink_(
+            fmt::format("<p>What to do: {}</p>\n", htmlWithCode(explanationOf(finding.code).cure)));
         sink_("<p class=\"quiet\">");
         if (!finding.path.empty())
             sink_(fmt::format("<code>{}</code> ", htmlOfEscaped(finding.path)));

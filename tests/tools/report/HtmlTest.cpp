@@ -26,6 +26,14 @@ TEST(Html, EscapesWhatIsNotSeenAsATerminalDoes) {
     EXPECT_EQ(html("\uFEFF\u200B\u00AD"), "\\u{FEFF}\\u{200B}\\u{00AD}");
 }
 
+TEST(Html, ShowsPartsOfPackagesAsCode) {
+    EXPECT_EQ(htmlWithCode("Write `<a>` or `&`."),
+              "Write <code>&lt;a&gt;</code> or <code>&amp;</code>.");
+    EXPECT_EQ(htmlWithCode("`a`"), "<code>a</code>");
+    EXPECT_EQ(htmlWithCode("Write the name."), "Write the name.");
+    EXPECT_EQ(htmlWithCode(""), "");
+}
+
 // NOLINTBEGIN(misc-misleading-bidirectional): they are what the test is about
 TEST(Html, LetsNoTextChangeTheDirectionOfWriting) {
     EXPECT_EQ(html("\u202Aa\u202Eb"), "\\u{202A}a\\u{202E}b");

@@ -110,6 +110,7 @@ TEST(ReportPage, PutsTheWorstFindingsFirst) {
               page.find("<li class=\"warning\"><p><strong>Warning</strong>: second</p>"));
     EXPECT_LT(page.find("second"), page.find("<li class=\"note\"><p><strong>Note</strong>: third"));
     EXPECT_TRUE(contains(page, "<p>Consequence: hosts can show no name</p>"));
+    EXPECT_TRUE(contains(page, "<p>What to do: Write the name.</p>"));
 }
 
 TEST(ReportPage, CountsTheFindingsThatItDoesNotShow) {
