@@ -59,9 +59,18 @@ check_shell() { # SHELL
             grep -qxe "$word" <<<"$words" || fail "$1 does not offer $word after $subcommand"
         done
     done
-    words=$("offered_by_$1" qenxml export --format "")
-    [ "$1" = zsh ] || grep -qx geojson <<<"$words" || fail "$1 does not offer the formats"
+    check_formats "$1"
     check_codes "$1"
+}
+
+check_formats() { # SHELL
+    local words format
+    words=$("offered_by_$1" qenxml export --format "")
+    [ "$1" != zsh ] || words=$(sed -n 's/.*:format:(\(.*\)).*/\1/p' \
+        "$share/zsh/site-functions/_qenxml" | tr ' ' '\n')
+    for format in $formats; do
+        grep -qxe "$format" <<<"$words" || fail "$1 does not offer the format $format"
+    done
 }
 
 check_codes() { # SHELL
@@ -83,6 +92,9 @@ check_codes() { # SHELL
 [ "$(listed Commands | wc -l)" -ge 3 ] || fail "--help lists no commands"
 [ "$("$command" check --codes | wc -l)" -ge 50 ] || fail "check --codes lists no codes"
 [ "$(listed Options export | wc -l)" -ge 7 ] || fail "export --help lists no options"
+
+formats=$("$command" export --help | sed -n '/^  --format FORMAT/{n; s/,//g; s/ or / /; s/^ *//p}')
+[ "$(wc -w <<<"$formats")" -ge 3 ] || fail "--help lists no formats"
 
 for shell in bash zsh fish; do
     if ! command -v "$shell" >/dev/null; then

@@ -35,9 +35,36 @@ check_page() { # NAME [COMMAND]
     done
 }
 
+check_formats() {
+    local page=$folder/qenxml-export.1 format
+    grep -qxF ".It Fl -format Cm ${formats// / | }" "$page" ||
+        fail "qenxml-export does not list the formats $formats"
+    for format in $formats; do
+        grep -qixF ".Ss $format" "$page" || fail "qenxml-export does not describe the format $format"
+    done
+}
+
+# Each code with each part of its explanation, wherever lines of the page end.
+check_exit_codes() { # NAME COMMAND
+    local status code explanation part
+    status=$(sed -n '/^\.Sh EXIT STATUS/,/^\.Sh EXAMPLES/p' "$folder/$1.1" |
+        mandoc -Tutf8 <(printf '.Dd 1\n.Dt X 1\n.Os\n'; cat) | sed 's/.\x08//g' | tr -s ' \n' ' ')
+    while read -r code explanation; do
+        grep -q " $code [A-Z]" <<<"$status" || fail "$1 does not know the exit code $code"
+        while read -r part; do
+            grep -qiF "$part" <<<"$status" || fail "$1 does not say of exit code $code: $part"
+        done <<<"${explanation//; /$'\n'}"
+    done < <("$command" "$2" --help | sed -n '/^Exit codes:/,$s/^  \([0-9]\)/\1/p')
+}
+
+formats=$("$command" export --help | sed -n '/^  --format FORMAT/{n; s/,//g; s/ or / /; s/^ *//p}')
+[ "$(wc -w <<<"$formats")" -ge 3 ] || fail "--help lists no formats"
+check_formats
+
 check_page qenxml
 for subcommand in $(listed Commands); do
     check_page "qenxml-$subcommand" "$subcommand"
+    check_exit_codes "qenxml-$subcommand" "$subcommand"
     grep -q "Xr qenxml-$subcommand 1" "$folder/qenxml.1" || fail "qenxml does not name $subcommand"
 done
 exit "$failed"

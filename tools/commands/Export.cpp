@@ -1,5 +1,6 @@
 #include "tools/commands/Export.h"
 
+#include <array>
 #include <map>
 #include <memory>
 #include <string>
@@ -20,6 +21,7 @@
 #include "tools/output/Output.h"
 #include "tools/records/MergedGrowers.h"
 #include "tools/text/Escape.h"
+#include "tools/text/Words.h"
 
 namespace {
 
@@ -28,10 +30,31 @@ constexpr const char* examples =
     "  qenxml export --format geojson --merge -o map.geojson *.xml   for a map\n"
     "  qenxml export --format json 00112233-4455-6677-8899-aabbccddeeff.xml | jq .packages[0]\n";
 
-using MakeFormat = std::unique_ptr<ExportFormat> (*)(TextSink);
+struct Format {
+    const char* name;
+    const char* title;
+    std::unique_ptr<ExportFormat> (*make)(TextSink);
+};
 
-const std::map<std::string, MakeFormat> formats = {
-    {"csv", makeCsvExport}, {"geojson", makeGeoJsonExport}, {"json", makeJsonExport}};
+/// All formats. The manual, the completions and the help follow.
+constexpr std::array formats = {Format{"json", "JSON", makeJsonExport},
+                                Format{"csv", "CSV", makeCsvExport},
+                                Format{"geojson", "GeoJSON", makeGeoJsonExport}};
+
+/// "json, csv or geojson", or the same by their titles.
+std::string listed(const char* Format::*name) {
+    std::vector<std::string> names;
+    for (const Format& format : formats)
+        names.emplace_back(format.*name);
+    return joined(names, " or ");
+}
+
+std::map<std::string, const Format*> formatsByName() {
+    std::map<std::string, const Format*> byName;
+    for (const Format& format : formats)
+        byName[format.name] = &format;
+    return byName;
+}
 
 struct ExportOptions {
     std::string format;
@@ -53,8 +76,9 @@ void exportPackage(PackageReading& reading, bool merge, ExportFormat& format, Me
 ExitCode exportPackages(const ExportOptions& options, Console& console) {
     requireUsable(options.packages, options.output);
     Output output(options.output, console);
-    const auto format =
-        formats.at(options.format)([&output](std::string_view text) { output.write(text); });
+    const auto format = formatsByName().at(options.format)->make([&output](std::string_view text) {
+        output.write(text);
+    });
     MergedGrowers merged;
     ExitCode result = ExitCode::Success;
     bool anyRead = false;
@@ -81,15 +105,16 @@ ExitCode exportPackages(const ExportOptions& options, Console& console) {
 
 Command addExport(CLI::App& application) {
     CLI::App* parser =
-        application.add_subcommand("export", "Write what packages hold as JSON, CSV or GeoJSON")
+        application
+            .add_subcommand("export", "Write what packages hold as " + listed(&Format::title))
             ->group("Commands");
     const auto options = std::make_shared<ExportOptions>();
     parser->formatter(std::make_shared<HelpFormatter>(examples));
     parser->footer(exitCodeHelp);
-    asGiven(parser->add_option("--format", options->format, "json, csv or geojson")
+    asGiven(parser->add_option("--format", options->format, listed(&Format::name))
                 ->required()
                 ->option_text("FORMAT")
-                ->transform(CLI::IsMember(&formats, CLI::ignore_case).description("")));
+                ->transform(CLI::IsMember(formatsByName(), CLI::ignore_case).description("")));
     parser->add_flag("--merge", options->merge, "Merge the growers of all packages into one tree");
     addOutputOption(*parser, options->output);
     addPackageOptions(*parser, options->packages);

@@ -1,23 +1,16 @@
 #include "tools/export/ExportCsv.h"
 
-#include <array>
 #include <cmath>
 #include <optional>
 #include <utility>
 
-#include <boost/uuid/uuid_io.hpp>
+#include <boost/uuid/uuid.hpp>
 
-#include "model/CommercialFertilizerRec.h"
-#include "model/CustomFertilizerRec.h"
-#include "model/PlantingRec.h"
-#include "parser/internal/TagConstants.h"
-#include "tools/records/ProductText.h"
+#include "tools/export/OutputFields.h"
 #include "tools/records/RecordWalk.h"
 #include "tools/text/Escape.h"
 #include "tools/text/NumberText.h"
 #include "tools/text/Utf8.h"
-
-namespace tag = qenxml::tag;
 
 namespace {
 
@@ -102,162 +95,14 @@ std::string inQuotes(std::string_view text) {
     return result + '"';
 }
 
-std::string csvNumber(double number) {
-    return std::isfinite(number) ? numberText(number) : csvText(numberText(number));
-}
-
-std::string csvIdentifier(const boost::uuids::uuid& id) {
-    return to_string(id);
-}
-
-/// An identifier that a package need not give; empty when it does not.
-std::string optionalIdentifier(const boost::uuids::uuid& id) {
-    return id.is_nil() ? "" : csvIdentifier(id);
-}
-
-/// What a row is made of.
-struct Row {
-    QenGrower& grower;
-    QenFarm& farm;
-    QenField& field;
-    LLA centroid;
-    QenRec& rec;
-    const MissingNumbers& missingFromCentroid;
-    const MissingNumbers& missingFromRec;
-
-    bool lacks(std::string_view number) const {
-        return missingFromRec.contains(number) || missingFromCentroid.contains(number);
+struct ToCell {
+    std::string operator()(std::monostate /*none*/) const { return ""; }
+    std::string operator()(const std::string& text) const { return csvText(text); }
+    std::string operator()(double number) const {
+        return std::isfinite(number) ? numberText(number) : csvText(numberText(number));
     }
-
-    /// The product if it is of a kind, or else null.
-    template <class Product>
-    Product* product(RecType type) const {
-        QenRecData* data = rec.recData();
-        return data != nullptr && data->recType() == type ? static_cast<Product*>(data) : nullptr;
-    }
-
-    PlantingRec* planting() const { return product<PlantingRec>(RecTypePlanting); }
-    CommercialFertilizerRec* fertilizer() const {
-        return product<CommercialFertilizerRec>(RecTypeCommercialFertilizer);
-    }
-    CustomFertilizerRec* blend() const {
-        return product<CustomFertilizerRec>(RecTypeCustomFertilizer);
-    }
-};
-
-struct Column {
-    const char* title = nullptr;
-    std::string (*cell)(const Row&) = nullptr;
-    const char* number = nullptr; ///< The name in a package of the number that the cell holds.
-};
-
-using R = const Row&;
-
-template <double (CustomFertilizerRec::*percentage)()>
-std::string nutrient(R row) {
-    CustomFertilizerRec* blend = row.blend();
-    return blend == nullptr ? "" : csvNumber((blend->*percentage)());
-}
-
-std::string productId(R row) {
-    if (row.fertilizer() != nullptr)
-        return std::to_string(row.fertilizer()->productId());
-    return row.blend() == nullptr ? "" : csvIdentifier(row.blend()->productId());
-}
-
-std::string productName(R row) {
-    if (row.fertilizer() != nullptr)
-        return csvText(row.fertilizer()->productName());
-    return row.blend() == nullptr ? "" : csvText(row.blend()->productName());
-}
-
-/// The cell of an integer that only plantings have.
-template <int (PlantingRec::*code)()>
-std::string plantingCode(R row) {
-    PlantingRec* planting = row.planting();
-    return planting == nullptr ? "" : std::to_string((planting->*code)());
-}
-
-/// The cell of a text that only plantings have.
-template <std::string (PlantingRec::*text)()>
-std::string plantingText(R row) {
-    PlantingRec* planting = row.planting();
-    return planting == nullptr ? "" : csvText((planting->*text)());
-}
-
-const std::array columns = {
-    Column{"package", [](R r) { return csvIdentifier(r.rec.xmlFileName()); }},
-    Column{"grower", [](R r) { return csvText(r.grower.name()); }},
-    Column{"farm", [](R r) { return csvText(r.farm.name()); }},
-    Column{"field", [](R r) { return csvText(r.field.name()); }},
-    Column{"rec", [](R r) { return csvText(r.rec.name()); }},
-    Column{"operation", [](R r) { return csvText(r.rec.operationName()); }},
-    Column{"season", [](R r) { return csvText(r.rec.seasonName()); }},
-    Column{"season_id",
-           [](R r) { return r.rec.seasonId() == -1 ? "" : std::to_string(r.rec.seasonId()); },
-           tag::SeasonID},
-    Column{"created", [](R r) { return csvText(r.rec.creationDate()); }},
-    Column{"edited", [](R r) { return csvText(r.rec.editDate()); }},
-    Column{"product_kind", [](R r) { return productKind(r.rec.recData()); }},
-    Column{"product_id", productId, tag::ProductID},
-    Column{"product", productName},
-    Column{"crop_id", plantingCode<&PlantingRec::cropId>, tag::CropID},
-    Column{"crop", plantingText<&PlantingRec::cropName>},
-    Column{"company_id", plantingCode<&PlantingRec::companyId>, tag::CompanyID},
-    Column{"company", plantingText<&PlantingRec::companyName>},
-    Column{"variety_id", plantingCode<&PlantingRec::varietyId>, tag::VarietyID},
-    Column{"variety", plantingText<&PlantingRec::varietyName>},
-    Column{"product_unit_id",
-           [](R r) {
-               const std::optional<Unit> unit = productUnit(r.rec.recData());
-               return unit ? std::to_string(unit->code) : "";
-           },
-           tag::UOMID},
-    Column{"product_unit",
-           [](R r) {
-               const std::optional<Unit> unit = productUnit(r.rec.recData());
-               return unit ? csvText(unit->text) : "";
-           }},
-    Column{"sfertt_id",
-           [](R r) { return r.blend() == nullptr ? "" : std::to_string(r.blend()->sFertT_ID()); },
-           tag::SFertT_ID},
-    Column{"specific_gravity", nutrient<&CustomFertilizerRec::spGravity>, tag::SpGravity},
-    Column{"pct_n", nutrient<&CustomFertilizerRec::pct_N>, tag::Pct_N},
-    Column{"pct_p", nutrient<&CustomFertilizerRec::pct_P>, tag::Pct_P},
-    Column{"pct_k", nutrient<&CustomFertilizerRec::pct_K>, tag::Pct_K},
-    Column{"pct_ca", nutrient<&CustomFertilizerRec::pct_Ca>, tag::Pct_Ca},
-    Column{"pct_mg", nutrient<&CustomFertilizerRec::pct_Mg>, tag::Pct_Mg},
-    Column{"pct_s", nutrient<&CustomFertilizerRec::pct_S>, tag::Pct_S},
-    Column{"pct_fe", nutrient<&CustomFertilizerRec::pct_Fe>, tag::Pct_Fe},
-    Column{"pct_mn", nutrient<&CustomFertilizerRec::pct_Mn>, tag::Pct_Mn},
-    Column{"pct_zn", nutrient<&CustomFertilizerRec::pct_Zn>, tag::Pct_Zn},
-    Column{"pct_cu", nutrient<&CustomFertilizerRec::pct_Cu>, tag::Pct_Cu},
-    Column{"pct_b", nutrient<&CustomFertilizerRec::pct_B>, tag::Pct_B},
-    Column{"pct_mo", nutrient<&CustomFertilizerRec::pct_Mo>, tag::Pct_Mo},
-    Column{"pct_cl", nutrient<&CustomFertilizerRec::pct_Cl>, tag::Pct_Cl},
-    Column{"minimum_rate", [](R r) { return csvNumber(r.rec.minimumRate()); }, tag::MinimumRate},
-    Column{"average_rate", [](R r) { return csvNumber(r.rec.averageRate()); }, tag::AverageRate},
-    Column{"maximum_rate", [](R r) { return csvNumber(r.rec.maximumRate()); }, tag::MaximumRate},
-    Column{"rate_unit_id", [](R r) { return std::to_string(r.rec.rateUomId()); }, tag::RateUOMID},
-    Column{"rate_unit", [](R r) { return csvText(r.rec.rateUom()); }},
-    Column{"total", [](R r) { return csvNumber(r.rec.total()); }, tag::Total},
-    Column{"total_unit_id", [](R r) { return std::to_string(r.rec.totalUomId()); },
-           tag::TotalUOMID},
-    Column{"total_unit", [](R r) { return csvText(r.rec.totalUom()); }},
-    Column{"area", [](R r) { return csvNumber(r.rec.area()); }, tag::Area},
-    Column{"area_unit_id", [](R r) { return std::to_string(r.rec.areaUomId()); }, tag::AreaUOMID},
-    Column{"area_unit", [](R r) { return csvText(r.rec.areaUom()); }},
-    Column{"latitude", [](R r) { return csvNumber(r.centroid.latitude); }, tag::Latitude},
-    Column{"longitude", [](R r) { return csvNumber(r.centroid.longitude); }, tag::Longitude},
-    Column{"dbf_column", [](R r) { return csvText(r.rec.recDbfCol()); }},
-    Column{"grower_id", [](R r) { return csvIdentifier(r.grower.id()); }},
-    Column{"farm_id", [](R r) { return csvIdentifier(r.farm.id()); }},
-    Column{"field_id", [](R r) { return csvIdentifier(r.field.id()); }},
-    Column{"rec_id", [](R r) { return csvIdentifier(r.rec.id()); }},
-    Column{"boundary_id", [](R r) { return csvIdentifier(r.rec.fieldGeometryId()); }},
-    Column{"rec_geometry", [](R r) { return csvIdentifier(r.rec.recGeometry()); }},
-    Column{"operation_id", [](R r) { return optionalIdentifier(r.rec.operationId()); }},
-    Column{"zone_id", [](R r) { return optionalIdentifier(r.rec.mgmtZoneId()); }},
+    std::string operator()(int number) const { return std::to_string(number); }
+    std::string operator()(bool value) const { return value ? "true" : "false"; }
 };
 
 class CsvExport : public ExportFormat {
@@ -266,9 +111,7 @@ public:
 
     void begin(bool /*merged*/) override {
         text_ = byteOrderMark;
-        for (const Column& column : columns)
-            cell(column, column.title);
-        sink_(text_);
+        write([](const OutputField& field) { return std::string(field.names.column); });
     }
 
     std::string package(PackageReading& reading) override {
@@ -283,26 +126,37 @@ public:
 
 private:
     std::string write(std::vector<QenGrower>& growers, const std::vector<GrowerGaps>& gaps) {
-        forEachRec(growers, gaps, [this](const FieldContext& context, QenRec& rec) {
-            write({context.grower, context.farm, context.field,
-                   context.field.centroid(rec.fieldGeometryId()), rec,
-                   context.gaps.ofGeometry(context.field, rec.fieldGeometryId()),
-                   context.missingFrom(rec)});
+        forEachRec(growers, gaps, [this](const FieldContext& around, QenRec& rec) {
+            const boost::uuids::uuid boundary = rec.fieldGeometryId();
+            OutputContext context{&around.grower,
+                                  &around.farm,
+                                  &around.field,
+                                  nullptr,
+                                  around.field.centroid(boundary),
+                                  &rec,
+                                  around.missingFrom(rec)};
+            context.missing.add(around.gaps.ofGeometry(around.field, boundary));
+            text_.clear();
+            write([&context](const OutputField& field) {
+                const std::optional<OutputValue> value = field.value(context);
+                return value ? std::visit(ToCell(), *value) : "";
+            });
         });
         return "";
     }
 
-    void write(const Row& row) {
-        text_.clear();
-        for (const Column& column : columns)
-            cell(column,
-                 column.number != nullptr && row.lacks(column.number) ? "" : column.cell(row));
+    /// Writes a row.
+    template <class Cell>
+    void write(Cell cell) {
+        std::string_view separator;
+        for (const OutputField& field : outputFields()) {
+            if (field.names.column == nullptr)
+                continue;
+            text_.append(separator).append(cell(field));
+            separator = ",";
+        }
+        text_ += "\r\n";
         sink_(text_);
-    }
-
-    void cell(const Column& column, std::string_view content) {
-        text_ += content;
-        text_ += &column == &columns.back() ? "\r\n" : ",";
     }
 
     TextSink sink_;

@@ -4,7 +4,7 @@
 #include <optional>
 #include <utility>
 
-#include <boost/uuid/uuid.hpp>
+#include <boost/uuid/uuid_io.hpp>
 #include <fmt/format.h>
 
 #include "tools/export/RecordJson.h"
@@ -71,21 +71,15 @@ private:
         else
             writer_.member("geometry", nullptr);
         writer_.beginObject("properties");
-        // The first one is what maps show beside a point.
-        writer_.member("name", jsonText(context.field.name()));
-        writer_.member("fieldId", jsonIdentifier(context.field.id()));
-        writer_.member("farmName", jsonText(context.farm.name()));
-        writer_.member("farmId", jsonIdentifier(context.farm.id()));
-        writer_.member("growerName", jsonText(context.grower.name()));
-        writer_.member("growerId", jsonIdentifier(context.grower.id()));
+        const OutputContext values{&context.grower, &context.farm, &context.field, &geometry,
+                                   centroid,        nullptr,       missing};
+        // The first one, the name of the field, is what maps show beside a point.
+        for (const Owner owner : {Owner::Field, Owner::Farm, Owner::Grower})
+            writeMembers(writer_, owner, values, &OutputNames::property);
         if (package_)
-            writer_.member("package", jsonIdentifier(*package_));
-        writer_.member("geometryId", jsonIdentifier(geometry.geometryId()));
-        writer_.member("geometryDate", jsonText(geometry.geometryDate()));
-        // A property "geometry" would be a second column of that name where properties and shapes
-        // become one table.
-        writer_.member("geometryFileId", jsonIdentifier(geometry.geometry()));
-        writeCentroid(writer_, centroid, missing);
+            writer_.member("package", to_string(*package_));
+        writeMembers(writer_, Owner::Geometry, values, &OutputNames::property);
+        writeCentroid(writer_, values);
         writeRecs(context, geometry.geometryId());
         writer_.endObject();
         writer_.endObject();
@@ -104,16 +98,14 @@ private:
     void writeRecs(const FieldContext& context, const boost::uuids::uuid& geometryId) {
         writer_.beginArray("recs");
         for (QenRec& rec : context.field.recs()) {
-            if (rec.fieldGeometryId() == geometryId)
-                writeElement(rec, context.missingFrom(rec));
+            if (rec.fieldGeometryId() != geometryId)
+                continue;
+            OutputContext values;
+            values.rec = &rec;
+            values.missing = context.missingFrom(rec);
+            writeRec(writer_, values);
         }
         writer_.endArray();
-    }
-
-    void writeElement(QenRec& rec, const MissingNumbers& missing) {
-        writer_.beginObject();
-        writeMembers(writer_, rec, missing);
-        writer_.endObject();
     }
 
     JsonWriter writer_;

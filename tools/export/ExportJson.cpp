@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include <boost/uuid/uuid_io.hpp>
+
 #include "tools/export/RecordJson.h"
 #include "tools/output/JsonWriter.h"
 #include "tools/records/RecordWalk.h"
@@ -23,7 +25,7 @@ public:
     std::string package(PackageReading& reading) override {
         writer_.beginObject();
         writer_.member("file", jsonText(reading.name));
-        writer_.member("uuid", reading.uuid ? jsonIdentifier(*reading.uuid) : Json());
+        writer_.member("uuid", reading.uuid ? Json(to_string(*reading.uuid)) : Json());
         write(reading.failure);
         if (!merged_)
             write(reading.growers, reading.gaps);
@@ -67,8 +69,9 @@ private:
 
     void write(QenGrower& grower, const GrowerGaps& gaps) {
         writer_.beginObject();
-        writer_.member("name", jsonText(grower.name()));
-        writer_.member("id", jsonIdentifier(grower.id()));
+        OutputContext context;
+        context.grower = &grower;
+        writeMembers(writer_, Owner::Grower, context);
         writer_.beginArray("farms");
         for (QenFarm& farm : grower.farms())
             write(farm, gaps);
@@ -78,9 +81,9 @@ private:
 
     void write(QenFarm& farm, const GrowerGaps& gaps) {
         writer_.beginObject();
-        writer_.member("name", jsonText(farm.name()));
-        writer_.member("id", jsonIdentifier(farm.id()));
-        writer_.member("growerId", jsonIdentifier(farm.growerId()));
+        OutputContext context;
+        context.farm = &farm;
+        writeMembers(writer_, Owner::Farm, context);
         writer_.beginArray("fields");
         for (QenField& field : farm.fields())
             write(field, gaps);
@@ -90,25 +93,27 @@ private:
 
     void write(QenField& field, const GrowerGaps& gaps) {
         writer_.beginObject();
-        writer_.member("name", jsonText(field.name()));
-        writer_.member("id", jsonIdentifier(field.id()));
-        writer_.member("growerId", jsonIdentifier(field.growerId()));
-        writer_.member("farmId", jsonIdentifier(field.farmId()));
+        OutputContext context;
+        context.field = &field;
+        writeMembers(writer_, Owner::Field, context);
         writer_.beginArray("geometries");
-        for (QenFieldGeometry& geometry : field.geometries())
-            writeElement(geometry, gaps.ofGeometry(field, geometry.geometryId()));
+        for (QenFieldGeometry& geometry : field.geometries()) {
+            context.geometry = &geometry;
+            context.centroid = geometry.centroid();
+            context.missing = gaps.ofGeometry(field, geometry.geometryId());
+            writer_.beginObject();
+            writeMembers(writer_, Owner::Geometry, context);
+            writeCentroid(writer_, context);
+            writer_.endObject();
+        }
         writer_.endArray();
         writer_.beginArray("recs");
-        for (QenRec& rec : field.recs())
-            writeElement(rec, gaps.ofRec(field, rec.id()));
+        for (QenRec& rec : field.recs()) {
+            context.rec = &rec;
+            context.missing = gaps.ofRec(field, rec.id());
+            writeRec(writer_, context);
+        }
         writer_.endArray();
-        writer_.endObject();
-    }
-
-    template <class Record>
-    void writeElement(Record& record, const MissingNumbers& missing) {
-        writer_.beginObject();
-        writeMembers(writer_, record, missing);
         writer_.endObject();
     }
 

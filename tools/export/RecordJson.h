@@ -1,26 +1,25 @@
 /// @file
-/// Records as JSON: what every accessor gives, under the accessor's name; null for a number, or an
-/// identifier of an operation or zone, that the package does not give.
+/// Records as JSON: null for what the package does not give.
 
 #ifndef QENXML_TOOLS_EXPORT_RECORDJSON_H
 #define QENXML_TOOLS_EXPORT_RECORDJSON_H
 
-#include <boost/uuid/uuid.hpp>
-#include <nlohmann/json.hpp>
-
-#include "model/QenField.h"
-#include "model/QenFieldGeometry.h"
-#include "model/QenRec.h"
+#include "tools/export/OutputFields.h"
 #include "tools/output/JsonWriter.h"
-#include "tools/records/MissingNumbers.h"
 
-nlohmann::ordered_json jsonIdentifier(const boost::uuids::uuid& id);
+nlohmann::ordered_json jsonValue(const OutputValue& value);
 
-/// Writes them as members of the object that is being written.
-void writeMembers(JsonWriter& writer, QenFieldGeometry& geometry, const MissingNumbers& missing);
-void writeMembers(JsonWriter& writer, QenRec& rec, const MissingNumbers& missing);
+/// Writes the fields of an owner as members of the object that is being written: in a tree, or of a
+/// feature.
+///
+/// @param name the name that they have there
+void writeMembers(JsonWriter& writer, Owner owner, const OutputContext& context,
+                  const char* OutputNames::*name = &OutputNames::key);
 
 /// Writes a centroid as such a member.
-void writeCentroid(JsonWriter& writer, const LLA& centroid, const MissingNumbers& missing);
+void writeCentroid(JsonWriter& writer, const OutputContext& context);
+
+/// Writes a rec as an element of an array.
+void writeRec(JsonWriter& writer, const OutputContext& context);
 
 #endif

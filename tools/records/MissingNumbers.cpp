@@ -62,6 +62,10 @@ void MissingNumbers::add(const ElementFormat& format, pugi::xml_node element) {
     }
 }
 
+void MissingNumbers::add(const MissingNumbers& other) {
+    names_.insert(names_.end(), other.names_.begin(), other.names_.end());
+}
+
 GrowerGaps GrowerGaps::of(pugi::xml_node element) {
     GrowerGaps gaps;
     for (pugi::xml_node farm = element.child(tag::Farm); farm; farm = farm.next_sibling())

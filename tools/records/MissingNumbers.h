@@ -36,6 +36,9 @@ public:
     /// @param element may be null: then all of its numbers are missing
     void add(const ElementFormat& format, pugi::xml_node element);
 
+    /// Adds those of another record.
+    void add(const MissingNumbers& other);
+
 private:
     std::vector<const char*> names_;
 };

@@ -1,48 +1,70 @@
 #include "tools/records/ProductText.h"
 
 #include <array>
-#include <cstddef>
-#include <utility>
 
 #include <fmt/format.h>
 
-#include "model/CommercialFertilizerRec.h"
-#include "model/PesticideRec.h"
-#include "model/PlantingRec.h"
+#include "model/internal/RecDataVisit.h"
 #include "parser/internal/TagConstants.h"
 
 namespace tag = qenxml::tag;
 
 namespace {
 
-/// Texts with commas between them; empty ones are left out.
-template <std::size_t N>
-std::string list(const std::array<std::string, N>& parts) {
-    std::string result;
-    for (const std::string& part : parts) {
-        if (!result.empty() && !part.empty())
-            result += ", ";
-        result += part;
-    }
-    return result;
+/// What a kind of product is called by people and by programs.
+struct KindName {
+    const char* text = "";
+    const char* key = "";
+};
+
+KindName nameOf(PlantingRec& /*planting*/) {
+    return {"planting", "planting"};
 }
 
-/// What is called for each kind of product.
-template <class Result, class Planting, class Fertilizer, class Blend, class Mix>
-Result byKind(QenRecData* data, Planting planting, Fertilizer fertilizer, Blend blend, Mix mix) {
-    switch (data == nullptr ? RecTypeNone : data->recType()) {
-    case RecTypePlanting:
-        return planting(static_cast<PlantingRec&>(*data));
-    case RecTypeCommercialFertilizer:
-        return fertilizer(static_cast<CommercialFertilizerRec&>(*data));
-    case RecTypeCustomFertilizer:
-        return blend(static_cast<CustomFertilizerRec&>(*data));
-    case RecTypePesticide:
-        return mix(static_cast<PesticideRec&>(*data));
-    case RecTypeNone:
-        break;
+KindName nameOf(CommercialFertilizerRec& /*fertilizer*/) {
+    return {"fertilizer", "commercialFertilizer"};
+}
+
+KindName nameOf(CustomFertilizerRec& /*blend*/) {
+    return {"blend", "customFertilizer"};
+}
+
+KindName nameOf(PesticideRec& /*mix*/) {
+    return {"pesticide mix", "pesticide"};
+}
+
+std::string productName(PlantingRec& planting) {
+    std::string name;
+    for (const std::string& part : {textOrCode(planting.cropName(), planting.cropId()),
+                                    textOrCode(planting.companyName(), planting.companyId()),
+                                    textOrCode(planting.varietyName(), planting.varietyId())}) {
+        if (!name.empty() && !part.empty())
+            name += ", ";
+        name += part;
     }
-    return Result();
+    return name;
+}
+
+std::string productName(CommercialFertilizerRec& fertilizer) {
+    return textOrCode(fertilizer.productName(), fertilizer.productId());
+}
+
+std::string productName(CustomFertilizerRec& blend) {
+    return blend.productName();
+}
+
+std::string productName(PesticideRec& mix) {
+    return mix.pesticideMixName();
+}
+
+/// What is called with the product, if there is one.
+template <class Result, class Visitor>
+Result visit(QenRecData* data, Visitor visitor) {
+    return data == nullptr ? Result() : qenxml::visitRecData(*data, visitor, Result());
+}
+
+KindName kindName(QenRecData* data) {
+    return visit<KindName>(data, [](auto& product) { return nameOf(product); });
 }
 
 } // namespace
@@ -54,29 +76,15 @@ std::string textOrCode(const std::string& text, int code) {
 }
 
 std::string productKind(QenRecData* data) {
-    const auto always = [](const char* kind) { return [kind](QenRecData&) { return kind; }; };
-    return byKind<std::string>(data, always("planting"), always("fertilizer"), always("blend"),
-                               always("pesticide mix"));
+    return kindName(data).text;
+}
+
+std::string productKindKey(QenRecData* data) {
+    return kindName(data).key;
 }
 
 std::string productName(QenRecData* data) {
-    return byKind<std::string>(
-        data,
-        [](PlantingRec& planting) {
-            return list(std::array{textOrCode(planting.cropName(), planting.cropId()),
-                                   textOrCode(planting.companyName(), planting.companyId()),
-                                   textOrCode(planting.varietyName(), planting.varietyId())});
-        },
-        [](CommercialFertilizerRec& fertilizer) {
-            return textOrCode(fertilizer.productName(), fertilizer.productId());
-        },
-        [](CustomFertilizerRec& blend) { return blend.productName(); },
-        [](PesticideRec& mix) { return mix.pesticideMixName(); });
-}
-
-std::optional<Unit> productUnit(QenRecData* data) {
-    const auto unit = [](auto& product) { return Unit{product.uom(), product.uomId()}; };
-    return byKind<std::optional<Unit>>(data, unit, unit, unit, unit);
+    return visit<std::string>(data, [](auto& product) { return productName(product); });
 }
 
 std::string blendContent(CustomFertilizerRec& blend, const MissingNumbers& missing) {

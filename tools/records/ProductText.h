@@ -4,18 +4,11 @@
 #ifndef QENXML_TOOLS_RECORDS_PRODUCTTEXT_H
 #define QENXML_TOOLS_RECORDS_PRODUCTTEXT_H
 
-#include <optional>
 #include <string>
 
 #include "model/CustomFertilizerRec.h"
 #include "model/QenRecData.h"
 #include "tools/records/MissingNumbers.h"
-
-/// A unit of measure.
-struct Unit {
-    std::string text;
-    int code = 0;
-};
 
 /// What a pair of a code and a text means to a reader: the text, or else "code 7". Empty when
 /// neither says anything: packages that do not give a code are read as 0, new records have -1.
@@ -24,11 +17,12 @@ std::string textOrCode(const std::string& text, int code);
 /// "planting", "fertilizer", "blend" or "pesticide mix"; empty for null, as in the others.
 std::string productKind(QenRecData* data);
 
+/// The same as a program reads it: "planting", "commercialFertilizer", "customFertilizer" or
+/// "pesticide".
+std::string productKindKey(QenRecData* data);
+
 /// What the product is called, such as "Corn, Quillmark Seed, QM 4417".
 std::string productName(QenRecData* data);
-
-/// The unit of the product.
-std::optional<Unit> productUnit(QenRecData* data);
 
 /// "specific gravity 1.2; N 20%, K 5%"; of the numbers those that the package gives.
 std::string blendContent(CustomFertilizerRec& blend, const MissingNumbers& missing);

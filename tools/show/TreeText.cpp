@@ -8,10 +8,7 @@
 #include <boost/uuid/uuid_io.hpp>
 #include <fmt/format.h>
 
-#include "model/CommercialFertilizerRec.h"
-#include "model/CustomFertilizerRec.h"
-#include "model/PesticideRec.h"
-#include "model/PlantingRec.h"
+#include "model/internal/RecDataVisit.h"
 #include "parser/internal/TagConstants.h"
 #include "tools/records/ProductText.h"
 #include "tools/text/Escape.h"
@@ -138,23 +135,15 @@ private:
     }
 
     void writeProduct(QenRecData* data, const MissingNumbers& missing) {
-        const RecType type = data == nullptr ? RecTypeNone : data->recType();
-        switch (type) {
-        case RecTypePlanting:
-            return writeProduct(static_cast<PlantingRec&>(*data));
-        case RecTypeCommercialFertilizer:
-            return writeProduct(static_cast<CommercialFertilizerRec&>(*data));
-        case RecTypeCustomFertilizer:
-            return writeProduct(static_cast<CustomFertilizerRec&>(*data), missing);
-        case RecTypePesticide:
-            return writeProduct(static_cast<PesticideRec&>(*data));
-        case RecTypeNone:
-            break;
-        }
-        property("product", style_.remark("no product data"));
+        const auto write = [&](auto& product) {
+            writeProduct(product, missing);
+            return true;
+        };
+        if (data == nullptr || !qenxml::visitRecData(*data, write, false))
+            property("product", style_.remark("no product data"));
     }
 
-    void writeProduct(PlantingRec& planting) {
+    void writeProduct(PlantingRec& planting, const MissingNumbers& /*missing*/) {
         product(
             "planting",
             {labelled("crop", escapedTextOrCode(planting.cropName(), planting.cropId())),
@@ -163,7 +152,7 @@ private:
              labelled("unit", escapedTextOrCode(planting.uom(), planting.uomId()))});
     }
 
-    void writeProduct(CommercialFertilizerRec& fertilizer) {
+    void writeProduct(CommercialFertilizerRec& fertilizer, const MissingNumbers& /*missing*/) {
         product("fertilizer",
                 {escapedTextOrCode(fertilizer.productName(), fertilizer.productId()),
                  labelled("unit", escapedTextOrCode(fertilizer.uom(), fertilizer.uomId()))});
@@ -177,7 +166,7 @@ private:
         property("", blendContent(blend, missing));
     }
 
-    void writeProduct(PesticideRec& mix) {
+    void writeProduct(PesticideRec& mix, const MissingNumbers& /*missing*/) {
         product("pesticide mix", {escape(mix.pesticideMixName()),
                                   labelled("unit", escapedTextOrCode(mix.uom(), mix.uomId()))});
     }
