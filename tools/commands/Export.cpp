@@ -44,6 +44,7 @@ constexpr std::array formats = {Format{"json", "JSON", makeJsonExport},
 /// "json, csv or geojson", or the same by their titles.
 std::string listed(const char* Format::*name) {
     std::vector<std::string> names;
+    names.reserve(formats.size());
     for (const Format& format : formats)
         names.emplace_back(format.*name);
     return joined(names, " or ");

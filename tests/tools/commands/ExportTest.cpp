@@ -251,6 +251,7 @@ TEST_F(WritingCommand, TakesTheNameOfAFormatInAnyCase) {
     }
 }
 
+// NOLINTBEGIN(misc-misleading-bidirectional): they are what the test is about
 TEST_F(WritingCommand, ShowsATerminalNothingThatItMightActOnOrHide) {
     const std::string texts = "\x7F\xC2\x9B\u202E\u200B\uFEFF\U000E0041&#13;x";
     folder_.write(name,
@@ -272,6 +273,7 @@ TEST_F(WritingCommand, ShowsATerminalNothingThatItMightActOnOrHide) {
             EXPECT_EQ(output.find(unseen), std::string::npos) << command.back();
     }
 }
+// NOLINTEND(misc-misleading-bidirectional)
 
 TEST_F(WritingCommand, ReportsAFullDisk) {
     folder_.write(name, package);

@@ -14,6 +14,7 @@
 
 #include "model/PesticideRec.h"
 #include "tests/support/FileFacts.h"
+#include "tests/support/PackageText.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/Uuids.h"
 #include "tests/support/Xml.h"
@@ -130,7 +131,7 @@ std::vector<ExpectedProduct> expectedProducts() {
         std::string column = "pct_" + symbol;
         std::transform(column.begin(), column.end(), column.begin(),
                        [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-        products[2].content += "<" + element + ">" + value + "</" + element + ">";
+        products[2].content += test::element(element, value);
         products[2].fields.push_back({product, "pct_" + symbol, "", column, value, element});
     }
     for (ExpectedProduct& expected : products) {

@@ -130,7 +130,7 @@ TEST(ReportPage, PutsThePlaceOfAFieldUnderItsHeading) {
                          "<h5><bdi>Field</bdi></h5>\n<p class=\"place\"><span class=\"id\">"));
 }
 
-// NOLINTNEXTLINE(misc-misleading-bidirectional): it is what the test is about
+// NOLINTBEGIN(misc-misleading-bidirectional): they are what the test is about
 TEST(ReportPage, ShowsWhatWouldTurnTheDirectionOfAnyText) {
     const std::string bad = "a\u202Eb\u2066c\u200F";
     QenRec rec = recOf(5, 1.0, bad);
@@ -158,5 +158,6 @@ TEST(ReportPage, ShowsWhatWouldTurnTheDirectionOfAnyText) {
     for (const std::string before : {"<h6><bdi>", "<h5><bdi>", "<title>\u2068", "Folder: <bdi>"})
         EXPECT_TRUE(contains(page, before + shown)) << page;
 }
+// NOLINTEND(misc-misleading-bidirectional)
 
 } // namespace
