@@ -191,7 +191,7 @@ void ElementCheck::unknownAttribute(pugi::xml_node node, pugi::xml_attribute att
     const FindingCode code =
         nearest.empty() ? FindingCode::UnknownAttribute : FindingCode::MisspeltAttribute;
     report_.add(code, nameExtent(node, attribute), fmt::format("@{}", name), [&] {
-        const std::string places = nearest.empty() ? placesOf(name) : "";
+        const std::string places = nearest.empty() ? locationsOf(name) : "";
         std::string found =
             fmt::format("{} is no attribute of {}", quoted(name), escapeExcerpt(node.name()));
         if (!nearest.empty())
@@ -206,7 +206,7 @@ void ElementCheck::unknownElement(const ElementFormat& format, pugi::xml_node no
                                   std::size_t number, const std::vector<const char*>& absent,
                                   bool beforeList) {
     const std::string_view name = node.name();
-    const std::string places = placesOf(name);
+    const std::string places = locationsOf(name);
     const std::string_view nearest = !places.empty() ? "" : nearestName(name, absent);
     const bool isItem =
         format.item != nullptr &&

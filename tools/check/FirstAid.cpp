@@ -74,7 +74,7 @@ std::optional<FirstAid> emptiness(std::string_view text) {
 }
 
 std::optional<FirstAid> knownFormat(std::string_view text) {
-    const auto known =
+    const auto* const known =
         std::find_if(beginnings.begin(), beginnings.end(), [&](const Beginning& other) {
             return text.substr(0, other.bytes.size()) == other.bytes;
         });

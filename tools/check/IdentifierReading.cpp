@@ -15,12 +15,12 @@ IdentifierReading readIdentifier(std::string_view text) {
     IdentifierReading reading;
     const auto countWrongDigit = [&](std::size_t offset) {
         if (characterStart(text, offset) == offset && reading.wrongDigits++ == 0)
-            reading.wrongPlace = offset;
+            reading.wrongOffset = offset;
     };
     const auto explained = qenxml::explainIdentifier(text, countWrongDigit);
     reading.fault = explained.fault;
     reading.digits = explained.digits;
-    reading.faultPlace = explained.end;
+    reading.faultOffset = explained.end;
     reading.value = explained.value;
     if (text.find_first_not_of(whiteSpace, explained.end) != std::string_view::npos)
         reading.ignored = text.substr(characterStart(text, explained.end));

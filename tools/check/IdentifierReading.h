@@ -15,10 +15,10 @@ struct IdentifierReading {
 
     Fault fault = Fault::None;   ///< Why the library refuses the text, if it does.
     std::size_t digits = 0;      ///< How many digits come before the fault.
-    std::size_t faultPlace = 0;  ///< Where in the text the fault is.
+    std::size_t faultOffset = 0; ///< Where in the text the fault is.
     boost::uuids::uuid value{};  ///< Without a fault: the UUID.
     std::size_t wrongDigits = 0; ///< Without a fault: how many characters in it are no digits.
-    std::size_t wrongPlace = 0;  ///< Where the first of them is.
+    std::size_t wrongOffset = 0; ///< Where the first of them is.
     std::string_view ignored;    ///< Without a fault: what follows, unless it is white space. With
                                  ///< the whole of a character that the last digit is a part of.
 };

@@ -57,28 +57,28 @@ bool isRest(const char* text) {
     return text[std::strspn(text, whiteSpace)] != '\0';
 }
 
-/// Finds the oddity of a text of which a number was read.
+/// Finds the fault of a text of which a number was read.
 /// @param length how much of it the number takes; 0 when there is none
 /// @param inRange whether the number is the one that is written
 void findOddity(NumberReading& number, const char* text, std::size_t length, bool inRange) {
     if (*text == '\0') {
-        number.oddity = NumberReading::Oddity::Empty;
+        number.fault = NumberReading::Fault::Empty;
     } else if (length == 0) {
-        number.oddity = NumberReading::Oddity::NotANumber;
+        number.fault = NumberReading::Fault::NotANumber;
     } else if (isRest(text + length)) {
-        number.oddity = NumberReading::Oddity::CutOff;
-        number.place = length;
+        number.fault = NumberReading::Fault::CutOff;
+        number.offset = length;
     } else if (!inRange) {
-        number.oddity = NumberReading::Oddity::OutOfRange;
+        number.fault = NumberReading::Fault::OutOfRange;
     } else if (!std::isfinite(number.value)) {
-        number.oddity = NumberReading::Oddity::NotFinite;
+        number.fault = NumberReading::Fault::NotFinite;
     } else if (isHexadecimal(text)) {
-        number.oddity = NumberReading::Oddity::Hexadecimal;
+        number.fault = NumberReading::Fault::Hexadecimal;
     }
-    const bool ofAll = number.oddity != NumberReading::Oddity::None &&
-                       number.oddity != NumberReading::Oddity::CutOff;
+    const bool ofAll =
+        number.fault != NumberReading::Fault::None && number.fault != NumberReading::Fault::CutOff;
     if (ofAll && isRest(text))
-        number.place = std::strspn(text, whiteSpace);
+        number.offset = std::strspn(text, whiteSpace);
 }
 
 } // namespace

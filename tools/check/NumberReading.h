@@ -6,7 +6,7 @@
 
 /// What the library makes of the text of a number, and what is odd about it.
 struct NumberReading {
-    enum class Oddity {
+    enum class Fault {
         None,
         Empty,
         NotANumber,
@@ -16,10 +16,10 @@ struct NumberReading {
         Hexadecimal, ///< Begins with "0x".
     };
 
-    Oddity oddity = Oddity::None;
-    double value = 0;      ///< What is read.
-    std::string read;      ///< What is read, as a text.
-    std::size_t place = 0; ///< Where in the text the oddity is.
+    Fault fault = Fault::None;
+    double value = 0;       ///< What is read.
+    std::string read;       ///< What is read, as a text.
+    std::size_t offset = 0; ///< Where in the text the fault is.
 };
 
 /// A number with a fraction.

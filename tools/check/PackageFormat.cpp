@@ -176,7 +176,7 @@ const std::vector<const ElementFormat*>& all() {
 
 } // namespace format
 
-std::string placesOf(std::string_view name) {
+std::string locationsOf(std::string_view name) {
     std::string places;
     const auto add = [&](const char* how, const ElementFormat& format) {
         places += places.empty() ? "" : " or ";

@@ -53,6 +53,6 @@ const std::vector<const ElementFormat*>& all();
 
 /// The elements in which a name is read, as an element or as an attribute: "Rec or Field"; empty
 /// when there are none.
-std::string placesOf(std::string_view name);
+std::string locationsOf(std::string_view name);
 
 #endif

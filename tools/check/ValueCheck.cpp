@@ -45,7 +45,7 @@ void ValueCheck::identifier(const DatumFormat& datum, std::string_view text, Ext
     const IdentifierReading identifier = readIdentifier(text);
     if (identifier.fault != IdentifierReading::Fault::None) {
         if (datum.fault && !(datum.mayBeEmpty && text.empty()))
-            report_.add(*datum.fault, restOf(extent, text, identifier.faultPlace), step, [&] {
+            report_.add(*datum.fault, restOf(extent, text, identifier.faultOffset), step, [&] {
                 return Details{fmt::format("{} {}", datum.name, describeFault(identifier, text))};
             });
         return;
@@ -57,10 +57,10 @@ void ValueCheck::identifier(const DatumFormat& datum, std::string_view text, Ext
             return Details{fmt::format("{} is nil, which stands for \"none\"", datum.name), Kept{}};
         });
     if (identifier.wrongDigits > 0) {
-        const std::string_view wrong = text.substr(identifier.wrongPlace);
+        const std::string_view wrong = text.substr(identifier.wrongOffset);
         const std::size_t length = firstCharacter(wrong).length;
         report_.add(FindingCode::IdentifierDigit,
-                    partOf(extent, text, identifier.wrongPlace, length), step, [&] {
+                    partOf(extent, text, identifier.wrongOffset, length), step, [&] {
                         const std::string others =
                             identifier.wrongDigits > 1
                                 ? fmt::format(", nor {} {} more",
@@ -84,33 +84,33 @@ void ValueCheck::identifier(const DatumFormat& datum, std::string_view text, Ext
 
 void ValueCheck::number(const DatumFormat& datum, const char* text, Extent extent,
                         std::string_view step) {
-    using Oddity = NumberReading::Oddity;
+    using Fault = NumberReading::Fault;
     const NumberReading number =
         datum.kind == qenxml::format::Kind::Integer ? readInteger(text) : readNumber(text);
     const auto add = [&](FindingCode code, const char* what) {
-        report_.add(code, restOf(extent, text, number.place), step, [&] {
+        report_.add(code, restOf(extent, text, number.offset), step, [&] {
             const std::string value = *text == '\0' ? "" : " " + quotedText(text);
             return Details{fmt::format("{}{} {}", datum.name, value, what),
                            ReadAs{number.read, incomplete_}};
         });
     };
-    switch (number.oddity) {
-    case Oddity::None:
+    switch (number.fault) {
+    case Fault::None:
         return;
-    case Oddity::Empty:
+    case Fault::Empty:
         return add(FindingCode::NumberEmpty, "is empty");
-    case Oddity::NotANumber:
+    case Fault::NotANumber:
         return add(FindingCode::NotANumber, "is not a number");
-    case Oddity::CutOff:
+    case Fault::CutOff:
         return add(FindingCode::NumberCutOff,
-                   text[number.place] == ','   ? "has a comma, where the number ends"
-                   : text[number.place] == '.' ? "is not a whole number"
-                                               : "goes on after the number");
-    case Oddity::OutOfRange:
+                   text[number.offset] == ','   ? "has a comma, where the number ends"
+                   : text[number.offset] == '.' ? "is not a whole number"
+                                                : "goes on after the number");
+    case Fault::OutOfRange:
         return add(FindingCode::NumberOutOfRange, "is out of range");
-    case Oddity::NotFinite:
+    case Fault::NotFinite:
         return add(FindingCode::NumberNotFinite, "is not a finite number");
-    case Oddity::Hexadecimal:
+    case Fault::Hexadecimal:
         return add(FindingCode::NumberHexadecimal, "is a hexadecimal number");
     }
 }

@@ -12,30 +12,30 @@ bool wantsColour(bool terminal, const char* noColor, const char* term) {
 // backgrounds.
 
 std::string Style::kind(std::string_view text) const {
-    return dressed("36", text); // cyan
+    return styled("36", text); // cyan
 }
 
 std::string Style::name(std::string_view text) const {
-    return dressed("1", text); // bold
+    return styled("1", text); // bold
 }
 
 std::string Style::label(std::string_view text) const {
-    return dressed("2", text); // dim
+    return styled("2", text); // dim
 }
 
 std::string Style::identifier(std::string_view text) const {
-    return dressed("2", text); // dim
+    return styled("2", text); // dim
 }
 
 std::string Style::error(std::string_view text) const {
-    return dressed("1;31", text); // bold red
+    return styled("1;31", text); // bold red
 }
 
 std::string Style::remark(std::string_view text) const {
-    return dressed("33", text); // yellow
+    return styled("33", text); // yellow
 }
 
-std::string Style::dressed(const char* attributes, std::string_view text) const {
+std::string Style::styled(const char* attributes, std::string_view text) const {
     if (!coloured_)
         return std::string(text);
     return fmt::format("\x1b[{}m{}\x1b[0m", attributes, text);

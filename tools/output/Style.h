@@ -24,7 +24,7 @@ public:
     std::string remark(std::string_view text) const;     ///< What the reader should not miss.
 
 private:
-    std::string dressed(const char* attributes, std::string_view text) const;
+    std::string styled(const char* attributes, std::string_view text) const;
 
     bool coloured_;
 };

@@ -18,8 +18,8 @@ bool isNumber(qenxml::format::Kind kind) {
 bool holdsNumber(qenxml::format::Kind kind, const char* text) {
     const NumberReading number =
         kind == qenxml::format::Kind::Integer ? readInteger(text) : readNumber(text);
-    return number.oddity != NumberReading::Oddity::Empty &&
-           number.oddity != NumberReading::Oddity::NotANumber;
+    return number.fault != NumberReading::Fault::Empty &&
+           number.fault != NumberReading::Fault::NotANumber;
 }
 
 boost::uuids::uuid identifier(const char* text) {

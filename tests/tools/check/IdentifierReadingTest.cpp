@@ -44,16 +44,16 @@ TEST(IdentifierReading, SaysWhichRuleATextBreaks) {
 }
 
 TEST(IdentifierReading, SaysWhereTheFaultIs) {
-    EXPECT_EQ(readIdentifier("00112233-44556677-8899-aabbccddeeff").faultPlace, 13U);
-    EXPECT_EQ(readIdentifier("{" + canonical + " }").faultPlace, 37U);
-    EXPECT_EQ(readIdentifier("12").faultPlace, 2U);
+    EXPECT_EQ(readIdentifier("00112233-44556677-8899-aabbccddeeff").faultOffset, 13U);
+    EXPECT_EQ(readIdentifier("{" + canonical + " }").faultOffset, 37U);
+    EXPECT_EQ(readIdentifier("12").faultOffset, 2U);
 }
 
 TEST(IdentifierReading, CountsTheCharactersThatAreNoDigits) {
     const IdentifierReading identifier = readIdentifier("0011223g-4455-6677-8899-aabbccddee-x");
     EXPECT_EQ(identifier.fault, Fault::None);
     EXPECT_EQ(identifier.wrongDigits, 3U);
-    EXPECT_EQ(identifier.wrongPlace, 7U);
+    EXPECT_EQ(identifier.wrongOffset, 7U);
     EXPECT_EQ(identifier.value, test::uuid("001122ff-4455-6677-8899-aabbccddeeff"));
 }
 

@@ -11,88 +11,88 @@
 #include "parser/QenXmlParser.h"
 #include "tests/support/Uuids.h"
 
-using Oddity = NumberReading::Oddity;
+using Fault = NumberReading::Fault;
 
 namespace {
 
 struct Case {
     std::string text;
-    Oddity oddity;
+    Fault fault;
     std::string read;
-    std::size_t place = 0;
+    std::size_t offset = 0;
 };
 
 TEST(NumberReading, FindsWhatIsOddAboutANumber) {
     const std::vector<Case> cases = {
-        {"135.5", Oddity::None, "135.5"},
-        {" 7 ", Oddity::None, "7"},
-        {"-0.0", Oddity::None, "-0"},
-        {"+1e3", Oddity::None, "1000"},
-        {"0e5", Oddity::None, "0"},
-        {"", Oddity::Empty, "0"},
-        {"n/a", Oddity::NotANumber, "0"},
-        {".", Oddity::NotANumber, "0"},
-        {"12,75", Oddity::CutOff, "12", 2},
-        {"1 000", Oddity::CutOff, "1", 1},
-        {"12 kg", Oddity::CutOff, "12", 2},
-        {"1e999", Oddity::OutOfRange, "inf"},
-        {"-1e999", Oddity::OutOfRange, "-inf"},
-        {"1e-999", Oddity::OutOfRange, "0"},
-        {"inf", Oddity::NotFinite, "inf"},
-        {"-Infinity", Oddity::NotFinite, "-inf"},
-        {"nan", Oddity::NotFinite, "nan"},
-        {"0x1F", Oddity::Hexadecimal, "31"},
-        {"0x.8", Oddity::Hexadecimal, "0.5"},
-        {"0x", Oddity::CutOff, "0", 1},
-        {"0xg", Oddity::CutOff, "0", 1},
-        {"0x.", Oddity::CutOff, "0", 1},
-        {"0x0p9", Oddity::Hexadecimal, "0"},
-        {"0x1p-9999", Oddity::OutOfRange, "0"},
-        {"\n   n/a", Oddity::NotANumber, "0", 4},
-        {" \t1e999 ", Oddity::OutOfRange, "inf", 2},
-        {"\r\ninf", Oddity::NotFinite, "inf", 2},
-        {"  0x1F", Oddity::Hexadecimal, "31", 2},
-        {"  12,5", Oddity::CutOff, "12", 4},
-        {"  ", Oddity::NotANumber, "0"},
+        {"135.5", Fault::None, "135.5"},
+        {" 7 ", Fault::None, "7"},
+        {"-0.0", Fault::None, "-0"},
+        {"+1e3", Fault::None, "1000"},
+        {"0e5", Fault::None, "0"},
+        {"", Fault::Empty, "0"},
+        {"n/a", Fault::NotANumber, "0"},
+        {".", Fault::NotANumber, "0"},
+        {"12,75", Fault::CutOff, "12", 2},
+        {"1 000", Fault::CutOff, "1", 1},
+        {"12 kg", Fault::CutOff, "12", 2},
+        {"1e999", Fault::OutOfRange, "inf"},
+        {"-1e999", Fault::OutOfRange, "-inf"},
+        {"1e-999", Fault::OutOfRange, "0"},
+        {"inf", Fault::NotFinite, "inf"},
+        {"-Infinity", Fault::NotFinite, "-inf"},
+        {"nan", Fault::NotFinite, "nan"},
+        {"0x1F", Fault::Hexadecimal, "31"},
+        {"0x.8", Fault::Hexadecimal, "0.5"},
+        {"0x", Fault::CutOff, "0", 1},
+        {"0xg", Fault::CutOff, "0", 1},
+        {"0x.", Fault::CutOff, "0", 1},
+        {"0x0p9", Fault::Hexadecimal, "0"},
+        {"0x1p-9999", Fault::OutOfRange, "0"},
+        {"\n   n/a", Fault::NotANumber, "0", 4},
+        {" \t1e999 ", Fault::OutOfRange, "inf", 2},
+        {"\r\ninf", Fault::NotFinite, "inf", 2},
+        {"  0x1F", Fault::Hexadecimal, "31", 2},
+        {"  12,5", Fault::CutOff, "12", 4},
+        {"  ", Fault::NotANumber, "0"},
     };
     for (const Case& expected : cases) {
         const NumberReading number = readNumber(expected.text.c_str());
-        EXPECT_EQ(number.oddity, expected.oddity) << expected.text;
+        EXPECT_EQ(number.fault, expected.fault) << expected.text;
         EXPECT_EQ(number.read, expected.read) << expected.text;
-        EXPECT_EQ(number.place, expected.place) << expected.text;
+        EXPECT_EQ(number.offset, expected.offset) << expected.text;
     }
 }
 
 TEST(NumberReading, FindsWhatIsOddAboutAWholeNumber) {
     const std::vector<Case> cases = {
-        {"2026", Oddity::None, "2026"},
-        {" -3 ", Oddity::None, "-3"},
-        {"+5", Oddity::None, "5"},
-        {"2147483647", Oddity::None, "2147483647"},
-        {"-2147483648", Oddity::None, "-2147483648"},
-        {"0000000000000012", Oddity::None, "12"},
-        {"", Oddity::Empty, "0"},
-        {"x", Oddity::NotANumber, "0"},
-        {"-", Oddity::NotANumber, "0"},
-        {"12.5", Oddity::CutOff, "12", 2},
-        {"1e3", Oddity::CutOff, "1", 1},
-        {"2147483648", Oddity::OutOfRange, "2147483647"},
-        {"-99999999999", Oddity::OutOfRange, "-2147483648"},
-        {"0x10", Oddity::Hexadecimal, "16"},
-        {"-0X10", Oddity::Hexadecimal, "-16"},
-        {"0x", Oddity::CutOff, "0", 1},
-        {"-0x", Oddity::CutOff, "0", 2},
-        {"0x.8", Oddity::CutOff, "0", 2},
-        {"0xg", Oddity::CutOff, "0", 1},
-        {"0x80000000", Oddity::OutOfRange, "2147483647"},
-        {"\n x", Oddity::NotANumber, "0", 2},
-        {" 2147483648", Oddity::OutOfRange, "2147483647", 1},
+        {"2026", Fault::None, "2026"},
+        {" -3 ", Fault::None, "-3"},
+        {"+5", Fault::None, "5"},
+        {"2147483647", Fault::None, "2147483647"},
+        {"-2147483648", Fault::None, "-2147483648"},
+        {"0000000000000012", Fault::None, "12"},
+        {"", Fault::Empty, "0"},
+        {"x", Fault::NotANumber, "0"},
+        {"-", Fault::NotANumber, "0"},
+        {"12.5", Fault::CutOff, "12", 2},
+        {"1e3", Fault::CutOff, "1", 1},
+        {"2147483648", Fault::OutOfRange, "2147483647"},
+        {"-99999999999", Fault::OutOfRange, "-2147483648"},
+        {"0x10", Fault::Hexadecimal, "16"},
+        {"-0X10", Fault::Hexadecimal, "-16"},
+        {"0x", Fault::CutOff, "0", 1},
+        {"-0x", Fault::CutOff, "0", 2},
+        {"0x.8", Fault::CutOff, "0", 2},
+        {"0xg", Fault::CutOff, "0", 1},
+        {"0x80000000", Fault::OutOfRange, "2147483647"},
+        {"\n x", Fault::NotANumber, "0", 2},
+        {" 2147483648", Fault::OutOfRange, "2147483647", 1},
     };
     for (const Case& expected : cases) {
         const NumberReading number = readInteger(expected.text.c_str());
-        EXPECT_EQ(number.oddity, expected.oddity) << expected.text;
+        EXPECT_EQ(number.fault, expected.fault) << expected.text;
         EXPECT_EQ(number.read, expected.read) << expected.text;
-        EXPECT_EQ(number.place, expected.place) << expected.text;
+        EXPECT_EQ(number.offset, expected.offset) << expected.text;
     }
 }
 

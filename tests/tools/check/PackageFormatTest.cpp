@@ -25,17 +25,17 @@ TEST(PackageFormat, HasAPlaceForEveryNameThatIsRead) {
     for (const char* name : tag::all) {
         if (name == tag::RecPackage || belongsToPesticides(name))
             continue;
-        EXPECT_NE(placesOf(name), "") << name;
+        EXPECT_NE(locationsOf(name), "") << name;
     }
 }
 
 TEST(PackageFormat, SaysWhereANameIsRead) {
-    EXPECT_EQ(placesOf("RecID"), "as an attribute of Rec");
-    EXPECT_EQ(placesOf("Latitude"), "in FieldCentroid");
-    EXPECT_EQ(placesOf("Rec"), "in Recommendations");
-    EXPECT_EQ(placesOf("ProductID"), "in CommercialFertilizer or in CustomFertilizer");
-    EXPECT_EQ(placesOf("recid"), "");
-    EXPECT_EQ(placesOf("RegCode"), ""); // of a pesticide, which is not read
+    EXPECT_EQ(locationsOf("RecID"), "as an attribute of Rec");
+    EXPECT_EQ(locationsOf("Latitude"), "in FieldCentroid");
+    EXPECT_EQ(locationsOf("Rec"), "in Recommendations");
+    EXPECT_EQ(locationsOf("ProductID"), "in CommercialFertilizer or in CustomFertilizer");
+    EXPECT_EQ(locationsOf("recid"), "");
+    EXPECT_EQ(locationsOf("RegCode"), ""); // of a pesticide, which is not read
 }
 
 } // namespace
