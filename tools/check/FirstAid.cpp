@@ -29,7 +29,9 @@ struct Beginning {
     const char* cure;
 };
 
-constexpr std::array<Beginning, 16> beginnings = {
+constexpr std::array<Beginning, 17> beginnings = {
+    Beginning{"\x4C\x6F\xA7\x94"sv, "XML in EBCDIC, an encoding that is not read",
+              "have it written in UTF-8"},
     Beginning{"PK\3\4"sv, "a ZIP archive, or a document in one", unpack},
     Beginning{"\x1f\x8b"sv, "compressed by gzip", unpack},
     Beginning{"7z\xbc\xaf\x27\x1c"sv, "a 7-Zip archive", unpack},

@@ -41,6 +41,7 @@ TEST(FirstAid, NamesZerosAndWhereTheyAre) {
 
 TEST(FirstAid, NamesFilesOfOtherFormats) {
     const std::vector<std::pair<std::string, std::string>> files = {
+        {"\x4C\x6F\xA7\x94\x93", "the file is XML in EBCDIC, an encoding that is not read"},
         {"PK\3\4\x14\0\0"s, "the file is a ZIP archive, or a document in one"},
         {"\x1f\x8b\x08\0"s, "the file is compressed by gzip"},
         {"7z\xbc\xaf\x27\x1c\0"s, "the file is a 7-Zip archive"},
