@@ -1,5 +1,6 @@
 #include "tools/findings/Explanation.h"
 
+#include <array>
 #include <cstddef>
 #include <stdexcept>
 #include <string_view>
@@ -13,10 +14,10 @@ namespace {
 
 /// docs/findings.md: what stands before the entries, and then the entries in the order of their
 /// codes.
-constexpr const char* document[] = {
+constexpr std::array document = {
 #include "FindingEntries.inc"
 };
-static_assert(std::size(document) == findingKinds.size() + 1, "each code has an entry");
+static_assert(document.size() == findingKinds.size() + 1, "each code has an entry");
 
 /// The text of the point "- **Name.** " of an entry, its lines joined.
 std::string point(std::string_view entry, std::string_view name) {
