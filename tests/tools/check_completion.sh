@@ -59,18 +59,25 @@ check_shell() { # SHELL
             grep -qxe "$word" <<<"$words" || fail "$1 does not offer $word after $subcommand"
         done
     done
-    check_formats "$1"
+    check_formats "$1" check
+    check_formats "$1" export
     check_codes "$1"
 }
 
-check_formats() { # SHELL
-    local words format
-    words=$("offered_by_$1" qenxml export --format "")
-    [ "$1" != zsh ] || words=$(sed -n 's/.*:format:(\(.*\)).*/\1/p' \
-        "$share/zsh/site-functions/_qenxml" | tr ' ' '\n')
-    for format in $formats; do
-        grep -qxe "$format" <<<"$words" || fail "$1 does not offer the format $format"
-    done
+# Each format of a command, and none else: "qenxml check" has others than "qenxml export".
+check_formats() { # SHELL COMMAND
+    local words formats
+    formats=$("$command" "$2" --help |
+        sed -n '/^  --format FORMAT/{n; s/,//g; s/ or / /; s/^ *//p}')
+    [ "$(wc -w <<<"$formats")" -ge 2 ] || fail "$2 --help lists no formats"
+    if [ "$1" = zsh ]; then
+        grep -qF ":format:($formats)" "$share/zsh/site-functions/_qenxml" ||
+            fail "zsh does not offer the formats $formats"
+        return
+    fi
+    words=$("offered_by_$1" qenxml "$2" --format "" | sort | xargs)
+    [ "$words" = "$(tr ' ' '\n' <<<"$formats" | sort | xargs)" ] ||
+        fail "$1 offers the formats $words after $2, not $formats"
 }
 
 check_codes() { # SHELL
@@ -92,9 +99,6 @@ check_codes() { # SHELL
 [ "$(listed Commands | wc -l)" -ge 3 ] || fail "--help lists no commands"
 [ "$("$command" check --codes | wc -l)" -ge 50 ] || fail "check --codes lists no codes"
 [ "$(listed Options export | wc -l)" -ge 7 ] || fail "export --help lists no options"
-
-formats=$("$command" export --help | sed -n '/^  --format FORMAT/{n; s/,//g; s/ or / /; s/^ *//p}')
-[ "$(wc -w <<<"$formats")" -ge 3 ] || fail "--help lists no formats"
 
 for shell in bash zsh fish; do
     if ! command -v "$shell" >/dev/null; then

@@ -35,12 +35,16 @@ check_page() { # NAME [COMMAND]
     done
 }
 
-check_formats() {
-    local page=$folder/qenxml-export.1 format
+check_formats() { # COMMAND
+    local page=$folder/qenxml-$1.1 formats
+    formats=$("$command" "$1" --help |
+        sed -n '/^  --format FORMAT/{n; s/,//g; s/ or / /; s/^ *//p}')
+    [ "$(wc -w <<<"$formats")" -ge 2 ] || fail "$1 --help lists no formats"
     grep -qxF ".It Fl -format Cm ${formats// / | }" "$page" ||
-        fail "qenxml-export does not list the formats $formats"
+        fail "qenxml-$1 does not list the formats $formats"
     for format in $formats; do
-        grep -qixF ".Ss $format" "$page" || fail "qenxml-export does not describe the format $format"
+        grep -qixE "\.(Ss|It Cm) $format" "$page" ||
+            fail "qenxml-$1 does not describe the format $format"
     done
 }
 
@@ -57,10 +61,8 @@ check_exit_codes() { # NAME COMMAND
     done < <("$command" "$2" --help | sed -n '/^Exit codes:/,$s/^  \([0-9]\)/\1/p')
 }
 
-formats=$("$command" export --help | sed -n '/^  --format FORMAT/{n; s/,//g; s/ or / /; s/^ *//p}')
-[ "$(wc -w <<<"$formats")" -ge 3 ] || fail "--help lists no formats"
-check_formats
-
+check_formats check
+check_formats export
 check_page qenxml
 for subcommand in $(listed Commands); do
     check_page "qenxml-$subcommand" "$subcommand"

@@ -1,7 +1,6 @@
 #include "tools/commands/Explain.h"
 
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -23,16 +22,6 @@ struct ExplainOptions {
     bool json = false;
 };
 
-/// What is wrong with an argument that shall be a code; empty when nothing is.
-std::string describeWrongCode(const std::string& argument) {
-    try {
-        codeNamed(argument);
-        return "";
-    } catch (const std::invalid_argument& error) {
-        return error.what();
-    }
-}
-
 /// The codes to explain: those that are named, or all.
 std::vector<FindingCode> chosenCodes(const ExplainOptions& options) {
     if (options.all == !options.names.empty())
@@ -40,7 +29,7 @@ std::vector<FindingCode> chosenCodes(const ExplainOptions& options) {
                                                : "CODE or --all is required");
     std::vector<FindingCode> codes;
     for (const std::string& name : options.names)
-        codes.push_back(codeNamed(name));
+        codes.push_back(codeNamed(name).value());
     for (std::size_t code = 0; options.all && code < findingKinds.size(); ++code)
         codes.push_back(static_cast<FindingCode>(code));
     return codes;
@@ -69,7 +58,7 @@ Command addExplain(CLI::App& application) {
     const auto options = std::make_shared<ExplainOptions>();
     parser->formatter(std::make_shared<HelpFormatter>(examples));
     parser->footer(explainExitCodeHelp);
-    addNames(*parser, "CODE", options->names, "Codes of findings, such as number-cut-off")
+    asGiven(addNames(*parser, "CODE", options->names, "Codes of findings, such as number-cut-off"))
         ->option_text(" ")
         ->check(CLI::Validator(describeWrongCode, ""));
     parser->add_flag("--all", options->all, "Explain all codes");

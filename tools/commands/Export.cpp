@@ -1,7 +1,7 @@
 #include "tools/commands/Export.h"
 
+#include <algorithm>
 #include <array>
-#include <map>
 #include <memory>
 #include <string>
 #include <utility>
@@ -15,8 +15,8 @@
 #include "tools/export/ExportJson.h"
 #include "tools/input/PackageInput.h"
 #include "tools/input/PackageReading.h"
-#include "tools/options/Arguments.h"
 #include "tools/options/CommonOptions.h"
+#include "tools/options/FormatOption.h"
 #include "tools/options/HelpFormatter.h"
 #include "tools/output/Output.h"
 #include "tools/records/MergedGrowers.h"
@@ -41,20 +41,16 @@ constexpr std::array formats = {Format{"json", "JSON", makeJsonExport},
                                 Format{"csv", "CSV", makeCsvExport},
                                 Format{"geojson", "GeoJSON", makeGeoJsonExport}};
 
-/// "json, csv or geojson", or the same by their titles.
-std::string listed(const char* Format::*name) {
+std::vector<std::string> namesOf(const char* Format::*name) {
     std::vector<std::string> names;
-    names.reserve(formats.size());
     for (const Format& format : formats)
         names.emplace_back(format.*name);
-    return joined(names, " or ");
+    return names;
 }
 
-std::map<std::string, const Format*> formatsByName() {
-    std::map<std::string, const Format*> byName;
-    for (const Format& format : formats)
-        byName[format.name] = &format;
-    return byName;
+const Format& formatNamed(const std::string& name) {
+    return *std::find_if(formats.begin(), formats.end(),
+                         [&name](const Format& format) { return name == format.name; });
 }
 
 struct ExportOptions {
@@ -77,9 +73,8 @@ void exportPackage(PackageReading& reading, bool merge, ExportFormat& format, Me
 ExitCode exportPackages(const ExportOptions& options, Console& console) {
     requireUsable(options.packages, options.output);
     Output output(options.output, console);
-    const auto format = formatsByName().at(options.format)->make([&output](std::string_view text) {
-        output.write(text);
-    });
+    const auto format =
+        formatNamed(options.format).make([&output](std::string_view text) { output.write(text); });
     MergedGrowers merged;
     ExitCode result = ExitCode::Success;
     bool anyRead = false;
@@ -105,17 +100,14 @@ ExitCode exportPackages(const ExportOptions& options, Console& console) {
 } // namespace
 
 Command addExport(CLI::App& application) {
-    CLI::App* parser =
-        application
-            .add_subcommand("export", "Write what packages hold as " + listed(&Format::title))
-            ->group("Commands");
+    CLI::App* parser = application
+                           .add_subcommand("export", "Write what packages hold as " +
+                                                         joined(namesOf(&Format::title), " or "))
+                           ->group("Commands");
     const auto options = std::make_shared<ExportOptions>();
     parser->formatter(std::make_shared<HelpFormatter>(examples));
     parser->footer(exitCodeHelp);
-    asGiven(parser->add_option("--format", options->format, listed(&Format::name))
-                ->required()
-                ->option_text("FORMAT")
-                ->transform(CLI::IsMember(formatsByName(), CLI::ignore_case).description("")));
+    addFormatOption(*parser, options->format, namesOf(&Format::name))->required();
     parser->add_flag("--merge", options->merge, "Merge the growers of all packages into one tree");
     addOutputOption(*parser, options->output);
     addPackageOptions(*parser, options->packages);

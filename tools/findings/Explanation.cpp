@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstddef>
-#include <stdexcept>
 #include <string_view>
 #include <vector>
 
@@ -55,15 +54,21 @@ Explanation explanationOf(FindingCode code) {
             withoutLinks(point(entry, "Cure"))};
 }
 
-FindingCode codeNamed(const std::string& name) {
-    std::vector<const char*> codes;
-    for (const FindingKind& kind : findingKinds) {
-        if (name == kind.code)
-            return static_cast<FindingCode>(codes.size());
-        codes.push_back(kind.code);
+std::optional<FindingCode> codeNamed(std::string_view name) {
+    for (std::size_t code = 0; code < findingKinds.size(); ++code) {
+        if (name == findingKinds[code].code)
+            return static_cast<FindingCode>(code);
     }
+    return std::nullopt;
+}
+
+std::string describeWrongCode(const std::string& name) {
+    if (codeNamed(name))
+        return "";
+    std::vector<const char*> codes;
+    for (const FindingKind& kind : findingKinds)
+        codes.push_back(kind.code);
     const std::string_view nearest = nearestName(name, codes);
-    throw std::invalid_argument(
-        fmt::format("\"{}\" is no code of a finding{}", name,
-                    nearest.empty() ? "" : fmt::format("; is {} meant?", nearest)));
+    return fmt::format("\"{}\" is no code of a finding{}", name,
+                       nearest.empty() ? "" : fmt::format("; is {} meant?", nearest));
 }

@@ -1,7 +1,9 @@
 #ifndef QENXML_TOOLS_FINDINGS_EXPLANATION_H
 #define QENXML_TOOLS_FINDINGS_EXPLANATION_H
 
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "tools/check/FindingCodes.h"
 
@@ -15,8 +17,10 @@ struct Explanation {
 Explanation explanationOf(FindingCode code);
 
 /// The code of a name such as "empty-name".
-///
-/// @throws std::invalid_argument with a sentence that names the nearest code, when there is none
-FindingCode codeNamed(const std::string& name);
+std::optional<FindingCode> codeNamed(std::string_view name);
+
+/// What is wrong with a name that shall be one of a code, with the nearest that is; empty when
+/// nothing is.
+std::string describeWrongCode(const std::string& name);
 
 #endif

@@ -82,7 +82,7 @@ TEST(CommandLine, AnswersWrongUsageWithAMessageAndAHint) {
         {{"export", "a.xml"}, "--format is required; try \"qenxml export --help\""},
         {{"export", "--format", "csv"}, "FILE is required; try \"qenxml export --help\""},
         {{"export", "--format", "xls", "a.xml"},
-         "--format: xls not in {csv,geojson,json}; try \"qenxml export --help\""},
+         "--format: xls not in {json,csv,geojson}; try \"qenxml export --help\""},
         {{"report"}, "FILE is required; try \"qenxml report --help\""},
         {{"show", "--version"}, "\"--version\" is not understood here; try \"qenxml show --help\""},
     };
@@ -177,8 +177,10 @@ TEST_F(BracketedNames, AreShownAsTheyAreGivenInMessages) {
     EXPECT_EQ(run({"[x]"}).errors, "qenxml: \"[x]\" is no command; try \"qenxml --help\"\n");
     EXPECT_EQ(run({"check", "--ignore", "[x]", "a"}).errors,
               "qenxml: --ignore: \"[x]\" is no code of a finding; try \"qenxml check --help\"\n");
+    EXPECT_EQ(run({"explain", "[x]"}).errors,
+              "qenxml: CODE: \"[x]\" is no code of a finding; try \"qenxml explain --help\"\n");
     EXPECT_EQ(run({"export", "--format", "[csv]", "a"}).errors,
-              "qenxml: --format: [csv] not in {csv,geojson,json}; "
+              "qenxml: --format: [csv] not in {json,csv,geojson}; "
               "try \"qenxml export --help\"\n");
 }
 

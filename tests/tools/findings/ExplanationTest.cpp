@@ -1,6 +1,5 @@
 #include "tools/findings/Explanation.h"
 
-#include <stdexcept>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -10,7 +9,7 @@
 namespace {
 
 TEST(Explanation, IsTheEntryOfTheDocumentInPlainText) {
-    const Explanation cutOff = explanationOf(codeNamed("number-empty"));
+    const Explanation cutOff = explanationOf(codeNamed("number-empty").value());
     EXPECT_EQ(cutOff.cause, "An element for a number is empty and read as 0.");
     EXPECT_EQ(cutOff.example, "<TotalUOMID/>");
     EXPECT_EQ(cutOff.cure, "Write the number. When it is not known, leave the element out, unless "
@@ -19,7 +18,7 @@ TEST(Explanation, IsTheEntryOfTheDocumentInPlainText) {
 
 TEST(Explanation, IsThereForEveryCodeWithoutMarkup) {
     for (const FindingKind& kind : findingKinds) {
-        const Explanation explanation = explanationOf(codeNamed(kind.code));
+        const Explanation explanation = explanationOf(codeNamed(kind.code).value());
         for (const std::string& text : {explanation.cause, explanation.example, explanation.cure}) {
             EXPECT_FALSE(text.empty()) << kind.code;
             EXPECT_EQ(text.find("]("), std::string::npos) << text;
@@ -31,33 +30,28 @@ TEST(Explanation, IsThereForEveryCodeWithoutMarkup) {
 }
 
 TEST(Explanation, IsOfTheFirstAndTheLastEntryToo) {
-    EXPECT_EQ(explanationOf(codeNamed("unreadable")).cure,
+    EXPECT_EQ(explanationOf(codeNamed("unreadable").value()).cure,
               "Look at the path and at the permissions of the file.");
-    EXPECT_EQ(explanationOf(codeNamed("number-hexadecimal")).cure, "Write the number in decimal.");
+    EXPECT_EQ(explanationOf(codeNamed("number-hexadecimal").value()).cure,
+              "Write the number in decimal.");
 }
 
 TEST(Explanation, EndsBeforeTheNextHeading) {
-    EXPECT_EQ(explanationOf(codeNamed("element-after-list")).cure.find("Warnings"),
+    EXPECT_EQ(explanationOf(codeNamed("element-after-list").value()).cure.find("Warnings"),
               std::string::npos);
 }
 
-TEST(Explanation, IsNoneOfANameThatIsNoCode) {
-    const auto complaint = [](const std::string& name) -> std::string {
-        try {
-            codeNamed(name);
-        } catch (const std::invalid_argument& error) {
-            return error.what();
-        }
-        return "";
-    };
-    EXPECT_EQ(complaint("empty-nam"),
+TEST(Explanation, NamesTheNearestCodeForANameThatIsNone) {
+    EXPECT_EQ(codeNamed("empty-nam"), std::nullopt);
+    EXPECT_EQ(describeWrongCode("empty-nam"),
               "\"empty-nam\" is no code of a finding; is empty-name meant?");
-    EXPECT_EQ(complaint("xyz"), "\"xyz\" is no code of a finding");
-    EXPECT_EQ(complaint("empty-name"), "");
+    EXPECT_EQ(describeWrongCode("xyz"), "\"xyz\" is no code of a finding");
+    EXPECT_EQ(codeNamed("empty-name"), FindingCode::EmptyName);
+    EXPECT_EQ(describeWrongCode("empty-name"), "");
 }
 
 TEST(ExplanationText, SaysWhatToDoInLinesThatFitATerminal) {
-    EXPECT_EQ(explanationText(codeNamed("number-empty"), Style()),
+    EXPECT_EQ(explanationText(codeNamed("number-empty").value(), Style()),
               "number-empty (note): an element for a number is empty\n"
               "  cause    An element for a number is empty and read as 0.\n"
               "  example  <TotalUOMID/>\n"
@@ -66,7 +60,7 @@ TEST(ExplanationText, SaysWhatToDoInLinesThatFitATerminal) {
 }
 
 TEST(ExplanationText, IsAnObjectInJson) {
-    EXPECT_EQ(explanationJson(codeNamed("number-empty")),
+    EXPECT_EQ(explanationJson(codeNamed("number-empty").value()),
               R"({"code":"number-empty","severity":"note",)"
               R"("title":"an element for a number is empty",)"
               R"("cause":"An element for a number is empty and read as 0.",)"
