@@ -49,7 +49,7 @@ constexpr std::string_view wordFor(Severity severity) {
             "a custom fertilizer has no readable identifier")                                      \
     FINDING(AfterList, "element-after-list", Error, "something follows the items of a list")       \
     FINDING(NameNotUuid, "name-not-uuid", Warning, "the file is not named by a UUID",              \
-            "the recs carry the package UUID {}")                                                  \
+            "every rec carries the invented package UUID {}")                                      \
     FINDING(InvalidUtf8, "invalid-utf8", Warning, "the file holds bytes that are not UTF-8",       \
             "this and the like are passed on as they are; hosts may not show them")                \
     FINDING(NoGrower, "no-grower", Warning, "the package has no grower",                           \

@@ -12,15 +12,12 @@ struct FirstAid {
     std::string cure; ///< "unpack it and take the packages out of it"
 };
 
-/// What a file is: empty, cut off, of another format ... Nothing for XML with a mistake in it, of
-/// which the place says more.
+/// What a file is that is not well-formed: empty, cut off, of another format ... Nothing for XML
+/// with a mistake in it, of which the place says more.
 ///
-/// @param text     of a file that is not well-formed, or whose root is not that of a package, in
-/// UTF-8
-/// @param fileSize in bytes, as it is on the disk
+/// @param text     of the file, in UTF-8
+/// @param fileSize in bytes, as it is on the disk: another than that of the text where the file is
+/// in another encoding
 std::optional<FirstAid> firstAid(std::string_view text, std::size_t fileSize);
-
-/// The zeros in a text, of which no package has any; nothing when there are none.
-std::optional<FirstAid> zerosIn(std::string_view text);
 
 #endif

@@ -1,8 +1,10 @@
 #include "tools/check/OpenElement.h"
 
+#include <algorithm>
 #include <array>
 
 #include "tools/text/SourceText.h"
+#include "tools/text/Utf8.h"
 
 namespace {
 
@@ -64,4 +66,25 @@ OpenMarkup openMarkup(std::string_view text) {
     }
     open.end = text.size();
     return open;
+}
+
+std::string_view afterMarkAndBlanks(std::string_view text) {
+    if (text.substr(0, byteOrderMark.size()) == byteOrderMark)
+        text.remove_prefix(byteOrderMark.size());
+    text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
+    return text;
+}
+
+std::string_view rootName(std::string_view text) {
+    for (std::size_t begin = 0;;) {
+        begin = text.find('<', begin);
+        if (begin == std::string_view::npos)
+            return {};
+        const Markup markup = markupAt(text, begin);
+        if (markup.begin == "<") {
+            text.remove_prefix(begin + 1);
+            return text.substr(0, text.find_first_of(afterName));
+        }
+        begin = endOf(markup, text, begin);
+    }
 }

@@ -22,4 +22,11 @@ struct OpenMarkup {
 /// What is open where a text of XML ends.
 OpenMarkup openMarkup(std::string_view text);
 
+/// The text behind a byte-order mark and blanks.
+std::string_view afterMarkAndBlanks(std::string_view text);
+
+/// The name of the root element of a text of XML, which need not be well-formed behind it; empty
+/// when there is none.
+std::string_view rootName(std::string_view text);
+
 #endif

@@ -44,7 +44,7 @@ void checkName(const std::string& path, FindingSink& sink) {
     if (!uuid)
         add(sink, FindingCode::NameWithoutUuid, "the file name holds no package UUID; " + expected,
             NothingRead{});
-    else if (!isNamedByUuid(path))
+    else if (!isNamedByUuid(path) && original != to_string(*uuid) + ".xml")
         add(sink, FindingCode::NameNotUuid, "the file is not named by a UUID; " + expected,
             ReadAs{to_string(*uuid)});
 }

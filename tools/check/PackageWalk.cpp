@@ -12,9 +12,9 @@
 #include "parser/internal/TagConstants.h"
 #include "tools/check/CheckReport.h"
 #include "tools/check/ElementCheck.h"
-#include "tools/check/FirstAid.h"
 #include "tools/check/IdentifierReading.h"
 #include "tools/check/NameCounts.h"
+#include "tools/check/OtherFormat.h"
 #include "tools/check/PlausibilityCheck.h"
 #include "tools/check/RecDataCheck.h"
 #include "tools/text/Escape.h"
@@ -75,7 +75,7 @@ private:
     void noPackage(const pugi::xml_document& document) {
         const pugi::xml_node root = document.document_element();
         report_.add(FindingCode::NoRecPackage, root, root.name(), [&] {
-            const auto aid = firstAid(report_.source().text(), 0);
+            const auto aid = otherFormat(report_.source().text());
             return Details{fmt::format("the root element is \"{}\" instead of {}{}",
                                        escapeExcerpt(root.name()), tag::RecPackage,
                                        aid ? fmt::format("; {}; {}", aid->what, aid->cure) : "")};

@@ -1,6 +1,7 @@
 #include "tools/check/TextCheck.h"
 
 #include <algorithm>
+#include <array>
 
 #include <fmt/format.h>
 
@@ -11,40 +12,31 @@ namespace {
 
 using Details = CheckReport::Details;
 
-FindingCode codeOf(ReferenceFate fate) {
-    switch (fate) {
-    case ReferenceFate::EndsValue:
-        return FindingCode::ReferenceToNul;
-    case ReferenceFate::GivesNoText:
-        return FindingCode::ReferenceToNoCharacter;
-    case ReferenceFate::GivesOther:
-        return FindingCode::ControlCharacter;
-    case ReferenceFate::Stands:
-        break;
-    }
-    return FindingCode::ReferenceUnknown;
-}
+/// What is said of a reference.
+struct Fate {
+    ReferenceFate fate;
+    FindingCode code;
+    const char* predicate;
+};
 
-/// What is said of a reference of a fate.
-const char* predicate(ReferenceFate fate) {
-    switch (fate) {
-    case ReferenceFate::EndsValue:
-        return "ends the value";
-    case ReferenceFate::GivesNoText:
-        return "stands for no character";
-    case ReferenceFate::GivesOther:
-        return "stands for a character that XML does not allow";
-    case ReferenceFate::Stands:
-        break;
-    }
-    return "is no reference that XML knows";
+constexpr std::array fates = {
+    Fate{ReferenceFate::EndsValue, FindingCode::ReferenceToNul, "ends the value"},
+    Fate{ReferenceFate::GivesNoText, FindingCode::ReferenceToNoCharacter,
+         "stands for no character"},
+    Fate{ReferenceFate::GivesOther, FindingCode::ControlCharacter,
+         "stands for a character that XML does not allow"},
+    Fate{ReferenceFate::Stands, FindingCode::ReferenceUnknown, "is no reference that XML knows"}};
+
+const Fate& fateOf(const OddReference& reference) {
+    return *std::find_if(fates.begin(), fates.end(),
+                         [&](const Fate& other) { return other.fate == reference.fate; });
 }
 
 Details describe(const OddReference& reference, std::string_view value) {
     const std::string text = escapeExcerpt(reference.text);
     const std::string more =
         reference.more > 0 ? fmt::format("; {} more of the kind follow", reference.more) : "";
-    Details details{fmt::format("\"{}\" {}{}", text, predicate(reference.fate), more), Kept{}};
+    Details details{fmt::format("\"{}\" {}{}", text, fateOf(reference).predicate, more), Kept{}};
     if (reference.fate == ReferenceFate::EndsValue)
         details.consequence = ReadAs{escapeExcerpt(value)};
     if (reference.fate == ReferenceFate::Stands)
@@ -62,7 +54,7 @@ void checkCharacters(CheckReport& report, Extent extent, std::string_view value,
                      std::string_view step) {
     const std::string_view written = report.source().text().substr(extent.offset, extent.length);
     for (const OddReference& reference : oddReferences(written))
-        report.add(codeOf(reference.fate),
+        report.add(fateOf(reference).code,
                    Extent{extent.offset + reference.offset, reference.text.size()}, step,
                    [&] { return describe(reference, value); });
     const auto* const control = std::find_if(written.begin(), written.end(), isControl);

@@ -14,8 +14,6 @@
 
 namespace {
 
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-
 bool isOneOf(std::u32string_view characters, char32_t c) {
     return characters.find(c) != std::u32string_view::npos;
 }

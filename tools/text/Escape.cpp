@@ -95,7 +95,6 @@ std::string escapeExcerpt(std::string_view text) {
 }
 
 std::string escapeDocument(std::string_view text) {
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     constexpr std::array<std::string_view, 3> layout = {"\r\n", "\n", "\t"};
     std::string result;
     if (text.substr(0, byteOrderMark.size()) == byteOrderMark)

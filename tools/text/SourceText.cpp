@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-
 /// The encoding that pugixml takes the content of a file for. It does not say so before it has
 /// loaded it.
 pugi::xml_encoding encodingOf(const std::string& bytes) {

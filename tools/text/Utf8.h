@@ -5,6 +5,9 @@
 #include <string>
 #include <string_view>
 
+/// The byte-order mark, with which a text may begin.
+inline constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
 /// The first character of a text in UTF-8.
 struct Utf8Character {
     char32_t codePoint; ///< The byte itself when it is not valid UTF-8.

@@ -57,4 +57,14 @@ TEST(OpenElement, MayBeFollowedByMarkupThatIsNotFinished) {
     EXPECT_EQ(unfinished("<a>t"), " 4");
 }
 
+TEST(OpenElement, HasARootBehindDeclarationsAndComments) {
+    EXPECT_EQ(rootName("\xEF\xBB\xBF<?xml version='1.0'?>\n<!-- <a/> --><!DOCTYPE b><c d='e'>"),
+              "c");
+    EXPECT_EQ(rootName("<a:b/>"), "a:b");
+    EXPECT_EQ(rootName("<a"), "a");
+    EXPECT_EQ(rootName("<!-- <a/>"), "");
+    EXPECT_EQ(rootName("text"), "");
+    EXPECT_EQ(rootName(""), "");
+}
+
 } // namespace

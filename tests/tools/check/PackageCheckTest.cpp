@@ -9,6 +9,7 @@
 #include "tests/support/PackageText.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/tools/check/Findings.h"
+#include "tools/check/FindingCollection.h"
 #include "tools/findings/FindingText.h"
 
 namespace fs = std::filesystem;
@@ -101,15 +102,41 @@ TEST_F(PackageCheck, CountsThePathInBytes) {
     EXPECT_EQ(found.substr(0, found.find(';')), "the path has 6 of at least 40 bytes");
 }
 
+/// What is found in the name of a copy of a good package.
+std::string foundInName(const std::string& name) {
+    FindingCollection all;
+    checkPackage(
+        name, FileContent{test::package(test::grower(1, "<GrowerName>a</GrowerName>")), ""}, all);
+    return all.kept().empty() ? "" : test::toText(all.kept().front());
+}
+
 TEST_F(PackageCheck, SaysWhatToRenameACopyTo) {
     const std::string uuid = "00112233-4455-6677-8899-aabbccddeeff";
-    for (const std::string& copy : {uuid + " (1).xml", uuid + " - Copy.xml", uuid + ".xml.txt"}) {
-        const std::vector<Finding> findings = checkPackage(folder_.write(copy, test::package("")));
-        ASSERT_FALSE(findings.empty());
-        EXPECT_EQ(findings.front().code, FindingCode::NameNotUuid);
-        EXPECT_EQ(findings.front().found,
-                  "the file is not named by a UUID; rename it to " + uuid + ".xml");
-    }
+    const std::string rename = "; rename it to " + uuid + ".xml -> ";
+    const std::string invented = "name-not-uuid : the file is not named by a UUID" + rename;
+    EXPECT_EQ(foundInName(uuid + " (1).xml"),
+              invented + "read as 2233f445-ff66-77f8-89ff-aabbccddeeff");
+    EXPECT_EQ(foundInName(uuid + " - Copy.xml"),
+              invented + "read as ff4455f6-67ff-8899-faab-bccddeefffff");
+    EXPECT_EQ(foundInName(uuid + " - Copy (2).xml"),
+              invented + "read as 55f667ff-8899-faab-bccd-deefffffffff");
+    EXPECT_EQ(foundInName(uuid + ".xml.txt"),
+              invented + "read as 2233f445-ff66-77f8-89ff-aabbccddeeff");
+    EXPECT_EQ(foundInName("{" + uuid + "}.xml"),
+              invented + "read as 011223ff-4455-f667-ff88-99faabbccdde");
+    EXPECT_EQ(foundInName("{" + uuid + "} (1).xml"),
+              "name-without-uuid : the file name holds no package UUID" + rename + "nothing read");
+    EXPECT_EQ(foundInName(uuid),
+              "path-too-short : the path has 36 of at least 40 bytes" + rename + "nothing read");
+}
+
+TEST_F(PackageCheck, FindsNothingInTheNameOfACopyThatIsReadWithItsUuid) {
+    const std::string uuid = "00112233-4455-6677-8899-aabbccddeeff";
+    for (const std::string& copy :
+         {"Kopie von " + uuid + ".xml", "Copy of " + uuid + ".xml", uuid + ".XML", uuid + ".txt",
+          std::string("00112233-4455-6677-8899-AABBCCDDEEFF.XML"),
+          std::string("00112233445566778899aabbccddeeff (1).xml")})
+        EXPECT_EQ(foundInName(copy), "") << copy;
 }
 
 TEST_F(PackageCheck, NamesTheDeclaredEncodingAsTheCauseOfBytesThatAreNotUtf8) {
