@@ -3,6 +3,7 @@
 Usage: validate_findings.py COMMAND SOURCE_FOLDER
 """
 
+import collections
 import copy
 import json
 import pathlib
@@ -42,6 +43,14 @@ for count, severity in (("errors", "error"), ("warnings", "warning"), ("notes", 
               for file in samples["files"]]
     assert counts == [file[count] for file in samples["files"]], count
     assert sum(counts) == samples[count] > 0, count
+assert samples["unreadable"] == sum(file["errors"] > 0 for file in samples["files"])
+in_files = [collections.Counter(finding["code"] for finding in file["findings"])
+            for file in samples["files"]]
+assert {code["code"]: (code["findings"], code["files"]) for code in samples["codes"]} == {
+    code: (sum(counts[code] for counts in in_files), sum(code in counts for counts in in_files))
+    for code in set().union(*in_files)}
+severities = [code["severity"] for code in samples["codes"]]
+assert severities == sorted(severities, key=["error", "warning", "note"].index), severities
 
 # Lines and offsets agree, and there are consequences of all kinds.
 kinds = set()

@@ -25,11 +25,15 @@ private:
 /// Counts findings and keeps the first ones of each code.
 class FindingCollection : public FindingSink {
 public:
-    /// @param limit how many of a code are kept
-    explicit FindingCollection(std::size_t limit = std::numeric_limits<std::size_t>::max())
-        : limit_(limit) {}
+    /// @param limit  how many of a code are kept
+    /// @param before those that count for the limit, too
+    explicit FindingCollection(std::size_t limit = std::numeric_limits<std::size_t>::max(),
+                               const FindingCounts& before = {})
+        : limit_(limit), before_(before) {}
 
-    bool wants(FindingCode code) const override { return counts_.of(code) < limit_; }
+    bool wants(FindingCode code) const override {
+        return before_.of(code) + counts_.of(code) < limit_;
+    }
     void add(const Finding& finding) override;
     void addCode(FindingCode code) override { counts_.add(code); }
 
@@ -40,6 +44,7 @@ public:
 
 private:
     std::size_t limit_;
+    FindingCounts before_;
     FindingCounts counts_;
     std::vector<Finding> kept_;
 };

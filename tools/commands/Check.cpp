@@ -19,9 +19,9 @@
 #include "tools/input/PackageInput.h"
 #include "tools/options/Arguments.h"
 #include "tools/options/CommonOptions.h"
-#include "tools/options/FormatOption.h"
 #include "tools/options/HelpFormatter.h"
 #include "tools/output/ProgressLine.h"
+#include "tools/text/Words.h"
 
 namespace {
 
@@ -34,7 +34,7 @@ constexpr const char* examples =
 
 struct Format {
     const char* name;
-    std::unique_ptr<CheckWriter> (*make)(Console&, std::size_t files);
+    std::unique_ptr<CheckWriter> (*make)(Console&, const CheckExtent&);
 };
 
 /// All formats. The manual, the completions and the help follow.
@@ -42,8 +42,14 @@ constexpr std::array formats = {Format{"text", makeCheckText}, Format{"json", ma
 
 constexpr std::chrono::seconds untilProgress{2};
 
+/// The gravest first.
+constexpr std::array severities = {Severity::Error, Severity::Warning, Severity::Note};
+
+constexpr const char* never = "never";
+
 std::vector<std::string> formatNames() {
     std::vector<std::string> names;
+    names.reserve(formats.size());
     for (const Format& format : formats)
         names.emplace_back(format.name);
     return names;
@@ -56,7 +62,8 @@ const Format& formatNamed(const std::string& name) {
 
 struct CheckOptions {
     std::string format = formats.front().name;
-    bool strict = false;
+    Detail detail = Detail::Findings;
+    std::string failOn = "error";
     std::vector<std::string> ignored;
     PackageOptions packages;
 };
@@ -89,17 +96,88 @@ FindingCounts checkFiles(const PackageOptions& packages, const WantedCodes& want
     return sum;
 }
 
+/// Whether anything was found that is as grave as @p least.
+bool isFailure(const FindingCounts& counts, const std::string& least) {
+    if (least == never)
+        return false;
+    for (const Severity severity : severities) {
+        if (counts.of(severity) > 0)
+            return true;
+        if (wordFor(severity) == least)
+            return false;
+    }
+    return false;
+}
+
 ExitCode check(const CheckOptions& options, Console& console) {
     requireUsable(options.packages);
+    if (options.detail != Detail::Findings && options.format != formats.front().name)
+        throw CLI::ValidationError("--quiet, --statistics and --verbose are for the format text");
     const PackageFiles files = packageFiles(options.packages.files);
     for (const std::string& complaint : files.complaints)
         console.complain(complaint);
-    const auto writer = formatNamed(options.format).make(console, files.paths.size());
+    const auto writer =
+        formatNamed(options.format).make(console, {files.paths.size(), options.detail});
     const FindingCounts counts = checkFiles({files.paths, options.packages.uuid},
                                             wantedCodes(options.ignored), *writer, console);
-    const bool failed =
-        counts.of(Severity::Error) > 0 || (options.strict && counts.of(Severity::Warning) > 0);
-    return failed || !files.complaints.empty() ? ExitCode::Failure : ExitCode::Success;
+    for (const std::string& remark : files.remarks)
+        console.complain(remark);
+    const bool failed = isFailure(counts, options.failOn) || !files.complaints.empty();
+    return failed ? ExitCode::Failure : ExitCode::Success;
+}
+
+void addFormatOptions(CLI::App& parser, CheckOptions& options) {
+    const std::vector<std::string> names = formatNames();
+    CLI::Option* format =
+        addChoice(parser, "--format", options.format, names, joined(names, " or "))
+            ->option_text("FORMAT");
+    parser
+        .add_flag_callback(
+            "--json", [&options] { options.format = "json"; }, "As --format json")
+        ->excludes(format)
+        ->option_text(" ");
+}
+
+/// Adds the options that say how much text there is, of which there may be one.
+void addDetailOptions(CLI::App& parser, CheckOptions& options) {
+    struct Flag {
+        const char* name;
+        Detail detail;
+        const char* description;
+    };
+    constexpr std::array flags = {
+        Flag{"--verbose", Detail::AllFiles, "List the files without findings, too"},
+        Flag{"--statistics", Detail::Statistics,
+             "Print only which files cannot be read, and how often each code was found"},
+        Flag{"--quiet", Detail::Sum, "Print only the last line, which says how much was found"}};
+    std::vector<CLI::Option*> added;
+    for (const Flag& flag : flags) {
+        CLI::Option* option = parser.add_flag_callback(
+            flag.name, [&options, detail = flag.detail] { options.detail = detail; },
+            flag.description);
+        option->option_text(" ");
+        for (CLI::Option* other : added)
+            option->excludes(other);
+        added.push_back(option);
+    }
+}
+
+/// Adds the options that say what makes the command fail.
+void addFailureOptions(CLI::App& parser, CheckOptions& options) {
+    std::vector<std::string> choices;
+    for (const Severity severity : severities)
+        choices.emplace_back(wordFor(severity));
+    choices.emplace_back(never);
+    CLI::Option* failOn =
+        addChoice(parser, "--fail-on", options.failOn, choices,
+                  "The least severity to fail on: " + joined(choices, " or ") + "; by itself error")
+            ->option_text("SEVERITY");
+    parser
+        .add_flag_callback(
+            "--strict", [&options] { options.failOn = wordFor(Severity::Warning); },
+            "As --fail-on warning")
+        ->excludes(failOn)
+        ->option_text(" ");
 }
 
 } // namespace
@@ -110,13 +188,9 @@ Command addCheck(CLI::App& application) {
     const auto options = std::make_shared<CheckOptions>();
     parser->formatter(std::make_shared<HelpFormatter>(examples));
     parser->footer(checkExitCodeHelp);
-    CLI::Option* format = addFormatOption(*parser, options->format, formatNames());
-    parser
-        ->add_flag_callback(
-            "--json", [options] { options->format = "json"; }, "As --format json")
-        ->excludes(format)
-        ->option_text(" ");
-    parser->add_flag("--strict", options->strict, "Fail on warnings, too");
+    addFormatOptions(*parser, *options);
+    addDetailOptions(*parser, *options);
+    addFailureOptions(*parser, *options);
     asGiven(parser->add_option(
                 "--ignore", options->ignored,
                 "Leave out the findings of a code, such as \"empty-name\"; may be repeated"))

@@ -13,8 +13,9 @@ enum class ExitCode : int {
 /// The exit codes of the command that checks files.
 inline constexpr const char* checkExitCodeHelp =
     "Exit codes:\n"
-    "  0  nothing was found, or nothing worse than warnings; with --strict than notes\n"
-    "  1  something was found, or some file could not be read\n"
+    "  0  nothing was found that is as grave as --fail-on says\n"
+    "  1  something was; or a folder holds no package or cannot be listed; or the output could\n"
+    "     not be written\n"
     "  2  wrong usage; nothing was read";
 
 /// The exit codes of the command that explains findings.

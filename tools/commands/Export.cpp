@@ -15,8 +15,8 @@
 #include "tools/export/ExportJson.h"
 #include "tools/input/PackageInput.h"
 #include "tools/input/PackageReading.h"
+#include "tools/options/Arguments.h"
 #include "tools/options/CommonOptions.h"
-#include "tools/options/FormatOption.h"
 #include "tools/options/HelpFormatter.h"
 #include "tools/output/Output.h"
 #include "tools/records/MergedGrowers.h"
@@ -43,6 +43,7 @@ constexpr std::array formats = {Format{"json", "JSON", makeJsonExport},
 
 std::vector<std::string> namesOf(const char* Format::*name) {
     std::vector<std::string> names;
+    names.reserve(formats.size());
     for (const Format& format : formats)
         names.emplace_back(format.*name);
     return names;
@@ -107,7 +108,10 @@ Command addExport(CLI::App& application) {
     const auto options = std::make_shared<ExportOptions>();
     parser->formatter(std::make_shared<HelpFormatter>(examples));
     parser->footer(exitCodeHelp);
-    addFormatOption(*parser, options->format, namesOf(&Format::name))->required();
+    const std::vector<std::string> names = namesOf(&Format::name);
+    addChoice(*parser, "--format", options->format, names, joined(names, " or "))
+        ->required()
+        ->option_text("FORMAT");
     parser->add_flag("--merge", options->merge, "Merge the growers of all packages into one tree");
     addOutputOption(*parser, options->output);
     addPackageOptions(*parser, options->packages);

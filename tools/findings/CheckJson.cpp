@@ -1,11 +1,12 @@
 #include "tools/findings/CheckJson.h"
 
+#include <string>
 #include <utility>
 
 #include <fmt/format.h>
 
-#include "tools/check/FindingCollection.h"
 #include "tools/findings/FindingJson.h"
+#include "tools/findings/FindingStatistics.h"
 #include "tools/text/Escape.h"
 
 namespace {
@@ -21,7 +22,7 @@ public:
         counts_.add(finding.code);
     }
 
-    /// Those since the last call.
+    /// Of those since the last call.
     FindingCounts takeCounts() { return std::exchange(counts_, {}); }
 
 private:
@@ -34,6 +35,17 @@ std::string countsJson(const FindingCounts& counts) {
                        counts.of(Severity::Warning), counts.of(Severity::Note));
 }
 
+/// Each code that was found, the gravest first.
+std::string codesJson(const FindingStatistics& statistics) {
+    std::string json;
+    for (const FindingCode code : statistics.codes())
+        json += fmt::format(R"({}{{"code": "{}", "severity": "{}", "findings": {}, "files": {}}})",
+                            json.empty() ? "\n  " : ",\n  ", kindOf(code).code,
+                            wordFor(kindOf(code).severity), statistics.counts().of(code),
+                            statistics.filesWith(code));
+    return json;
+}
+
 class CheckJson : public CheckWriter {
 public:
     explicit CheckJson(Console& console) : console_(console), file_(console) {}
@@ -41,29 +53,33 @@ public:
     void begin() override { console_.print("{\"files\": ["); }
 
     FindingSink& beginFile(const std::string& path) override {
-        console_.print(fmt::format("{}\n  {{\"file\": {}, \"findings\": [", isFirst_ ? "" : ",",
-                                   toJson(escape(path))));
-        isFirst_ = false;
+        path_ = escape(path);
+        console_.print(fmt::format("{}\n  {{\"file\": {}, \"findings\": [",
+                                   statistics_.files() == 0 ? "" : ",", toJson(path_)));
         return file_;
     }
 
     void endFile() override {
         const FindingCounts counts = file_.takeCounts();
         console_.print(fmt::format("],\n   {}}}", countsJson(counts)));
-        sum_ += counts;
+        statistics_.addFile(path_, counts);
     }
 
-    void end() override { console_.print(fmt::format("],\n {}}}\n", countsJson(sum_))); }
+    void end() override {
+        console_.print(fmt::format("],\n \"codes\": [{}],\n \"unreadable\": {}, {}}}\n",
+                                   codesJson(statistics_), statistics_.unreadable(),
+                                   countsJson(statistics_.counts())));
+    }
 
 private:
     Console& console_;
     FileJson file_;
-    bool isFirst_ = true;
-    FindingCounts sum_;
+    std::string path_;
+    FindingStatistics statistics_;
 };
 
 } // namespace
 
-std::unique_ptr<CheckWriter> makeCheckJson(Console& console, std::size_t /*files*/) {
+std::unique_ptr<CheckWriter> makeCheckJson(Console& console, const CheckExtent& /*extent*/) {
     return std::make_unique<CheckJson>(console);
 }

@@ -1,13 +1,12 @@
 #ifndef QENXML_TOOLS_FINDINGS_CHECKJSON_H
 #define QENXML_TOOLS_FINDINGS_CHECKJSON_H
 
-#include <cstddef>
 #include <memory>
 
 #include "tools/findings/CheckWriter.h"
 #include "tools/output/Console.h"
 
 /// All findings as one JSON document, as docs/findings.schema.json describes it.
-std::unique_ptr<CheckWriter> makeCheckJson(Console& console, std::size_t files);
+std::unique_ptr<CheckWriter> makeCheckJson(Console& console, const CheckExtent& extent);
 
 #endif

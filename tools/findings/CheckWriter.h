@@ -1,9 +1,24 @@
 #ifndef QENXML_TOOLS_FINDINGS_CHECKWRITER_H
 #define QENXML_TOOLS_FINDINGS_CHECKWRITER_H
 
+#include <cstddef>
 #include <string>
 
 #include "tools/check/Finding.h"
+
+/// How much of what is found people want to see.
+enum class Detail {
+    Sum,        ///< One line.
+    Statistics, ///< Which files cannot be read, and how often each code was found.
+    Findings,   ///< The findings, too.
+    AllFiles    ///< And the files without findings.
+};
+
+/// What a check will write.
+struct CheckExtent {
+    std::size_t files = 1; ///< How many will be checked.
+    Detail detail = Detail::Findings;
+};
 
 /// A format of `qenxml check`. It is written while packages are checked, so that no more of the
 /// findings are in memory than it needs.

@@ -66,6 +66,7 @@ std::string describeWrongCode(const std::string& name) {
     if (codeNamed(name))
         return "";
     std::vector<const char*> codes;
+    codes.reserve(findingKinds.size());
     for (const FindingKind& kind : findingKinds)
         codes.push_back(kind.code);
     const std::string_view nearest = nearestName(name, codes);

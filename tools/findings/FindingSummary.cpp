@@ -7,13 +7,6 @@
 
 namespace {
 
-std::string styledWord(Severity severity, const Style& style) {
-    const std::string_view word = wordFor(severity);
-    return severity == Severity::Error     ? style.error(word)
-           : severity == Severity::Warning ? style.remark(word)
-                                           : style.kind(word);
-}
-
 std::string styledCode(FindingCode code, const Style& style) {
     return style.label(fmt::format("[{}]", kindOf(code).code));
 }
@@ -25,12 +18,11 @@ std::string excerptText(const Location& location, const Style& style) {
                        "", location.excerpt.caret, style.error("^"));
 }
 
+/// The form that compilers use, with a place for those too that are about none.
 std::string findingText(const Finding& finding, const std::string& file, const Style& style) {
-    std::string place = file;
-    if (finding.location)
-        place +=
-            fmt::format(":{}:{}", finding.location->begin.line, finding.location->begin.column);
-    std::string text = fmt::format("{}: {}: {} {}\n", place, styledWord(finding.severity(), style),
+    const Position begin = finding.location ? finding.location->begin : Position{1, 1};
+    std::string text = fmt::format("{}:{}:{}: {}: {} {}\n", file, begin.line, begin.column,
+                                   severityText(finding.severity(), style),
                                    style.name(finding.found), styledCode(finding.code, style));
     if (finding.location)
         text += excerptText(*finding.location, style);
@@ -45,16 +37,16 @@ std::string findingText(const Finding& finding, const std::string& file, const S
 std::string groupText(const FindingCollection& findings, FindingCode code, const std::string& file,
                       const Style& style) {
     std::string text;
-    std::size_t more = findings.counts().of(code);
+    std::size_t shown = 0;
     for (const Finding& finding : findings.kept()) {
         if (finding.code != code)
             continue;
         text += findingText(finding, file, style);
-        --more;
+        ++shown;
     }
-    if (more > 0)
-        text += fmt::format("{}: {}: and {} more of these {}; --json gives all of them\n\n", file,
-                            styledWord(kindOf(code).severity, style),
+    const std::size_t more = findings.counts().of(code) - shown;
+    if (shown > 0 && more > 0)
+        text += fmt::format("  and {} more of these in the file {}; --json gives all of them\n\n",
                             grouped(std::to_string(more), ","), styledCode(code, style));
     return text;
 }

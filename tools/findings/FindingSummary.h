@@ -6,8 +6,9 @@
 #include "tools/check/FindingCollection.h"
 #include "tools/output/Style.h"
 
-/// The findings of one file as people want to see them: grouped by code, the gravest last; of those
-/// that are not kept, how many there are.
+/// The findings of one file as people want to see them: grouped by code, the gravest last; of a
+/// code of which not all are kept, how many more there are. No line begins with a blank but those
+/// that say more of a finding, so that programs tell them apart.
 ///
 /// @param file how the file is called, safe to print
 std::string summaryText(const FindingCollection& findings, const std::string& file,

@@ -3,25 +3,20 @@
 #include <algorithm>
 #include <cstddef>
 #include <filesystem>
-#include <locale>
 #include <system_error>
 #include <utility>
 
-#include <boost/algorithm/string/predicate.hpp>
 #include <fmt/format.h>
 
 #include "tools/files/FileContent.h"
 #include "tools/input/PackageInput.h"
+#include "tools/input/PassedOver.h"
 #include "tools/options/CommonOptions.h"
 #include "tools/text/Escape.h"
 
 namespace fs = std::filesystem;
 
 namespace {
-
-bool isNamedXml(const fs::path& path) {
-    return boost::algorithm::iequals(path.extension().string(), ".xml", std::locale::classic());
-}
 
 /// What is in a folder.
 struct FolderContent {
@@ -30,18 +25,18 @@ struct FolderContent {
 };
 
 /// Lists a folder; of what is not allowed or fails there is a complaint.
-FolderContent list(const std::string& folder, PackageFiles& files) {
+FolderContent list(const std::string& folder, PackageFiles& files, PassedOver& passedOver) {
     FolderContent content;
     std::error_code error;
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
          entry.increment(error)) {
         std::error_code ignored;
-        if (!entry->is_directory(ignored)) {
-            if (isNamedXml(entry->path()))
-                content.packages.push_back(entry->path().string());
-        } else if (!entry->is_symlink(ignored)) { // which may lead back to where it is
+        if (const auto reason = reasonToPassOver(*entry))
+            passedOver.add(*reason);
+        else if (entry->is_directory(ignored))
             content.folders.push_back(entry->path().string());
-        }
+        else
+            content.packages.push_back(entry->path().string());
     }
     if (error)
         files.complaints.push_back(fmt::format("{}: {}; packages in it are left out",
@@ -51,17 +46,20 @@ FolderContent list(const std::string& folder, PackageFiles& files) {
 
 void addFolder(const std::string& folder, PackageFiles& files) {
     const std::size_t complaints = files.complaints.size();
+    PassedOver passedOver;
     std::vector<std::string> found;
     for (std::vector<std::string> folders = {folder}; !folders.empty();) {
         const std::string next = std::move(folders.back());
         folders.pop_back();
-        const FolderContent content = list(next, files);
+        const FolderContent content = list(next, files, passedOver);
         found.insert(found.end(), content.packages.begin(), content.packages.end());
         folders.insert(folders.end(), content.folders.begin(), content.folders.end());
     }
     if (found.empty() && files.complaints.size() == complaints)
-        files.complaints.push_back(
-            fmt::format("{}: no file in it ends in .xml; nothing is checked", escape(folder)));
+        files.complaints.push_back(fmt::format(
+            "{}: no visible file in it ends in .xml; nothing is checked", escape(folder)));
+    if (const std::string text = passedOver.text(); !text.empty())
+        files.remarks.push_back(fmt::format("{}: passed over {}", escape(folder), text));
     std::sort(found.begin(), found.end());
     files.paths.insert(files.paths.end(), found.begin(), found.end());
 }

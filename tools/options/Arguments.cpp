@@ -53,3 +53,9 @@ CLI::Option* asGiven(CLI::Option* option) {
     };
     return option->transform(CLI::Validator(take, ""));
 }
+
+CLI::Option* addChoice(CLI::App& parser, const std::string& option, std::string& choice,
+                       const std::vector<std::string>& choices, const std::string& description) {
+    return asGiven(parser.add_option(option, choice, description)
+                       ->transform(CLI::IsMember(choices, CLI::ignore_case).description("")));
+}

@@ -24,6 +24,10 @@ CLI::Option* addName(CLI::App& parser, const std::string& option, std::string& n
 CLI::Option* addNames(CLI::App& parser, const std::string& positional,
                       std::vector<std::string>& names, const std::string& description);
 
+/// Adds an option that takes one of @p choices, in whatever case.
+CLI::Option* addChoice(CLI::App& parser, const std::string& option, std::string& choice,
+                       const std::vector<std::string>& choices, const std::string& description);
+
 /// Gives an option its arguments as they were given, before they are checked.
 CLI::Option* asGiven(CLI::Option* option);
 

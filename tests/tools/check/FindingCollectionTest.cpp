@@ -28,6 +28,17 @@ TEST(FindingCollection, KeepsTheFirstOnesOfEachCodeAndCountsAll) {
     EXPECT_EQ(findings.counts().sum(), 23U);
 }
 
+TEST(FindingCollection, CountsThoseBeforeForTheLimitOnly) {
+    FindingCounts before;
+    for (int i = 0; i < 8; ++i)
+        before.add(FindingCode::EmptyName);
+    FindingCollection findings(10, before);
+    offer(findings, FindingCode::EmptyName, 5);
+    offer(findings, FindingCode::RecId, 5);
+    EXPECT_EQ(findings.kept().size(), 7U);
+    EXPECT_EQ(findings.counts().of(FindingCode::EmptyName), 5U);
+}
+
 TEST(FindingCollection, KeepsEverythingWithoutALimit) {
     FindingCollection findings;
     offer(findings, FindingCode::EmptyName, 100);

@@ -32,7 +32,7 @@ const std::vector<CommandWithConsequence> commands = {
     {{"export", "--format", "csv"}, "qenxml: -: ", skipped},
     {{"report"}, "qenxml: -: ", skipped},
     {{"check"},
-     "-: error: ",
+     "-:1:1: error: ",
      " [unreadable]\n  so:    nothing of the file is read\n\n-: 1 error\n"},
     {{"check", "--json"},
      "\"found\":\"",
@@ -91,7 +91,8 @@ TEST_F(StandardInput, ThatIsNotReadIsNoFindingWhenNobodyWantsIt) {
     const RunResult result = run({"check", "--json", "--ignore", "unreadable"}, options);
     EXPECT_EQ(result.output, "{\"files\": [\n  {\"file\": \"-\", \"findings\": [],\n"
                              "   \"errors\": 0, \"warnings\": 0, \"notes\": 0}],\n"
-                             " \"errors\": 0, \"warnings\": 0, \"notes\": 0}\n");
+                             " \"codes\": [],\n"
+                             " \"unreadable\": 0, \"errors\": 0, \"warnings\": 0, \"notes\": 0}\n");
 }
 
 TEST_F(StandardInput, ThatIsClosedIsNotRead) {

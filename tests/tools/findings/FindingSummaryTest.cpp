@@ -46,8 +46,22 @@ TEST(FindingSummary, ShowsTheFirstTenOfACodeAndCountsTheOthers) {
     for (std::size_t line = 1; line <= 10; ++line)
         expected += shown("warning", "not-a-number", line);
     EXPECT_EQ(summaryText(findings, "a.xml", Style()),
-              expected + "a.xml: warning: and 1,234 more of these [not-a-number]; --json gives all "
+              expected + "  and 1,234 more of these in the file [not-a-number]; --json gives all "
                          "of them\n\n");
+}
+
+TEST(FindingSummary, SaysNothingOfACodeOfWhichNoFindingIsKept) {
+    FindingCollection findings(0);
+    add(findings, FindingCode::NotANumber, 1);
+    EXPECT_EQ(summaryText(findings, "a.xml", Style()), "");
+}
+
+TEST(FindingSummary, GivesThoseThatAreAboutNoPartOfTheFileAPlaceTheyCanBeOpenedAt) {
+    FindingCollection findings;
+    findings.add({FindingCode::NameNotUuid, "the name", ReadAs{"x"}});
+    EXPECT_EQ(summaryText(findings, "a.xml", Style()),
+              "a.xml:1:1: warning: the name [name-not-uuid]\n"
+              "  so:    every rec carries the invented package UUID x\n\n");
 }
 
 TEST(FindingSummary, IsEmptyWithoutFindings) {
