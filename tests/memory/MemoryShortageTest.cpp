@@ -132,7 +132,8 @@ INSTANTIATE_TEST_SUITE_P(Commands, MemoryShortage,
                                          std::vector<const char*>{"report"},
                                          std::vector<const char*>{"show"},
                                          std::vector<const char*>{"check"},
-                                         std::vector<const char*>{"check", "--json"}),
+                                         std::vector<const char*>{"check", "--json"},
+                                         std::vector<const char*>{"check", "--format", "sarif"}),
                          [](const auto& words) {
                              std::string name;
                              for (const std::string word : words.param)

@@ -5,14 +5,18 @@
 #include <chrono>
 #include <cstddef>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include <fmt/format.h>
 
+#include "tools/findings/Baseline.h"
 #include "tools/findings/CheckJson.h"
+#include "tools/findings/CheckSarif.h"
 #include "tools/findings/CheckText.h"
 #include "tools/findings/Explanation.h"
+#include "tools/findings/NewFindings.h"
 #include "tools/findings/WantedFindings.h"
 #include "tools/input/InputCheck.h"
 #include "tools/input/PackageFiles.h"
@@ -38,7 +42,8 @@ struct Format {
 };
 
 /// All formats. The manual, the completions and the help follow.
-constexpr std::array formats = {Format{"text", makeCheckText}, Format{"json", makeCheckJson}};
+constexpr std::array formats = {Format{"text", makeCheckText}, Format{"json", makeCheckJson},
+                                Format{"sarif", makeCheckSarif}};
 
 constexpr std::chrono::seconds untilProgress{2};
 
@@ -65,6 +70,7 @@ struct CheckOptions {
     Detail detail = Detail::Findings;
     std::string failOn = "error";
     std::vector<std::string> ignored;
+    std::string baseline; ///< A file; empty for none.
     PackageOptions packages;
 };
 
@@ -76,23 +82,43 @@ std::string codeList() {
     return list;
 }
 
+/// What is wrong with an argument that shall name a file.
+std::string describeNoName(const std::string& name) {
+    return unguarded(name).empty() ? "the name of the file is empty" : "";
+}
+
+Baseline baselineIn(const std::string& path) {
+    try {
+        return path.empty() ? Baseline() : Baseline(path);
+    } catch (const std::invalid_argument& error) {
+        throw CLI::ValidationError("--baseline", error.what());
+    }
+}
+
 /// Checks the files one by one.
 ///
-/// @return what was found in all of them
+/// @return what was found in all of them, beyond what the baseline has
 FindingCounts checkFiles(const PackageOptions& packages, const WantedCodes& wanted,
-                         CheckWriter& writer, Console& console) {
+                         Baseline& baseline, CheckWriter& writer, Console& console) {
     FindingCounts sum;
+    std::size_t known = 0;
     ProgressLine progress(console, packages.files.size(), untilProgress);
     writer.begin();
     for (const std::string& path : packages.files) {
         WantedFindings findings(wanted, progress, writer.beginFile(path));
         progress.beginFile(path);
-        checkInput(PackageInput(path, packages), findings);
+        NewFindings unknown(baseline, wanted, path, findings);
+        FindingSink& sink = baseline.isEmpty() ? static_cast<FindingSink&>(findings) : unknown;
+        checkInput(PackageInput(path, packages), sink);
         writer.endFile();
         sum += findings.counts();
+        known += unknown.known();
     }
     writer.end();
     console.clearProgress();
+    if (known > 0)
+        console.complain(
+            fmt::format("{} left out, which the baseline has", quantity(known, "finding")));
     return sum;
 }
 
@@ -116,10 +142,12 @@ ExitCode check(const CheckOptions& options, Console& console) {
     const PackageFiles files = packageFiles(options.packages.files);
     for (const std::string& complaint : files.complaints)
         console.complain(complaint);
+    Baseline baseline = baselineIn(options.baseline);
     const auto writer =
         formatNamed(options.format).make(console, {files.paths.size(), options.detail});
-    const FindingCounts counts = checkFiles({files.paths, options.packages.uuid},
-                                            wantedCodes(options.ignored), *writer, console);
+    const FindingCounts counts =
+        checkFiles({files.paths, options.packages.uuid}, wantedCodes(options.ignored), baseline,
+                   *writer, console);
     for (const std::string& remark : files.remarks)
         console.complain(remark);
     const bool failed = isFailure(counts, options.failOn) || !files.complaints.empty();
@@ -197,6 +225,10 @@ Command addCheck(CLI::App& application) {
         ->option_text("CODE")
         ->allow_extra_args(false)
         ->check(CLI::Validator(describeWrongCode, ""));
+    addName(*parser, "--baseline", options->baseline,
+            "Leave out what FILE, an earlier output in the format sarif, has")
+        ->option_text("FILE")
+        ->check(CLI::Validator(describeNoName, ""));
     parser->set_version_flag("--codes", codeList, "Print the codes of all findings");
     addPackageOptions(*parser, options->packages,
                       "Package files, named UUID.xml, and folders with such");

@@ -70,8 +70,8 @@ std::string fromLatin1(const std::string& bytes) {
     return text;
 }
 
-std::string toUtf8(std::string bytes) {
-    switch (encodingOf(bytes)) {
+std::string toUtf8(std::string bytes, pugi::xml_encoding encoding) {
+    switch (encoding) {
     case pugi::encoding_utf16_le:
         return fromUtf16(bytes, false);
     case pugi::encoding_utf16_be:
@@ -123,7 +123,8 @@ std::string shown(std::string_view text) {
 
 } // namespace
 
-SourceText::SourceText(std::string bytes) : utf8_(toUtf8(std::move(bytes))) {
+SourceText::SourceText(std::string bytes)
+    : encoding_(encodingOf(bytes)), utf8_(toUtf8(std::move(bytes), encoding_)) {
     constexpr std::size_t distance = 1024;
     const std::string_view text = utf8_;
     std::size_t next = 0;
@@ -199,7 +200,7 @@ Extent SourceText::extent(pugi::xml_node element, pugi::xml_attribute attribute)
 
 Location SourceText::location(Extent extent) const {
     return {extent, position(extent.offset), position(extent.offset + extent.length),
-            excerpt(extent.offset)};
+            excerpt(extent.offset), encoding_ == pugi::encoding_utf8};
 }
 
 Excerpt SourceText::excerpt(std::size_t offset) const {

@@ -29,9 +29,10 @@ struct Extent {
 /// A part of a file.
 struct Location {
     Extent extent;
-    Position begin = {}; ///< Of its first character.
-    Position end = {};   ///< Behind its last character.
-    Excerpt excerpt;     ///< The line in which it begins, around that place.
+    Position begin = {};  ///< Of its first character.
+    Position end = {};    ///< Behind its last character.
+    Excerpt excerpt;      ///< The line in which it begins, around that place.
+    bool isInFile = true; ///< Whether the file has these bytes: it is not in another encoding.
 };
 
 /// The text of an XML file. It tells where in the file something stands, which pugixml alone does
@@ -78,6 +79,7 @@ private:
         Position position;
     };
 
+    pugi::xml_encoding encoding_; // of the file
     std::string utf8_;
     std::vector<Mark> marks_; // close enough together to count from the last one before a place
 };

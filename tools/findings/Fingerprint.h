@@ -1,0 +1,20 @@
+#ifndef QENXML_TOOLS_FINDINGS_FINGERPRINT_H
+#define QENXML_TOOLS_FINDINGS_FINGERPRINT_H
+
+#include <cstdint>
+#include <string_view>
+
+#include "tools/check/Finding.h"
+
+/// The name under which outputs give fingerprints. Its number rises when they are made otherwise.
+inline constexpr std::string_view fingerprintName = "qenxmlFinding/v1";
+
+/// What is the same of a finding wherever it stands: the FNV-1a hash, of 64 bits, of the name of
+/// the file without its folders, the code, the kinds and identifiers of the records around it (the
+/// name where an identifier cannot be read), the path and what was found, these two without any
+/// numbers of lines, bytes and siblings. Findings that are alike in all that have the same one.
+///
+/// @param path of the file
+std::uint64_t fingerprintOf(const Finding& finding, std::string_view path);
+
+#endif
