@@ -189,5 +189,18 @@ TEST(PackageElements, ThatAreRecordsBeginWithTheirIdentifierAndName) {
             check(*element.item);
     };
     check(format::elementOf<format::recPackage>);
+    check(format::elementOf<format::pesticide>);
     EXPECT_EQ(records.size(), found);
+}
+
+TEST(PackageElements, HaveAPesticideMixThatIsReadOnRequestOnly) {
+    const format::Element& pesticide = format::elementOf<format::pesticide>;
+    Lines lines;
+    addTable(lines, pesticide);
+    EXPECT_EQ(
+        (Lines{"Pesticide PesticideMixName text", "Pesticide UOMID integer", "Pesticide UOM text"}),
+        lines);
+    EXPECT_TRUE(pesticide.isProduct);
+    for (const format::Element* product : format::elementOf<format::recData>.parts)
+        EXPECT_NE(&pesticide, product);
 }
