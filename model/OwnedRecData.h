@@ -9,7 +9,7 @@ namespace qenxml { // not for hosts
 /// The product data of a rec: a pointer that owns, or null.
 ///
 /// Copying is deep, as the class that the kind names, and drops product data of an unknown kind.
-/// The object that was held before an assignment, or before set(), is *not* deleted: it belongs to
+/// The object that was held before an assignment, set() or take() is *not* deleted: it belongs to
 /// whoever took the pointer beforehand.
 class QENXML_LOCAL OwnedRecData {
 public:
@@ -23,7 +23,8 @@ public:
 
     void set(QenRecData* data) { data_ = data; }
 
-    /// Takes over what a copy of @p other would have, where nobody will look at @p other again.
+    /// Takes over what a copy of @p other would have, where nobody will look at @p other again:
+    /// product data of an unknown kind stays with @p other.
     void take(OwnedRecData& other) noexcept;
 
 private:

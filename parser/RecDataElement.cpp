@@ -2,8 +2,6 @@
 #include <string_view>
 #include <tuple>
 #include <type_traits>
-#include <utility>
-#include <vector>
 
 #include "parser/QenXmlParser.h"
 #include "parser/internal/PackageReader.h"

@@ -27,7 +27,7 @@ inline QenRec makeRec(unsigned id, const std::string& name, unsigned recId = 0) 
 }
 
 /// A rec whose product data is of a kind that copies drop.
-inline QenRec recOfUnknownKind(unsigned id, int kind = 5) {
+inline QenRec recOfUnknownKind(unsigned id, int kind = 99) {
     return QenRec({}, {}, "unknown", uuid(id), {}, "", "", "", {}, "", 0, {},
                   new QenRecData(uuid(99), static_cast<RecType>(kind)), 0.0, 0.0, 0.0, "", 0, 0.0,
                   0, "", 0.0, 0, "", false, {});

@@ -6,7 +6,6 @@
 #define QENXML_TESTS_MODEL_MERGETREES_H
 
 #include <string>
-#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -65,7 +64,7 @@ inline QenGrower grower(unsigned id, const std::string& name,
 inline void makeKindsUnknown(QenField& field) {
     for (QenRec& rec : field.recs()) {
         delete rec.recData();
-        rec.setRecData(new QenRecData(uuid(99), static_cast<RecType>(5)));
+        rec.setRecData(new QenRecData(uuid(99), static_cast<RecType>(99)));
     }
 }
 

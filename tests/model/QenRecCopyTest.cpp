@@ -203,7 +203,7 @@ TEST(QenRec, ProductDataKeepsItsOwnRecIdInACopy) {
 }
 
 TEST(QenRec, CopiesDropProductDataOfAnUnknownKind) {
-    for (const int kind : {0, 5, -1, 2147483647}) {
+    for (const int kind : {0, -1, 99, 2147483647}) {
         SCOPED_TRACE(kind);
         QenRec rec = recOfKind(static_cast<RecType>(kind));
         expectCopiedWithoutProductData(rec);
@@ -229,7 +229,7 @@ TEST(QenRec, CopiesDropADefaultConstructedPesticideMix) {
 TEST(QenRec, DroppedProductDataIsNotDeletedFromTheSource) {
     int destroyed = 0;
     {
-        const QenRec rec = wholeRec(new CountingRecData(destroyed, static_cast<RecType>(5)));
+        const QenRec rec = wholeRec(new CountingRecData(destroyed, static_cast<RecType>(99)));
         { const QenRec copy(rec); }
         EXPECT_EQ(destroyed, 0);
     }

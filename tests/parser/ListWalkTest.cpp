@@ -3,7 +3,6 @@
 
 #include "parser/QenXmlParser.h"
 
-#include <functional>
 #include <ostream>
 #include <stdexcept>
 #include <string>

@@ -1,10 +1,7 @@
 #include "parser/QenXmlParser.h"
 
-#include <array>
-#include <cstdint>
 #include <filesystem>
 #include <functional>
-#include <memory>
 #include <stdexcept>
 #include <string>
 #include <utility>
