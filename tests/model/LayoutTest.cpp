@@ -29,6 +29,10 @@ using namespace std::string_literals;
 // Everything below, and with it every host, counts on that.
 static_assert(sizeof(uuid) == 16 && alignof(uuid) == 1);
 
+constexpr std::size_t aligned(std::size_t offset, std::size_t alignment) {
+    return (offset + alignment - 1) / alignment * alignment;
+}
+
 /// Goes over the members of an object as a compiler lays them out: one behind the other, each where
 /// its alignment allows it.
 template <class Object>
@@ -39,34 +43,35 @@ public:
             next<const void*>();
     }
 
-    ~Members() {
-        align(alignof(Object));
-        EXPECT_EQ(offset_, sizeof(Object));
-    }
+    ~Members() { EXPECT_EQ(aligned(offset_, alignof(Object)), sizeof(Object)); }
 
     Members(const Members&) = delete;
     Members& operator=(const Members&) = delete;
 
     template <class Member>
     const Member& next() {
-        align(alignof(Member));
+        offset_ = aligned(offset_, alignof(Member));
         const auto& member = *reinterpret_cast<const Member*>(object_ + offset_);
         offset_ += sizeof(Member);
         return member;
     }
 
 private:
-    void align(std::size_t alignment) {
-        offset_ = (offset_ + alignment - 1) / alignment * alignment;
-    }
-
     const char* object_;
     std::size_t offset_ = 0;
 };
 
+template <class Object, class... Values>
+constexpr std::size_t sizeOfMembers() {
+    std::size_t size = std::is_polymorphic_v<Object> ? sizeof(void*) : 0;
+    ((size = aligned(size, alignof(Values)) + sizeof(Values)), ...);
+    return aligned(size, alignof(Object));
+}
+
 /// That an object holds these values, in this order, and no others.
 template <class Object, class... Values>
 void expectMembers(const Object& object, const Values&... values) {
+    static_assert(sizeOfMembers<Object, Values...>() == sizeof(Object));
     Members<Object> members(object);
     std::size_t number = 0;
     (([&] {

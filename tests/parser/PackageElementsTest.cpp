@@ -133,8 +133,11 @@ void addDocument(Lines& lines, const std::string& row) {
         return;
     const std::string where = column.str(2);
     std::vector<std::string> parents = matches(where, "`(\\w+)`");
-    if (where == "element in each product")
-        parents = {"Planting", "CommercialFertilizer", "CustomFertilizer"};
+    if (where == "element in each product") {
+        for (const std::string& line : lines) // The products come first.
+            for (const std::string& name : matches(line, "RecData (\\w+) product"))
+                parents.push_back(name);
+    }
     const std::string at = where.rfind("attribute", 0) == 0 ? "@" : "";
     const std::vector<std::string> types =
         matches(column.str(4), "(identifier|text|integer|number|container|list)");
