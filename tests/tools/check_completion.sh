@@ -54,6 +54,8 @@ check_shell() { # SHELL
         grep -qxe "$word" <<<"$words" || fail "$1 does not offer $word"
     done
     for subcommand in $(listed Commands); do
+        [ "$1" = bash ] || grep -qiF "$("$command" --help | sed -n "s/^  $subcommand  *//p")'" \
+            "$share/$1/"*/*qenxml* || fail "$1 does not say what $subcommand is for"
         words=$("offered_by_$1" qenxml "$subcommand" -)
         for word in $(listed Options "$subcommand"); do
             grep -qxe "$word" <<<"$words" || fail "$1 does not offer $word after $subcommand"

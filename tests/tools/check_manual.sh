@@ -68,5 +68,7 @@ for subcommand in $(listed Commands); do
     check_page "qenxml-$subcommand" "$subcommand"
     check_exit_codes "qenxml-$subcommand" "$subcommand"
     grep -q "Xr qenxml-$subcommand 1" "$folder/qenxml.1" || fail "qenxml does not name $subcommand"
+    purpose=$("$command" --help | sed -n "s/^  $subcommand  *//p")
+    grep -qxF "$purpose." "$folder/qenxml.1" || fail "qenxml does not say of $subcommand: $purpose"
 done
 exit "$failed"
