@@ -76,7 +76,7 @@ protected:
         test::grower(1, test::farm(2, test::field(3, "<FieldCentroid><Latitude>1</Latitude>"
                                                      "<Longitude>2</Longitude></FieldCentroid>" +
                                                          test::recommendations(test::recWithNumbers(
-                                                             4, test::planting("3.5"), "3.5")))))));
+                                                             4, RecTypePlanting, "3.5")))))));
 };
 
 class MemoryShortage : public MemoryShortageOfExport,

@@ -6,8 +6,9 @@
 #ifndef QENXML_TESTS_ROBUSTNESS_ALLOCATIONFAILURE_H
 #define QENXML_TESTS_ROBUSTNESS_ALLOCATIONFAILURE_H
 
+#include <array>
+#include <cstddef>
 #include <functional>
-#include <memory>
 #include <optional>
 #include <string>
 #include <type_traits>
@@ -36,19 +37,9 @@ inline const RecType allKinds[] = {RecTypeNone, RecTypeCommercialFertilizer,
                                    RecTypeCustomFertilizer, RecTypePlanting, RecTypePesticide};
 
 inline const char* nameOf(RecType kind) {
-    switch (kind) {
-    case RecTypeCommercialFertilizer:
-        return "commercial fertilizer";
-    case RecTypeCustomFertilizer:
-        return "custom fertilizer";
-    case RecTypePlanting:
-        return "planting";
-    case RecTypePesticide:
-        return "pesticide";
-    case RecTypeNone:
-        break;
-    }
-    return "no product data";
+    constexpr std::array names = {"no product data", "commercial fertilizer", "custom fertilizer",
+                                  "planting", "pesticide"};
+    return names.at(static_cast<std::size_t>(kind));
 }
 
 /// An operation that makes a value and changes nothing else.

@@ -15,7 +15,6 @@
 #include <pugixml.hpp>
 
 #include "parser/QenXmlParser.h"
-#include "tests/robustness/Instrumented.h"
 #include "tests/robustness/NumberPackage.h"
 #include "tests/robustness/Outcome.h"
 #include "tests/support/Describe.h"
@@ -115,7 +114,7 @@ private:
     const std::string ordinary_ = folder_.writePackage(
         test::package(test::grower(
             3, test::farm(13, test::field(23, test::recommendations(test::recWithNumbers(
-                                                  33, test::planting("3.5"), "3.5")))))),
+                                                  33, RecTypePlanting, "3.5")))))),
         "ffffffff-4455-6677-8899-aabbccddeeff");
     const std::string described_ = [this] {
         QenXmlParser parser;

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "tests/robustness/HostileFile.h"
+#include "tests/robustness/Instrumented.h"
 
 namespace {
 

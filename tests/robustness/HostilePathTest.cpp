@@ -11,6 +11,7 @@
 #include <unistd.h>
 
 #include "tests/robustness/HostileFile.h"
+#include "tests/robustness/Instrumented.h"
 #include "tests/support/OrdinaryUser.h"
 
 // The XML library asks for half of all memory to read a directory, and is refused. The allocators

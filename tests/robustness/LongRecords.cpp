@@ -67,7 +67,7 @@ std::unique_ptr<QenRecData> longData(RecType kind, unsigned number, const std::s
         }
         return std::make_unique<PesticideRec>(rec, percent, amount, of("mix"), 8, of("unit"));
     }
-    case RecTypeNone:
+    default:
         break;
     }
     return nullptr;

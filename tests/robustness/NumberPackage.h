@@ -18,16 +18,20 @@
 
 namespace test {
 
+/// So long that a string of it takes memory.
+inline const std::string longWords = "some words of over 15 bytes";
+
 // Elements whose numbers are all spelt @p text.
 
 inline std::string commercialFertilizer(const std::string& text) {
     return element("CommercialFertilizer", elements({"ProductID", "UOMID"}, text) +
-                                               elements({"ProductName", "UOM"}, "commercial"));
+                                               elements({"ProductName", "UOM"}, longWords));
 }
 
 inline std::string customFertilizer(const std::string& text) {
     return element("CustomFertilizer",
-                   element("ProductID", uuidText(41)) + elements({"ProductName", "UOM"}, "custom") +
+                   element("ProductID", uuidText(41)) +
+                       elements({"ProductName", "UOM"}, longWords) +
                        elements({"UOMID", "SFertT_ID", "SpGravity", "Pct_N", "Pct_P", "Pct_K",
                                  "Pct_Ca", "Pct_Mg", "Pct_S", "Pct_Fe", "Pct_Mn", "Pct_Zn",
                                  "Pct_Cu", "Pct_B", "Pct_Mo", "Pct_Cl"},
@@ -37,43 +41,66 @@ inline std::string customFertilizer(const std::string& text) {
 inline std::string planting(const std::string& text) {
     return element("Planting",
                    elements({"CropID", "CompanyID", "VarietyID", "UOMID"}, text) +
-                       elements({"CropName", "CompanyName", "VarietyName", "UOM"}, "planting"));
+                       elements({"CropName", "CompanyName", "VarietyName", "UOM"}, longWords));
 }
 
 inline std::string pesticide(const std::string& text) {
     return element("Pesticide",
-                   element("UOMID", text) + elements({"PesticideMixName", "UOM"}, "pesticide"));
+                   element("UOMID", text) + elements({"PesticideMixName", "UOM"}, longWords));
 }
 
-inline std::string recWithNumbers(unsigned number, const std::string& product,
-                                  const std::string& text) {
+/// The element of a kind of product data; none for no kind.
+inline std::string productWithNumbers(RecType kind, const std::string& text) {
+    switch (kind) {
+    case RecTypeCommercialFertilizer:
+        return commercialFertilizer(text);
+    case RecTypeCustomFertilizer:
+        return customFertilizer(text);
+    case RecTypePlanting:
+        return planting(text);
+    case RecTypePesticide:
+        return pesticide(text);
+    default:
+        break;
+    }
+    return "";
+}
+
+inline std::string recWithNumbers(unsigned number, RecType kind, const std::string& text) {
     return rec(
         number,
-        element("RecName", "rec") +
-            elements({"CreationDate", "EditDate", "RecDBFCol"}, "2026-04-01") +
-            element("Operation", "OpID", 51, element("OpName", "operation")) +
-            "<Season SeasonID=\"" + text + "\"><SeasonName>season</SeasonName>" + "</Season>" +
-            element("RecData", product) +
+        elements({"RecName", "CreationDate", "EditDate", "RecDBFCol"}, longWords) +
+            element("Operation", "OpID", 51, element("OpName", longWords)) + "<Season SeasonID=\"" +
+            text + "\">" + element("SeasonName", longWords) + "</Season>" +
+            element("RecData", productWithNumbers(kind, text)) +
             element("RecStats", elements({"MinimumRate", "MaximumRate", "AverageRate", "RateUOMID",
                                           "Total", "TotalUOMID", "Area", "AreaUOMID"},
                                          text) +
-                                    elements({"RateUOM", "TotalUOM", "AreaUOM"}, "unit")));
+                                    elements({"RateUOM", "TotalUOM", "AreaUOM"}, longWords)));
 }
 
+inline std::string fieldWithRecs(unsigned number, const std::string& recs,
+                                 const std::string& text) {
+    return field(number, elements({"FieldName", "FieldGeometryDate"}, longWords) +
+                             element("FieldCentroid", elements({"Latitude", "Longitude"}, text)) +
+                             recommendations(recs));
+}
+
+/// A field with a rec of each kind of product data that is read.
 inline std::string fieldWithNumbers(const std::string& text) {
-    return field(21, element("FieldName", "field") + element("FieldGeometryDate", "2026-03-01") +
-                         element("FieldCentroid", elements({"Latitude", "Longitude"}, text)) +
-                         recommendations(recWithNumbers(31, customFertilizer(text), text) +
-                                         recWithNumbers(32, commercialFertilizer(text), text) +
-                                         recWithNumbers(33, planting(text), text)));
+    return fieldWithRecs(21,
+                         recWithNumbers(31, RecTypeCustomFertilizer, text) +
+                             recWithNumbers(32, RecTypeCommercialFertilizer, text) +
+                             recWithNumbers(33, RecTypePlanting, text),
+                         text);
 }
 
 inline std::string farmWithNumbers(const std::string& text) {
-    return farm(11, element("FarmName", "farm") + fieldWithNumbers(text));
+    return farm(11, element("FarmName", longWords) + fieldWithNumbers(text));
 }
 
 inline std::string growerWithNumbers(const std::string& text) {
-    return grower(1, element("GrowerName", "grower") + farmWithNumbers(text));
+    return grower(1, element("GrowerName", longWords) + farmWithNumbers(text));
 }
 
 /// All that was read of such elements, each with the name of its place.

@@ -36,67 +36,63 @@ Numbers numbersOf(Record record) {
     return numbers;
 }
 
-template <class Data>
-Numbers numbersOfData(Data* data) {
-    const std::unique_ptr<Data> owner(data);
-    return numbersOf<Data&>(*owner);
-}
-
 inline const boost::uuids::uuid anyUuid = uuid(7);
 
+/// @param element makes the element
+/// @param read    reads it by a parser
+template <class Read>
+Reader readerOf(const char* name, std::string (*element)(const std::string&), Read read) {
+    return {name, [=](const std::string& text) {
+                const Xml xml(element(text));
+                QenXmlParser parser;
+                return numbersOf(read(parser, xml.root()));
+            }};
+}
+
+template <class Data>
+Reader readerOf(const char* name, std::string (*element)(const std::string&),
+                Data* (QenXmlParser::*read)(boost::uuids::uuid, pugi::xml_node)) {
+    return {name, [=](const std::string& text) {
+                const Xml xml(element(text));
+                const std::unique_ptr<Data> data((QenXmlParser().*read)(anyUuid, xml.root()));
+                return numbersOf<Data&>(*data);
+            }};
+}
+
+inline std::string recElement(const std::string& text) {
+    return recWithNumbers(31, RecTypeCustomFertilizer, text);
+}
+
+inline std::string recDataElement(const std::string& text) {
+    return element("RecData", customFertilizer(text));
+}
+
 inline const std::vector<Reader>& readers() {
+    using Parser = QenXmlParser;
+    using Node = pugi::xml_node;
     static const std::vector<Reader> all = {
         {"parseFile",
          [](const std::string& text) {
              return numbersOf(growersOf(package(growerWithNumbers(text))).at(0));
          }},
-        {"parseGrowerNode",
-         [](const std::string& text) {
-             const Xml xml(growerWithNumbers(text));
-             return numbersOf(QenXmlParser().parseGrowerNode(xml.root()));
-         }},
-        {"parseFarmNode",
-         [](const std::string& text) {
-             const Xml xml(farmWithNumbers(text));
-             return numbersOf(QenXmlParser().parseFarmNode(anyUuid, xml.root()));
-         }},
-        {"parseFieldNode",
-         [](const std::string& text) {
-             const Xml xml(fieldWithNumbers(text));
-             return numbersOf(QenXmlParser().parseFieldNode(anyUuid, anyUuid, xml.root()));
-         }},
-        {"parseRecNode",
-         [](const std::string& text) {
-             const Xml xml(recWithNumbers(31, customFertilizer(text), text));
-             return numbersOf(QenXmlParser().parseRecNode(anyUuid, anyUuid, xml.root()));
-         }},
-        {"parseRecDataNode",
-         [](const std::string& text) {
-             const Xml xml(element("RecData", customFertilizer(text)));
-             return numbersOfData(QenXmlParser().parseRecDataNode(anyUuid, xml.root()));
-         }},
-        {"parseCustomFertilizerRecDataNode",
-         [](const std::string& text) {
-             const Xml xml(customFertilizer(text));
-             return numbersOfData(
-                 QenXmlParser().parseCustomFertilizerRecDataNode(anyUuid, xml.root()));
-         }},
-        {"parseCommercialFertilizerRecDataNode",
-         [](const std::string& text) {
-             const Xml xml(commercialFertilizer(text));
-             return numbersOfData(
-                 QenXmlParser().parseCommercialFertilizerRecDataNode(anyUuid, xml.root()));
-         }},
-        {"parsePlantingRecDataNode",
-         [](const std::string& text) {
-             const Xml xml(planting(text));
-             return numbersOfData(QenXmlParser().parsePlantingRecDataNode(anyUuid, xml.root()));
-         }},
-        {"parsePesticideRecDataNode",
-         [](const std::string& text) {
-             const Xml xml(pesticide(text));
-             return numbersOfData(QenXmlParser().parsePesticideRecDataNode(anyUuid, xml.root()));
-         }},
+        readerOf("parseGrowerNode", growerWithNumbers,
+                 [](Parser& parser, Node node) { return parser.parseGrowerNode(node); }),
+        readerOf("parseFarmNode", farmWithNumbers,
+                 [](Parser& parser, Node node) { return parser.parseFarmNode(anyUuid, node); }),
+        readerOf("parseFieldNode", fieldWithNumbers,
+                 [](Parser& parser, Node node) {
+                     return parser.parseFieldNode(anyUuid, anyUuid, node);
+                 }),
+        readerOf(
+            "parseRecNode", recElement,
+            [](Parser& parser, Node node) { return parser.parseRecNode(anyUuid, anyUuid, node); }),
+        readerOf("parseRecDataNode", recDataElement, &Parser::parseRecDataNode),
+        readerOf("parseCustomFertilizerRecDataNode", customFertilizer,
+                 &Parser::parseCustomFertilizerRecDataNode),
+        readerOf("parseCommercialFertilizerRecDataNode", commercialFertilizer,
+                 &Parser::parseCommercialFertilizerRecDataNode),
+        readerOf("parsePlantingRecDataNode", planting, &Parser::parsePlantingRecDataNode),
+        readerOf("parsePesticideRecDataNode", pesticide, &Parser::parsePesticideRecDataNode),
     };
     return all;
 }

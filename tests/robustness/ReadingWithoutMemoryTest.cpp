@@ -1,7 +1,5 @@
 // Reading files and elements while memory runs out.
 
-#include <functional>
-#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -12,6 +10,7 @@
 
 #include "parser/QenXmlParser.h"
 #include "tests/robustness/AllocationFailure.h"
+#include "tests/robustness/NumberPackage.h"
 #include "tests/support/PackageText.h"
 #include "tests/support/Texts.h"
 #include "tests/support/Xml.h"
@@ -20,69 +19,16 @@ namespace {
 
 using test::allKinds;
 using test::Attempt;
+using test::element;
 using test::expectMakes;
-using test::longText;
+using test::longWords;
 using test::nameOf;
 using test::text;
 using test::tryEveryAllocation;
 using test::uuid;
 
-std::string longElement(const std::string& name, unsigned number) {
-    return test::element(name, longText(name + "-" + std::to_string(number)));
-}
-
-std::string numberElements(std::initializer_list<const char*> names) {
-    std::string result;
-    unsigned number = 0;
-    for (const char* name : names)
-        result += test::element(name, std::to_string(++number));
-    return result;
-}
-
-std::string productElement(RecType kind, unsigned number) {
-    switch (kind) {
-    case RecTypeCommercialFertilizer:
-        return test::element("CommercialFertilizer", numberElements({"ProductID", "UOMID"}) +
-                                                         longElement("ProductName", number) +
-                                                         longElement("UOM", number));
-    case RecTypeCustomFertilizer:
-        return test::element(
-            "CustomFertilizer",
-            test::element("ProductID", test::uuidText(100 + number)) +
-                longElement("ProductName", number) + longElement("UOM", number) +
-                numberElements({"UOMID", "SFertT_ID", "SpGravity", "Pct_N", "Pct_P", "Pct_K",
-                                "Pct_Ca", "Pct_Mg", "Pct_S", "Pct_Fe", "Pct_Mn", "Pct_Zn", "Pct_Cu",
-                                "Pct_B", "Pct_Mo", "Pct_Cl"}));
-    case RecTypePlanting:
-        return test::element(
-            "Planting", numberElements({"CropID", "CompanyID", "VarietyID", "UOMID"}) +
-                            longElement("CropName", number) + longElement("CompanyName", number) +
-                            longElement("VarietyName", number) + longElement("UOM", number));
-    case RecTypePesticide:
-        return test::element("Pesticide", longElement("PesticideMixName", number) +
-                                              numberElements({"UOMID"}) +
-                                              longElement("UOM", number));
-    case RecTypeNone:
-        break;
-    }
-    return "";
-}
-
-/// A Rec element with all of its optional parts.
 std::string recElement(unsigned number, RecType kind) {
-    return "<Rec RecID=\"" + test::uuidText(number) + "\" MgmtZoneID=\"" + test::uuidText(601) +
-           "\">" + longElement("RecName", number) +
-           test::element("RecGeometry", test::uuidText(602)) + longElement("CreationDate", number) +
-           longElement("EditDate", number) + longElement("RecDBFCol", number) +
-           test::element("Operation", "OpID", 603, longElement("OpName", number)) +
-           "<Season SeasonID=\"4\">" + longElement("SeasonName", number) + "</Season>" +
-           test::element("RecData", productElement(kind, number)) +
-           test::element("RecStats",
-                         numberElements({"MinimumRate", "MaximumRate", "AverageRate", "RateUOMID",
-                                         "Total", "TotalUOMID", "Area", "AreaUOMID"}) +
-                             longElement("RateUOM", number) + longElement("TotalUOM", number) +
-                             longElement("AreaUOM", number)) +
-           "</Rec>";
+    return test::recWithNumbers(number, kind, std::to_string(number));
 }
 
 /// Recs of all kinds, one without optional parts, and two that replace others by another kind.
@@ -95,38 +41,29 @@ std::string recElements(unsigned first) {
 }
 
 std::string fieldElement(unsigned number, const std::string& recs) {
-    return test::element(
-        "Field", "FieldID", number,
-        longElement("FieldName", number) +
-            test::element("FieldGeometryID", test::uuidText(7000 + number)) +
-            longElement("FieldGeometryDate", number) +
-            test::element("FieldGeometry", test::uuidText(8000 + number)) +
-            test::element("FieldCentroid", numberElements({"Latitude", "Longitude"})) +
-            test::element("Recommendations", recs));
+    return test::fieldWithRecs(number, recs, std::to_string(number));
 }
 
 /// Two fields, the first of which stands there twice.
 std::string farmElement(unsigned number, unsigned field) {
-    return test::element("Farm", "FarmID", number,
-                         longElement("FarmName", number) +
-                             fieldElement(field, recElement(1, RecTypePlanting)) +
-                             test::field(field + 1) + fieldElement(field, recElements(20)));
+    return test::farm(number, element("FarmName", longWords) +
+                                  fieldElement(field, recElement(1, RecTypePlanting)) +
+                                  test::field(field + 1) + fieldElement(field, recElements(20)));
 }
 
 /// Two farms, the first of which stands there twice.
 std::string growerElement(unsigned number, unsigned farm) {
-    return test::element(
-        "Grower", "GrowerID", number,
-        longElement("GrowerName", number) +
-            test::farm(farm, fieldElement(50, recElement(1, RecTypeCustomFertilizer))) +
-            test::farm(farm + 1) + farmElement(farm, 60));
+    return test::grower(
+        number, element("GrowerName", longWords) +
+                    test::farm(farm, fieldElement(50, recElement(1, RecTypeCustomFertilizer))) +
+                    test::farm(farm + 1) + farmElement(farm, 60));
 }
 
 /// Four growers, among them one without any optional part and one with the identifier of another.
 std::string packageText() {
     return test::package(
         growerElement(1, 71) + test::grower(2) +
-        test::grower(1, longElement("GrowerName", 1) + test::farm(81)) +
+        test::grower(1, element("GrowerName", longWords) + test::farm(81)) +
         test::grower(
             3, test::farm(91, fieldElement(92, recElement(93, RecTypeCommercialFertilizer)))));
 }
@@ -343,26 +280,26 @@ TEST_F(AllocationFailure, AFailedReaderOfProductDataLosesNothing) {
     for (const RecType kind :
          {RecTypeCommercialFertilizer, RecTypeCustomFertilizer, RecTypePlanting}) {
         expectReadsElement<Data>(std::string("parseRecDataNode of ") + nameOf(kind), 3,
-                                 test::element("RecData", productElement(kind, 1)),
+                                 element("RecData", test::productWithNumbers(kind, "1")),
                                  [](QenXmlParser& parser, pugi::xml_node node) {
                                      return Data(parser.parseRecDataNode(uuid(1), node));
                                  });
     }
     expectReadsElement<Data>(
-        "parseCommercialFertilizerRecDataNode", 3, productElement(RecTypeCommercialFertilizer, 1),
+        "parseCommercialFertilizerRecDataNode", 3, test::commercialFertilizer("1"),
         [](QenXmlParser& parser, pugi::xml_node node) {
             return Data(parser.parseCommercialFertilizerRecDataNode(uuid(1), node));
         });
-    expectReadsElement<Data>(
-        "parseCustomFertilizerRecDataNode", 3, productElement(RecTypeCustomFertilizer, 1),
-        [](QenXmlParser& parser, pugi::xml_node node) {
-            return Data(parser.parseCustomFertilizerRecDataNode(uuid(1), node));
-        });
-    expectReadsElement<Data>("parsePlantingRecDataNode", 5, productElement(RecTypePlanting, 1),
+    expectReadsElement<Data>("parseCustomFertilizerRecDataNode", 3, test::customFertilizer("1"),
+                             [](QenXmlParser& parser, pugi::xml_node node) {
+                                 return Data(
+                                     parser.parseCustomFertilizerRecDataNode(uuid(1), node));
+                             });
+    expectReadsElement<Data>("parsePlantingRecDataNode", 5, test::planting("1"),
                              [](QenXmlParser& parser, pugi::xml_node node) {
                                  return Data(parser.parsePlantingRecDataNode(uuid(1), node));
                              });
-    expectReadsElement<Data>("parsePesticideRecDataNode", 3, productElement(RecTypePesticide, 1),
+    expectReadsElement<Data>("parsePesticideRecDataNode", 3, test::pesticide("1"),
                              [](QenXmlParser& parser, pugi::xml_node node) {
                                  return Data(parser.parsePesticideRecDataNode(uuid(1), node));
                              });
