@@ -162,6 +162,22 @@ const std::vector<BrokenPackage>& brokenPackages() {
          "<RateUOMID>12</RateUOMID>\n"
          "              <RateUOM>kg/ha</RateUOM>",
          ana},
+        {"total-mismatch", "true", ana, "<Total>22764</Total>", "<Total>2276.4</Total>", ana},
+        {"units-disagree", "true", ana, "<TotalUOM>t</TotalUOM>", "<TotalUOM>kg</TotalUOM>", ana},
+        {"rates-zero", "true", ana,
+         "<MinimumRate>0</MinimumRate>\n"
+         "              <MaximumRate>0</MaximumRate>\n"
+         "              <AverageRate>0</AverageRate>",
+         "<MinimumRate>90</MinimumRate>\n"
+         "              <MaximumRate>180</MaximumRate>\n"
+         "              <AverageRate>135.5</AverageRate>",
+         ana},
+        {"unit-code", "true", ana,
+         "<RateUOMID>12</RateUOMID>\n"
+         "              <!-- Wrong",
+         "<RateUOMID>14</RateUOMID>\n"
+         "              <!-- Wrong",
+         ana},
         {"centroid-range", "true", ana, "<Latitude>1869427</Latitude>",
          "<Latitude>45.55182</Latitude>", ana},
         {"centroid-zero", "true", ana, "<FieldCentroid/>",
@@ -170,6 +186,11 @@ const std::vector<BrokenPackage>& brokenPackages() {
          "          <Longitude>18.69427</Longitude>\n"
          "        </FieldCentroid>",
          ana},
+        {"centroid-far", "true", ana, "<Longitude>-18.70932</Longitude>",
+         "<Longitude>18.70932</Longitude>", ana},
+        {"not-a-date", "true", ana, "2026-02-30", "2026-02-20", ana},
+        {"date-order", "true", ana, "2026-01-20", "2026-02-20", ana},
+        {"dbf-column", "true", ana, "TARGET_RATE", "TARGET_RAT", ana},
         {"empty-name", "true", ana, "<FarmName/>", "<FarmName>Horvatov salaš</FarmName>", ana},
         {"nil-identifier", "true", ana, "FarmID=\"00000000-0000-0000-0000-000000000000\"",
          "FarmID=\"0e853b3d-0878-42f1-ba82-d5e02fc65f07\"", ana},

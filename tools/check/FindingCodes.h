@@ -113,10 +113,27 @@ constexpr std::string_view wordFor(Severity severity) {
             "the rates are kept as they are")                                                      \
     FINDING(RateWithoutUnit, "rate-without-unit", Note, "a rate has no unit",                      \
             "nobody can tell what the rates mean")                                                 \
+    FINDING(TotalMismatch, "total-mismatch", Note, "a total is not rate times area",               \
+            "the total is passed on as it is, and so are rate and area")                           \
+    FINDING(UnitsDisagree, "units-disagree", Note,                                                 \
+            "the units of rate, area and total do not go together",                                \
+            "the units are passed on as they are")                                                 \
+    FINDING(RatesZero, "rates-zero", Note, "there is a total, but all rates are 0",                \
+            "hosts show, and may apply, a rate of 0")                                              \
+    FINDING(UnitCode, "unit-code", Note, "codes and texts of units contradict each other",         \
+            "hosts that go by the code and hosts that go by the text see different units")         \
     FINDING(CentroidRange, "centroid-range", Note, "coordinates are out of range",                 \
             "the field is somewhere off the map")                                                  \
     FINDING(CentroidZero, "centroid-zero", Note, "the centroid of a field is at (0, 0)",           \
             "the centroid is read as {}")                                                          \
+    FINDING(CentroidFar, "centroid-far", Note, "a field is far from the others of its farm",       \
+            "the field is shown where its centroid says")                                          \
+    FINDING(NotADate, "not-a-date", Note, "a date is not a date",                                  \
+            "the text is passed on as it is")                                                      \
+    FINDING(DateOrder, "date-order", Note, "a rec was edited before it was created",               \
+            "the dates are passed on as they are")                                                 \
+    FINDING(DbfColumn, "dbf-column", Note, "no DBF file can have such a column",                   \
+            "hosts will not find the rates of the rec in its DBF file")                            \
     FINDING(EmptyName, "empty-name", Note, "a record has no name", "hosts can show no name")       \
     FINDING(NilIdentifier, "nil-identifier", Note, "an identifier is nil",                         \
             "hosts cannot tell it from an identifier that is not there")                           \

@@ -50,7 +50,8 @@ FindingCode duplicateOf(const ElementFormat& format) {
 
 class PackageWalk {
 public:
-    explicit PackageWalk(CheckReport& report) : report_(report), check_(report) {}
+    explicit PackageWalk(CheckReport& report)
+        : report_(report), check_(report), plausibility_(report) {}
 
     void walk(const pugi::xml_document& document) {
         const pugi::xml_node package = document.child(tag::RecPackage);
@@ -132,6 +133,8 @@ private:
         report_.progress(offset);
         if (&format == &format::grower())
             report_.beginGrower();
+        else if (&format == &format::farm())
+            plausibility_.beginFarm(node);
         const CheckReport::Inside inside(report_, node.name(), number);
         const char* const idName = format.attributes.front().name;
         const IdentifierReading id = readIdentifier(node.attribute(idName).as_string());
@@ -252,10 +255,7 @@ private:
     void partValue(const ElementFormat& format, const DatumFormat& datum, pugi::xml_node child,
                    pugi::xml_node name) {
         emptyName(child, name);
-        if (&format == &format::recStats())
-            checkRate(report_, child);
-        else if (&format == &format::fieldCentroid())
-            checkCoordinate(report_, child);
+        plausibility_.value(format, child);
         check_.value(datum, child);
     }
 
@@ -276,8 +276,7 @@ private:
             seasonWithoutId(node);
         else if (&format == &format::recStats())
             incompleteStatistics(node);
-        else if (&format == &format::fieldCentroid())
-            checkCentroid(report_, node);
+        plausibility_.element(format, node);
         check_.attributes(format.attributes, node, [&](pugi::xml_attribute id) {
             if (&format == &format::season())
                 negativeSeason(node, id);
@@ -335,6 +334,7 @@ private:
 
     CheckReport& report_;
     ElementCheck check_;
+    PlausibilityCheck plausibility_;
 };
 
 } // namespace

@@ -1,119 +1,38 @@
 #include "tools/check/PlausibilityCheck.h"
 
-#include <string>
 #include <string_view>
 
-#include <fmt/format.h>
-
-#include "parser/internal/TagConstants.h"
-#include "tools/check/NumberReading.h"
-#include "tools/check/PackageFormat.h"
+#include "tools/check/CentroidCheck.h"
+#include "tools/check/ColumnCheck.h"
+#include "tools/check/DateCheck.h"
+#include "tools/check/RateCheck.h"
+#include "tools/check/TotalCheck.h"
 
 namespace tag = qenxml::tag;
 
-namespace {
-
-using Details = CheckReport::Details;
-
-/// A number that may be there.
-struct Value {
-    Value(pugi::xml_node parent, const char* childName)
-        : name(childName),
-          node(parent.child(childName)),
-          number(readNumber(node.text().as_string())) {}
-
-    const char* name;
-    pugi::xml_node node;
-    NumberReading number;
-};
-
-/// The rates of a RecStats element.
-struct Rates {
-    explicit Rates(pugi::xml_node recStats)
-        : minimum(recStats, tag::MinimumRate),
-          average(recStats, tag::AverageRate),
-          maximum(recStats, tag::MaximumRate) {}
-
-    Value minimum;
-    Value average;
-    Value maximum;
-};
-
-void checkOrder(CheckReport& report, const Value& small, const Value& large) {
-    if (!small.node || !large.node || !(small.number.value > large.number.value))
+void PlausibilityCheck::element(const ElementFormat& format, pugi::xml_node node) {
+    if (&format != &format::fieldCentroid())
         return;
-    report.add(FindingCode::RateOrder, small.node, small.name, [&] {
-        return Details{fmt::format("{} {} is above {} {}", small.name, small.number.read,
-                                   large.name, large.number.read),
-                       Kept{}};
-    });
+    checkCentroid(report_, node);
+    checkSpread(report_, farm_, node);
 }
 
-void checkUnit(CheckReport& report, const Rates& rates, pugi::xml_node child) {
-    const pugi::xml_node recStats = child.parent();
-    const bool hasUnit = *recStats.child(tag::RateUOM).text().as_string() != '\0' ||
-                         recStats.child(tag::RateUOMID).text().as_int() != 0;
-    if (hasUnit)
-        return;
-    for (const Value* rate : {&rates.minimum, &rates.average, &rates.maximum}) {
-        if (rate->number.value == 0)
-            continue;
-        if (rate->node == child) // The unit is that of all rates: it is missing once.
-            report.add(FindingCode::RateWithoutUnit, child, rate->name, [&] {
-                return Details{fmt::format("{} is {}, without a {} or {}", rate->name,
-                                           rate->number.read, tag::RateUOM, tag::RateUOMID),
-                               Kept{}};
-            });
-        return;
-    }
+void PlausibilityCheck::value(const ElementFormat& format, pugi::xml_node child) {
+    if (&format == &format::recStats())
+        statistic(child);
+    else if (&format == &format::fieldCentroid())
+        checkCoordinate(report_, child);
+    else if (std::string_view(child.name()) == tag::RecDBFCol)
+        checkColumn(report_, child);
+    else
+        checkDate(report_, child);
 }
 
-void checkRange(CheckReport& report, const Value& value, double limit) {
-    if (value.number.value >= -limit && value.number.value <= limit)
-        return;
-    report.add(FindingCode::CentroidRange, value.node, value.name, [&] {
-        return Details{fmt::format("{} {} is not between {} and {}", value.name, value.number.read,
-                                   -limit, limit),
-                       Kept{}};
-    });
-}
-
-} // namespace
-
-void checkRate(CheckReport& report, pugi::xml_node child) {
-    const std::string_view name = child.name();
-    if (name != tag::MinimumRate && name != tag::AverageRate && name != tag::MaximumRate)
-        return;
-    const Rates rates(child.parent());
-    if (child == rates.minimum.node)
-        checkOrder(report, rates.minimum, rates.average.node ? rates.average : rates.maximum);
-    else if (child == rates.average.node)
-        checkOrder(report, rates.average, rates.maximum);
-    checkUnit(report, rates, child);
-}
-
-void checkCentroid(CheckReport& report, pugi::xml_node fieldCentroid) {
-    const Value latitude(fieldCentroid, tag::Latitude);
-    const Value longitude(fieldCentroid, tag::Longitude);
-    const bool zero = latitude.number.value == 0 && longitude.number.value == 0;
-    if (latitude.node && longitude.node && !zero)
-        return;
-    report.add(FindingCode::CentroidZero, fieldCentroid, "", [&] {
-        std::string found;
-        for (const Value* value : {&latitude, &longitude}) {
-            if (!value->node)
-                found += fmt::format("{}{} is missing", found.empty() ? "" : ", ", value->name);
-        }
-        return Details{
-            found.empty() ? "latitude and longitude are 0" : found,
-            ReadAs{fmt::format("({}, {})", latitude.number.read, longitude.number.read)}};
-    });
-}
-
-void checkCoordinate(CheckReport& report, pugi::xml_node coordinate) {
-    constexpr double poles = 90;
-    constexpr double halfCircle = 180;
-    const bool latitude = std::string_view(coordinate.name()) == tag::Latitude;
-    const char* const name = latitude ? tag::Latitude : tag::Longitude;
-    checkRange(report, Value(coordinate.parent(), name), latitude ? poles : halfCircle);
+void PlausibilityCheck::statistic(pugi::xml_node child) {
+    if (std::string_view(child.name()) == tag::Total)
+        checkTotal(report_, child);
+    else
+        checkRate(report_, child);
+    for (UnitCodes& codes : unitCodes_)
+        codes.check(report_, child);
 }

@@ -1,0 +1,81 @@
+#include "tools/check/RateCheck.h"
+
+#include <string_view>
+
+#include <fmt/format.h>
+
+#include "parser/internal/TagConstants.h"
+#include "tools/check/NumberReading.h"
+
+namespace tag = qenxml::tag;
+
+namespace {
+
+using Details = CheckReport::Details;
+
+/// A number that may be there.
+struct Value {
+    Value(pugi::xml_node parent, const char* childName)
+        : name(childName),
+          node(parent.child(childName)),
+          number(readNumber(node.text().as_string())) {}
+
+    const char* name;
+    pugi::xml_node node;
+    NumberReading number;
+};
+
+/// The rates of a RecStats element.
+struct Rates {
+    explicit Rates(pugi::xml_node recStats)
+        : minimum(recStats, tag::MinimumRate),
+          average(recStats, tag::AverageRate),
+          maximum(recStats, tag::MaximumRate) {}
+
+    Value minimum;
+    Value average;
+    Value maximum;
+};
+
+void checkOrder(CheckReport& report, const Value& small, const Value& large) {
+    if (!small.node || !large.node || !(small.number.value > large.number.value))
+        return;
+    report.add(FindingCode::RateOrder, small.node, small.name, [&] {
+        return Details{fmt::format("{} {} is above {} {}", small.name, small.number.read,
+                                   large.name, large.number.read),
+                       Kept{}};
+    });
+}
+
+void checkUnit(CheckReport& report, const Rates& rates, pugi::xml_node child) {
+    const pugi::xml_node recStats = child.parent();
+    const bool hasUnit = *recStats.child(tag::RateUOM).text().as_string() != '\0' ||
+                         recStats.child(tag::RateUOMID).text().as_int() != 0;
+    if (hasUnit)
+        return;
+    for (const Value* rate : {&rates.minimum, &rates.average, &rates.maximum}) {
+        if (rate->number.value == 0)
+            continue;
+        if (rate->node == child) // The unit is that of all rates: it is missing once.
+            report.add(FindingCode::RateWithoutUnit, child, rate->name, [&] {
+                return Details{fmt::format("{} is {}, without a {} or {}", rate->name,
+                                           rate->number.read, tag::RateUOM, tag::RateUOMID),
+                               Kept{}};
+            });
+        return;
+    }
+}
+
+} // namespace
+
+void checkRate(CheckReport& report, pugi::xml_node child) {
+    const std::string_view name = child.name();
+    if (name != tag::MinimumRate && name != tag::AverageRate && name != tag::MaximumRate)
+        return;
+    const Rates rates(child.parent());
+    if (child == rates.minimum.node)
+        checkOrder(report, rates.minimum, rates.average.node ? rates.average : rates.maximum);
+    else if (child == rates.average.node)
+        checkOrder(report, rates.average, rates.maximum);
+    checkUnit(report, rates, child);
+}
