@@ -3,7 +3,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "tools/input/PackageInput.h"
 #include "tools/input/PackageReading.h"
@@ -24,13 +23,6 @@ struct ReportOptions {
     PackageOptions packages;
 };
 
-ReportPackage examine(const PackageInput& input, Console& console) {
-    ReportPackage package;
-    package.reading = readAndComplain(input, "reported", console, &package.findings);
-    package.counts = countRecords(package.reading.growers);
-    return package;
-}
-
 ExitCode report(const ReportOptions& options, Console& console) {
     if (options.output.empty() && console.isTerminal())
         throw CLI::ValidationError("the page would fill the terminal; name a file for it, such as "
@@ -39,14 +31,17 @@ ExitCode report(const ReportOptions& options, Console& console) {
     Output output(options.output, console);
     ExitCode result = ExitCode::Success;
     bool anyRead = false;
-    std::vector<ReportPackage> packages;
+    ReportData data;
     for (const std::string& file : options.packages.files) {
-        packages.push_back(examine(PackageInput(file, options.packages), console));
-        if (!isWhole(packages.back()))
+        PackageFindings findings = data.nextFindings();
+        data.add(
+            readAndComplain(PackageInput(file, options.packages), "reported", console, &findings),
+            findings);
+        if (!isWhole(data.packages().back()))
             result = ExitCode::Failure;
-        anyRead = anyRead || isReadable(packages.back());
+        anyRead = anyRead || isReadable(data.packages().back());
     }
-    writeReport(packages, [&output](std::string_view text) { output.write(text); });
+    writeReport(data, [&output](std::string_view text) { output.write(text); });
     output.finish(anyRead);
     return result;
 }

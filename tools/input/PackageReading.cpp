@@ -16,6 +16,7 @@
 #include "tools/files/PackageUuid.h"
 #include "tools/input/InputCheck.h"
 #include "tools/text/Escape.h"
+#include "tools/text/Words.h"
 
 namespace {
 
@@ -112,11 +113,10 @@ std::string failureMessage(const PackageReading& reading, std::string_view done)
     if (failure.position)
         place += fmt::format(":{}:{}", failure.position->line, failure.position->column);
 
-    const std::size_t count = reading.growers.size();
     const std::string consequence =
-        count == 0   ? "the file is skipped"
-        : count == 1 ? fmt::format("the grower before it is {}", done)
-                     : fmt::format("the {} growers before it are {}", count, done);
+        reading.growers.empty()
+            ? "the file is skipped"
+            : fmt::format("{} {}", thoseBefore(reading.growers.size(), "grower"), done);
     return fmt::format("{}: {}; {}", place, failure.reason, consequence);
 }
 

@@ -16,3 +16,7 @@ std::string groupedText(double number) {
 std::string groupedText(std::size_t number) {
     return grouped(std::to_string(number));
 }
+
+std::string groupedQuantity(std::size_t number, std::string_view noun) {
+    return groupedText(number) + " " + plural(number, noun);
+}

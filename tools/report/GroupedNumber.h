@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 /// The text of a number in groups.
 std::string grouped(std::string number);
@@ -16,5 +17,8 @@ std::string grouped(std::string number);
 std::string groupedText(double number);
 
 std::string groupedText(std::size_t number);
+
+/// A number of things: "1 rec", "2 recs".
+std::string groupedQuantity(std::size_t number, std::string_view noun);
 
 #endif

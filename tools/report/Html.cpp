@@ -2,6 +2,10 @@
 
 #include <algorithm>
 
+#include <boost/uuid/uuid_io.hpp>
+#include <fmt/format.h>
+
+#include "tools/report/MapLettering.h"
 #include "tools/text/Escape.h"
 #include "tools/text/Utf8.h"
 
@@ -44,6 +48,19 @@ std::string html(std::string_view text) {
 
 std::string htmlName(std::string_view text) {
     return text.empty() ? "" : "<bdi>" + html(text) + "</bdi>";
+}
+
+std::string htmlRecordName(std::string_view name, const char* otherwise) {
+    return name.empty() ? otherwise : htmlName(shortName(name));
+}
+
+std::string shortName(std::string_view name) {
+    constexpr std::size_t mostCharacters = 200;
+    return shortened(name, mostCharacters);
+}
+
+std::string htmlIdentifier(const boost::uuids::uuid& id) {
+    return fmt::format("<span class=\"id\">{}</span>", to_string(id));
 }
 
 std::string htmlWithCode(std::string_view text) {

@@ -9,13 +9,6 @@
 #include <string_view>
 #include <vector>
 
-/// Letters of the map, in units of the picture. A narrow screen shows the picture smaller, where
-/// they have to be larger to be read.
-struct Lettering {
-    const char* style; ///< Class of what is shown with them.
-    double size;
-};
-
 /// Part of the map.
 struct Box {
     double left;

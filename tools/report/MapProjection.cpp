@@ -7,9 +7,8 @@
 
 namespace {
 
-constexpr double pi = 3.14159265358979323846;
 constexpr double leastHeight = 260.0;
-constexpr double mostHeight = 520.0;
+constexpr double mostHeight = 420.0;
 constexpr double margin = 48.0;       // above and below the points
 constexpr double sideMargin = 100.0;  // where latitudes and names have room
 constexpr double leastDegrees = 0.01; // what the map shows at least: a kilometre
@@ -24,11 +23,6 @@ Range rangeOf(const std::vector<MapPoint>& points, Value value) {
     return range;
 }
 
-double eastward(const MapPoint& point) {
-    const double longitude = point.centroid.longitude;
-    return longitude < 0.0 ? longitude + 360.0 : longitude;
-}
-
 std::string degreesText(double degrees, int decimals, const char* letter) {
     return fmt::format("{:.{}f}\u00B0 {}", degrees, decimals, letter);
 }
@@ -39,6 +33,11 @@ bool isWrittenAsZero(double number, int decimals) {
 }
 
 } // namespace
+
+double eastward(const MapPoint& point) {
+    const double longitude = point.centroid.longitude;
+    return longitude < 0.0 ? longitude + degreesAround : longitude;
+}
 
 void Range::widenTo(double least) {
     const double missing = std::max(0.0, least - span());
@@ -55,7 +54,7 @@ MapProjection::MapProjection(const std::vector<MapPoint>& points)
         longitudes_ = shifted;
         shifted_ = true;
     }
-    shrink_ = std::max(0.05, std::cos(latitudes_.middle() * pi / 180.0));
+    shrink_ = std::max(0.05, std::cos(latitudes_.middle() * radiansPerDegree));
     latitudes_.widenTo(leastDegrees);
     longitudes_.widenTo(leastDegrees / shrink_);
     const double room = width - 2.0 * sideMargin;
@@ -95,7 +94,8 @@ std::string latitudeText(double latitude, int decimals) {
 }
 
 std::string longitudeText(double longitude, int decimals) {
-    const double east = std::remainder(longitude, 360.0); // the picture may go around the earth
+    const double east =
+        std::remainder(longitude, degreesAround); // the picture may go around the earth
     const double degrees = std::abs(east);
     if (isWrittenAsZero(degrees, decimals))
         return "0\u00B0";

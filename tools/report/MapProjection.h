@@ -6,6 +6,13 @@
 
 #include "tools/report/ReportMap.h"
 
+constexpr double degreesAround = 360.0;         ///< All longitudes.
+constexpr double kilometresPerDegree = 111.195; ///< Of latitude.
+constexpr double radiansPerDegree = 3.14159265358979323846 / 180.0;
+
+/// The longitude of a point, from 0 to 360.
+double eastward(const MapPoint& point);
+
 /// Numbers from one to another.
 struct Range {
     double from;

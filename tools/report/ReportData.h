@@ -1,96 +1,84 @@
 #ifndef QENXML_TOOLS_REPORT_REPORTDATA_H
 #define QENXML_TOOLS_REPORT_REPORTDATA_H
 
-#include <array>
 #include <cstddef>
-#include <map>
-#include <set>
+#include <optional>
 #include <string>
-#include <tuple>
+#include <string_view>
 #include <vector>
 
 #include <boost/uuid/uuid.hpp>
 
-#include "tools/check/FindingCollection.h"
 #include "tools/input/PackageReading.h"
+#include "tools/report/FarmPlaces.h"
+#include "tools/report/FileNames.h"
+#include "tools/report/FindingGroups.h"
+#include "tools/report/PackageFindings.h"
+#include "tools/report/ProductTotals.h"
+#include "tools/report/RecordCounts.h"
 
-/// How many records there are.
-struct RecordCounts {
-    std::size_t growers = 0;
-    std::size_t farms = 0;
-    std::size_t fields = 0;
-    std::size_t recs = 0;
-    std::size_t recsWithoutProduct = 0;
-
-    RecordCounts& operator+=(const RecordCounts& other);
-};
-
-constexpr std::size_t mostFindingsOfACode = 10;
-
-/// A package with what the report says about it.
+/// A package without its records.
 struct ReportPackage {
-    PackageReading reading;
-    FindingCollection findings = FindingCollection(mostFindingsOfACode);
+    std::string name;
+    std::optional<boost::uuids::uuid> uuid;
+    std::optional<ReadFailure> failure;
+    std::optional<Finding> error; ///< The first one.
     RecordCounts counts;
+    std::size_t findings = 0;
 };
 
 /// Whether all of it was read and checked.
 bool isWhole(const ReportPackage& package);
 
+/// Whether nothing of it was read.
+bool isLost(const ReportPackage& package);
+
 /// Whether there is a file that could be read or checked, be it a broken one.
 bool isReadable(const ReportPackage& package);
 
-/// A product, and the unit in which its total is given.
-struct ProductUnit {
-    std::string kind; ///< Empty for recs without product data.
-    std::string name;
-    std::string unit;
-
-    /// By kind, name and unit; recs without product data come last.
-    bool operator<(const ProductUnit& other) const;
+/// The records of a package.
+struct PackageRecords {
+    std::size_t package; ///< Its index.
+    std::vector<QenGrower> growers;
+    std::vector<GrowerGaps> gaps;
 };
 
-/// A sum of numbers as packages give them, which does not gather the errors of its additions.
-class Sum {
+/// What the report says about packages, which are added one by one. Of most of them it keeps no
+/// records, so that thousands fit into memory.
+class ReportData {
 public:
-    void add(double number);
+    // A page of everything in thousands of packages would open in no browser.
+    static constexpr std::size_t mostFields = 300;
+    static constexpr std::size_t mostRecs = 400;
 
-    /// The sum with all digits that are exact; a single number as it was given; empty without any.
-    std::string text() const;
+    /// Takes the findings of the package that is added next.
+    PackageFindings nextFindings() { return {findings_, packages_.size()}; }
+
+    void add(PackageReading reading, const PackageFindings& findings);
+
+    const std::vector<ReportPackage>& packages() const { return packages_; }
+    const RecordCounts& counts() const { return counts_; }
+    const FindingGroups& findings() const { return findings_; }
+    const FarmPlaces& places() const { return places_; }
+    const ProductTotals& totals() const { return totals_; }
+
+    /// Those of the first packages with fields, as far as they are shown.
+    std::vector<PackageRecords>& records() { return records_; }
+
+    /// The folder of all files, not escaped; may be empty.
+    std::string folder() const { return files_.folder(); }
+
+    /// The file of a package without that folder, not escaped.
+    std::string_view fileName(const ReportPackage& package) const;
 
 private:
-    double sum_ = 0.0;
-    double lost_ = 0.0; // by rounding, so far
-    std::size_t numbers_ = 0;
+    std::vector<ReportPackage> packages_;
+    RecordCounts counts_;
+    FindingGroups findings_;
+    FarmPlaces places_;
+    ProductTotals totals_;
+    std::vector<PackageRecords> records_;
+    FileNames files_;
 };
-
-/// What recs say together about a product.
-struct ProductTotal {
-    std::size_t recs = 0;
-    std::size_t recsWithoutTotal = 0; ///< Their packages do not give any.
-    Sum total;
-    std::map<std::string, Sum> areas; ///< By unit.
-};
-
-/// Sums up recs by product and unit. A rec that several packages hold counts once, as it is read
-/// first: the library merges them so.
-class ProductTotals {
-public:
-    void add(std::vector<QenGrower>& growers, const std::vector<GrowerGaps>& gaps);
-
-    const std::map<ProductUnit, ProductTotal>& totals() const { return totals_; }
-
-    /// How many recs came again.
-    std::size_t repeated() const { return repeated_; }
-
-private:
-    void add(QenRec& rec, const MissingNumbers& missing);
-
-    std::map<ProductUnit, ProductTotal> totals_;
-    std::set<std::array<boost::uuids::uuid, 4>> seen_; // grower, farm, field and rec
-    std::size_t repeated_ = 0;
-};
-
-RecordCounts countRecords(std::vector<QenGrower>& growers);
 
 #endif

@@ -1,7 +1,6 @@
 #include "tools/report/ReportMap.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstddef>
 #include <map>
@@ -17,8 +16,10 @@
 
 namespace {
 
-constexpr double metresPerDegree = 111195.0; // of latitude
-constexpr double radius = 6.0;               // of points
+constexpr double radius = 6.0;      // of points
+constexpr double letterSize = 21.0; // can be read where the map is as narrow as a phone
+constexpr double above = 0.95;      // the line of a text, in sizes of its letters
+constexpr double below = 0.25;
 
 /// Fields that would hide each other, drawn as one point.
 struct PointGroup {
@@ -67,60 +68,61 @@ std::string isolated(const std::string& name) {
     return text;
 }
 
-/// What of the map depends on the size of its letters: lines, the scale, and names.
-class MapLayer {
+std::string pointOf(const PointGroup& group) {
+    const std::string others =
+        group.fields == 1 ? "" : fmt::format(" and {} more", groupedText(group.fields - 1));
+    return fmt::format(
+        "<circle class=\"field\" cx=\"{:.1f}\" cy=\"{:.1f}\" r=\"{:.0f}\">"
+        "<title>{}{}</title></circle>\n",
+        group.x, group.y, radius,
+        group.name.empty() ? "Field without a name" : htmlOfEscaped(isolated(group.name)), others);
+}
+
+/// Everything on the map with its texts, none of which lies over anything else.
+class MapPicture {
 public:
-    MapLayer(const MapProjection& projection, const std::vector<PointGroup>& groups,
-             const Lettering& lettering)
+    MapPicture(const MapProjection& projection, const std::vector<PointGroup>& groups)
         : projection_(projection),
-          letters_(lettering),
+          groups_(groups),
           room_(MapProjection::width, projection.height()) {
         for (const PointGroup& group : groups)
             room_.take({group.x - radius, group.y - radius, group.x + radius, group.y + radius});
     }
 
-    /// What lies below the points.
-    std::string ground() {
+    std::string text() {
         writeScale();
         writeLongitudes();
         writeLatitudes();
-        return group(lines_ + std::exchange(texts_, "")); // no line goes through a text
-    }
-
-    /// The names of points where there is room for them.
-    std::string names(const std::vector<PointGroup>& groups) {
-        for (const PointGroup& each : groups)
-            writeName(each);
-        return group(texts_);
+        std::string ground = lines_ + std::exchange(texts_, ""); // no line goes through a text
+        for (const PointGroup& group : groups_) {
+            ground += pointOf(group);
+            writeName(group);
+        }
+        return ground + texts_;
     }
 
 private:
-    std::string group(const std::string& content) const {
-        return fmt::format("<g class=\"{}\">\n{}</g>\n", letters_.style, content);
-    }
-
     /// Between lines there is room for the longest of their labels.
     double step(double perDegree) const {
         constexpr double longestLabel = 7.0;
         constexpr double most = 90.0;
-        return std::min(most, roundUp(longestLabel * letters_.size / perDegree));
+        return std::min(most, roundUp(longestLabel * letterSize / perDegree));
     }
 
     void writeScale() {
         constexpr double longest = 160.0;
-        constexpr double kilometre = 1000.0;
-        const double scale = projection_.perDegreeOfLatitude();
-        const double metres = roundDown(longest / scale * metresPerDegree);
-        const double length = metres / metresPerDegree * scale;
+        const double scale = projection_.perDegreeOfLatitude() / kilometresPerDegree;
+        const double kilometres = roundDown(longest / scale);
+        const double length = kilometres * scale;
         const double right = MapProjection::width - 12.0;
         const double bottom = projection_.height() - 12.0;
-        const std::string label = metres < kilometre
-                                      ? fmt::format("{:.0f} m", metres)
-                                      : grouped(fmt::format("{:.0f}", metres / kilometre)) + " km";
+        const std::string label = kilometres < 1.0
+                                      ? fmt::format("{:.0f} m", 1000.0 * kilometres)
+                                      : grouped(fmt::format("{:.0f}", kilometres)) + " km";
         lines_ += fmt::format("<path class=\"scale\" d=\"M{0:.1f} {1:.1f}v6H{2:.1f}v-6\"/>\n",
                               right - length, bottom - 6.0, right);
         room_.take({right - length, bottom - 8.0, right, bottom});
-        writeText({right, bottom - 10.0 - 0.25 * letters_.size, "degrees", end}, label);
+        writeText({right, bottom - 10.0 - 0.25 * letterSize, "degrees", end}, label);
     }
 
     void writeLongitudes() {
@@ -129,7 +131,7 @@ private:
             const double at = projection_.x(longitude);
             lines_ += fmt::format("<path class=\"grid\" d=\"M{:.1f} 0V{:.0f}\"/>\n", at,
                                   projection_.height());
-            writeText({at + 4.0, letters_.size + 4.0, "degrees", start},
+            writeText({at + 4.0, letterSize + 4.0, "degrees", start},
                       longitudeText(longitude, decimalsOf(across)));
         }
     }
@@ -160,12 +162,13 @@ private:
 
     /// To the right of a point, or else to the left, above or below.
     bool writeBeside(const PointGroup& group, const std::string& name) {
-        constexpr double gap = 10.0;
-        const double baseline = group.y + 0.36 * letters_.size;
-        return writeText({group.x + gap, baseline, "name", start}, name) ||
-               writeText({group.x - gap, baseline, "name", end}, name) ||
-               writeText({group.x, group.y - gap, "name", middle}, name) ||
-               writeText({group.x, group.y + gap + 0.75 * letters_.size, "name", middle}, name);
+        constexpr double beside = 10.0;
+        constexpr double aside = 8.0; // so that the text passes between points
+        const double baseline = group.y + 0.36 * letterSize;
+        return writeText({group.x + beside, baseline, "name", start}, name) ||
+               writeText({group.x - beside, baseline, "name", end}, name) ||
+               writeText({group.x, group.y - aside - below * letterSize, "name", middle}, name) ||
+               writeText({group.x, group.y + aside + above * letterSize, "name", middle}, name);
     }
 
     /// Which part of a text is at its place, as a fraction of its width.
@@ -186,10 +189,10 @@ private:
 
     /// Writes a text if there is room for it.
     bool writeText(const TextPlace& place, const std::string& text) {
-        const double length = textWidth(text) * letters_.size;
+        const double length = textWidth(text) * letterSize;
         const double left = place.x - place.anchor.before * length;
-        const Box box{left, place.baseline - 0.95 * letters_.size, left + length,
-                      place.baseline + 0.25 * letters_.size};
+        const Box box{left, place.baseline - above * letterSize, left + length,
+                      place.baseline + below * letterSize};
         if (!room_.isFree(box))
             return false;
         room_.take(box);
@@ -200,7 +203,7 @@ private:
     }
 
     const MapProjection& projection_;
-    Lettering letters_;
+    const std::vector<PointGroup>& groups_;
     FreeRoom room_;
     std::size_t names_ = 0;
     std::string lines_;
@@ -209,7 +212,7 @@ private:
 
 std::vector<PointGroup> groupsOf(const std::vector<MapPoint>& points,
                                  const MapProjection& projection) {
-    constexpr double cell = 4.0;
+    constexpr double cell = 8.0;
     std::map<std::pair<long, long>, PointGroup> cells;
     for (const MapPoint& point : points) {
         const double x = projection.x(projection.longitude(point));
@@ -224,44 +227,22 @@ std::vector<PointGroup> groupsOf(const std::vector<MapPoint>& points,
     return groups;
 }
 
-std::string pointOf(const PointGroup& group) {
-    const std::string others =
-        group.fields == 1 ? "" : fmt::format(" and {} more", groupedText(group.fields - 1));
-    return fmt::format(
-        "<circle class=\"field\" cx=\"{:.1f}\" cy=\"{:.1f}\" r=\"{:.0f}\">"
-        "<title>{}{}</title></circle>\n",
-        group.x, group.y, radius,
-        group.name.empty() ? "Field without a name" : htmlOfEscaped(isolated(group.name)), others);
-}
-
 std::string beginning(const MapProjection& projection, std::size_t fields) {
-    return fmt::format(
-        "<svg class=\"map\" viewBox=\"0 0 {0:.0f} {1:.0f}\" role=\"img\" "
-        "aria-label=\"Map: {2} between {3} and {4}, {5} and {6}. The list of fields gives the "
-        "coordinates of each.\">\n<rect class=\"land\" width=\"{0:.0f}\" height=\"{1:.0f}\"/>\n",
-        MapProjection::width, projection.height(),
-        fields == 1 ? "one field" : groupedText(fields) + " fields",
-        latitudeText(projection.latitudes().from, 3), latitudeText(projection.latitudes().to, 3),
-        longitudeText(projection.longitudes().from, 3),
-        longitudeText(projection.longitudes().to, 3));
+    return fmt::format("<svg class=\"map\" viewBox=\"0 0 {0:.0f} {1:.0f}\" role=\"img\" "
+                       "aria-label=\"Map: {2} between {3} and {4}, {5} and {6}\">\n<rect "
+                       "class=\"land\" width=\"{0:.0f}\" height=\"{1:.0f}\"/>\n",
+                       MapProjection::width, projection.height(), groupedQuantity(fields, "field"),
+                       latitudeText(projection.latitudes().from, 3),
+                       latitudeText(projection.latitudes().to, 3),
+                       longitudeText(projection.longitudes().from, 3),
+                       longitudeText(projection.longitudes().to, 3));
 }
 
 } // namespace
 
 std::string reportMap(const std::vector<MapPoint>& points) {
-    constexpr std::array<Lettering, 2> letterings = {{{"wide", 13.0}, {"narrow", 21.0}}};
     const MapProjection projection(points);
     const std::vector<PointGroup> groups = groupsOf(points, projection);
-    std::vector<MapLayer> layers;
-    layers.reserve(letterings.size());
-    for (const Lettering& lettering : letterings)
-        layers.emplace_back(projection, groups, lettering);
-    std::string text = beginning(projection, points.size());
-    for (MapLayer& layer : layers)
-        text += layer.ground();
-    for (const PointGroup& group : groups)
-        text += pointOf(group);
-    for (MapLayer& layer : layers)
-        text += layer.names(groups);
-    return text + "</svg>\n";
+    return beginning(projection, points.size()) + MapPicture(projection, groups).text() +
+           "</svg>\n";
 }

@@ -36,7 +36,7 @@ h5 { font-size: 1.05rem; margin-top: 1.25rem; }
 h6 { font-size: 1rem; margin: 0; }
 p, ul, dl, figure { margin: .5rem 0; }
 a { color: var(--accent); }
-th .quiet { font-weight: 400; }
+th .quiet { display: block; font-weight: 400; }
 code, .id { font-family: ui-monospace, "DejaVu Sans Mono", monospace; font-size: .85em; }
 .quiet, .place, figcaption { color: var(--quiet); }
 nav ul { list-style: none; padding: 0; display: flex; flex-wrap: wrap; gap: .25rem 1.25rem; }
@@ -67,15 +67,15 @@ tbody th { min-width: 12rem; overflow-wrap: anywhere; }
 .warning strong { color: var(--warning); }
 .note strong { color: var(--note); }
 svg { display: block; width: 100%; height: auto; }
-svg.map { max-width: 44rem; border: 1px solid var(--line); }
+.maps { display: grid; grid-template-columns: repeat(auto-fill, minmax(min(20rem, 100%), 1fr)); gap: .75rem; }
+.maps figure { margin: 0; max-width: 30rem; }
+svg.map { border: 1px solid var(--line); }
 .land { fill: var(--land); }
 .grid { stroke: var(--line); stroke-width: 1; fill: none; }
 .scale { stroke: var(--text); stroke-width: 2; fill: none; }
 .field { fill: var(--accent); stroke: var(--page); stroke-width: 1.5; }
-svg text { fill: var(--text); font-size: 13px; }
+svg text { fill: var(--text); font-size: 21px; }
 svg .degrees { fill: var(--quiet); }
-.narrow { display: none; }
-.narrow text { font-size: 21px; }
 svg .degrees, svg .name { stroke: var(--land); stroke-width: 3px; paint-order: stroke; }
 svg .name { font-weight: 600; }
 details { margin: .25rem 0; }
@@ -100,8 +100,6 @@ footer { margin-top: 2rem; border-top: 1px solid var(--line); color: var(--quiet
   tbody th { flex: 1 0 100%; }
   tbody .number { text-align: left; white-space: normal; }
   tbody td::before { content: attr(data-column) " "; color: var(--quiet); }
-  .wide { display: none; }
-  .narrow { display: inline; }
 }
 @media print {
   :root {
@@ -109,12 +107,34 @@ footer { margin-top: 2rem; border-top: 1px solid var(--line); color: var(--quiet
     --accent: #1f4d1f; --range: #4b8f4b; --track: #e6e6e6; --mark: #000000;
     --error: #8b0000; --warning: #6b4000; --note: #1f4a75; --land: #ffffff; --outline: #666666;
   }
-  body { max-width: none; padding: 0; font-size: 10pt; }
-  nav { display: none; }
+  @page { margin: 12mm; }
+  html { font-size: 9pt; }
+  body { max-width: none; padding: 0; line-height: 1.35; }
+  nav, summary { display: none; }
   * { print-color-adjust: exact; -webkit-print-color-adjust: exact; }
   /* No heading, nor what belongs to it, is left at the end of a page. */
-  h2, h3, h4, h5, h6, caption, .place, summary { break-inside: avoid; break-after: avoid; }
+  h2, h3, h4, h5, h6, caption, .place { break-inside: avoid; break-after: avoid; }
   .recs > li, .findings li, tr, figure { break-inside: avoid; }
+  /* Hundreds of findings, packages and recs on few pages. */
+  h3, h4, h5 { margin: .6rem 0 .2rem; }
+  p, ul, details { margin: .2rem 0; }
+  .findings li { padding: 0 .5rem; margin: .25rem 0; }
+  .findings p { display: inline; }
+  .findings p + p::before { content: "\2014\a0"; }
+  th, td { padding: .1rem .5rem; }
+  tbody th { min-width: 23rem; }
+  .maps { grid-template-columns: repeat(3, 1fr); }
+  .recs { grid-template-columns: repeat(3, 1fr); gap: .4rem; font-size: .9em; }
+  .recs > li { padding: .3rem .5rem; }
+  .bar { margin: .2rem 0; }
+  .facts { display: block; margin: .1rem 0; }
+  .facts dt, .facts dd { display: inline; }
+  .facts dt::after { content: "\a0"; }
+  .facts dd + dt::before { content: "\b7\a0"; }
+  .place br { display: none; }
+  .place .id { padding-right: .5rem; }
+  tbody th .quiet { display: inline; }
+  .figures { grid-template-columns: repeat(8, 1fr); }
   .scroll { overflow: visible; background: none; }
   details::details-content { content-visibility: visible; display: block; height: auto; }
 }

@@ -27,4 +27,9 @@ TEST(GroupedNumber, LeavesOtherTextsAsTheyAre) {
     EXPECT_EQ(grouped(""), "");
 }
 
+TEST(GroupedNumber, CountsThings) {
+    EXPECT_EQ(groupedQuantity(1, "rec"), "1 rec");
+    EXPECT_EQ(groupedQuantity(12'345, "rec"), "12\u202F345 recs");
+}
+
 } // namespace

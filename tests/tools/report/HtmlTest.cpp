@@ -34,6 +34,14 @@ TEST(Html, ShowsPartsOfPackagesAsCode) {
     EXPECT_EQ(htmlWithCode(""), "");
 }
 
+TEST(Html, CutsNamesOfRecordsThatWouldFillThePage) {
+    EXPECT_EQ(htmlRecordName("<a>", "none"), "<bdi>&lt;a&gt;</bdi>");
+    EXPECT_EQ(htmlRecordName("", "none"), "none");
+    EXPECT_EQ(htmlRecordName(std::string(200, 'x')), "<bdi>" + std::string(200, 'x') + "</bdi>");
+    EXPECT_EQ(htmlRecordName(std::string(201, 'x')),
+              "<bdi>" + std::string(199, 'x') + "\u2026</bdi>");
+}
+
 // NOLINTBEGIN(misc-misleading-bidirectional): they are what the test is about
 TEST(Html, LetsNoTextChangeTheDirectionOfWriting) {
     EXPECT_EQ(html("\u202Aa\u202Eb"), "\\u{202A}a\\u{202E}b");

@@ -1,4 +1,4 @@
-// Fields on the map, and the texts beside them, at the two sizes of letters that it is drawn with.
+// Fields on the map, and the texts beside them.
 
 #include "tools/report/ReportMap.h"
 
@@ -11,20 +11,13 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/tools/report/Reports.h"
 #include "tools/report/MapLettering.h"
 
+using test::contains;
+using test::occurrences;
+
 namespace {
-
-bool contains(const std::string& text, const std::string& part) {
-    return text.find(part) != std::string::npos;
-}
-
-std::size_t occurrences(const std::string& text, const std::string& part) {
-    std::size_t count = 0;
-    for (std::size_t at = 0; (at = text.find(part, at)) != std::string::npos; ++at)
-        ++count;
-    return count;
-}
 
 std::string isolated(const std::string& name) {
     return std::string("\xE2\x81\xA8").append(name).append("\xE2\x81\xA9");
@@ -32,10 +25,10 @@ std::string isolated(const std::string& name) {
 
 TEST(ReportMap, ShowsASingleFieldInTheMiddleOfAKilometre) {
     const std::string map = reportMap({{"North <40>", {44.7, -95.0, 0.0}}});
-    EXPECT_TRUE(contains(map, "aria-label=\"Map: one field between 44.695° N and 44.705° N"));
+    EXPECT_TRUE(contains(map, "aria-label=\"Map: 1 field between 44.695° N and 44.705° N"));
     EXPECT_TRUE(contains(map, "<circle class=\"field\" cx=\"300.0\" "));
     EXPECT_TRUE(contains(map, "North &lt;40&gt;"));
-    EXPECT_TRUE(contains(map, ">200 m</text>"));
+    EXPECT_TRUE(contains(map, ">500 m</text>"));
 }
 
 TEST(ReportMap, PutsNorthUpAndEastToTheRight) {
@@ -71,11 +64,10 @@ TEST(ReportMap, StaysSmallForAnyNumberOfFields) {
     for (int i = 0; i < 100'000; ++i)
         points.push_back({"Field " + std::to_string(i),
                           {-89.0 + i % 1000 * 0.178, -179.0 + i / 1000.0 * 3.58, 0.0}});
-    EXPECT_LT(reportMap(points).size(), 4'000'000U);
+    EXPECT_LT(reportMap(points).size(), 600'000U);
 }
 
-constexpr Lettering wide{"wide", 13.0};
-constexpr Lettering narrow{"narrow", 21.0};
+constexpr double letterSize = 21.0; // as the style says
 
 /// A text of the map as it is written there.
 struct Label {
@@ -86,29 +78,18 @@ struct Label {
     std::string text;
 };
 
-/// What is shown with letters of one size.
-std::string layerOf(const std::string& map, const Lettering& letters) {
-    const std::string begin = std::string("<g class=\"") + letters.style + "\">";
-    std::string layer;
-    for (std::size_t at = 0; (at = map.find(begin, at)) != std::string::npos; ++at)
-        layer += map.substr(at, map.find("</g>", at) - at);
-    return layer;
-}
-
-std::vector<Label> labelsOf(const std::string& map, const Lettering& letters) {
+std::vector<Label> labelsOf(const std::string& map) {
     static const std::regex form("<text class=\"(\\w+)\" x=\"([-0-9.]+)\" y=\"([-0-9.]+)\""
                                  "(?: text-anchor=\"(\\w+)\")?>([^<]*)</text>");
-    const std::string layer = layerOf(map, letters);
     std::vector<Label> labels;
-    for (std::sregex_iterator i(layer.begin(), layer.end(), form), end; i != end; ++i)
+    for (std::sregex_iterator i(map.begin(), map.end(), form), end; i != end; ++i)
         labels.push_back({(*i)[1], std::stod((*i)[2]), std::stod((*i)[3]), (*i)[4], (*i)[5]});
     return labels;
 }
 
-std::vector<std::string> textsOf(const std::string& map, const Lettering& letters,
-                                 const std::string& style) {
+std::vector<std::string> textsOf(const std::string& map, const std::string& style) {
     std::vector<std::string> texts;
-    for (const Label& label : labelsOf(map, letters)) {
+    for (const Label& label : labelsOf(map)) {
         if (label.style == style)
             texts.push_back(label.text);
     }
@@ -116,15 +97,15 @@ std::vector<std::string> textsOf(const std::string& map, const Lettering& letter
 }
 
 /// Where the letters themselves are, without room around them.
-Box boxOf(const Label& label, const Lettering& letters) {
-    const double length = textWidth(label.text) * letters.size;
+Box boxOf(const Label& label) {
+    const double length = textWidth(label.text) * letterSize;
     const double before = label.anchor == "end" ? 1.0 : label.anchor == "middle" ? 0.5 : 0.0;
     const double left = label.x - before * length;
-    return {left, label.y - 0.75 * letters.size, left + length, label.y + 0.22 * letters.size};
+    return {left, label.y - 0.75 * letterSize, left + length, label.y + 0.22 * letterSize};
 }
 
 /// Points and the scale.
-std::vector<Box> thingsOf(const std::string& map, const Lettering& letters) {
+std::vector<Box> thingsOf(const std::string& map) {
     static const std::regex circle("cx=\"([-0-9.]+)\" cy=\"([-0-9.]+)\" r=\"6\"");
     static const std::regex scale("class=\"scale\" d=\"M([0-9.]+) ([0-9.]+)v6H([0-9.]+)v-6\"");
     std::vector<Box> boxes;
@@ -133,9 +114,8 @@ std::vector<Box> thingsOf(const std::string& map, const Lettering& letters) {
         const double y = std::stod((*i)[2]);
         boxes.push_back({x - 6.0, y - 6.0, x + 6.0, y + 6.0});
     }
-    const std::string layer = layerOf(map, letters);
     std::smatch match;
-    if (std::regex_search(layer, match, scale))
+    if (std::regex_search(map, match, scale))
         boxes.push_back({std::stod(match[1]), std::stod(match[2]), std::stod(match[3]),
                          std::stod(match[2]) + 6.0});
     return boxes;
@@ -152,11 +132,11 @@ double heightOf(const std::string& map) {
 }
 
 /// How many texts lie over something else, or partly beyond the map.
-std::size_t unreadable(const std::string& map, const Lettering& letters) {
-    std::vector<Box> before = thingsOf(map, letters);
+std::size_t unreadable(const std::string& map) {
+    std::vector<Box> before = thingsOf(map);
     std::size_t count = 0;
-    for (const Label& label : labelsOf(map, letters)) {
-        const Box box = boxOf(label, letters);
+    for (const Label& label : labelsOf(map)) {
+        const Box box = boxOf(label);
         count += box.left < 0.0 || box.right > 600.0 || box.top < 0.0 || box.bottom > heightOf(map);
         for (const Box& other : before)
             count += overlap(box, other);
@@ -184,12 +164,10 @@ TEST(ReportMap, NeverPutsATextOverAnotherOneOrBeyondTheMap) {
     std::mt19937 random(2026);
     for (std::size_t number = 1; number < 60; ++number) {
         const std::string map = reportMap(randomPoints(random, number));
-        for (const Lettering& letters : {wide, narrow}) {
-            EXPECT_EQ(unreadable(map, letters), 0U) << letters.style << '\n' << map;
-            EXPECT_GE(textsOf(map, letters, "name").size(), 1U) << map;
-            EXPECT_GE(textsOf(map, letters, "degrees").size(), 2U) << map;
-            EXPECT_EQ(occurrences(layerOf(map, letters), "class=\"scale\""), 1U);
-        }
+        EXPECT_EQ(unreadable(map), 0U) << map;
+        EXPECT_GE(textsOf(map, "name").size(), 1U) << map;
+        EXPECT_GE(textsOf(map, "degrees").size(), 2U) << map;
+        EXPECT_EQ(occurrences(map, "class=\"scale\""), 1U);
     }
 }
 
@@ -200,30 +178,30 @@ TEST(ReportMap, NamesFieldsOfThreeCountries) {
                                        {"Langer Schlag", {53.71846, 12.61207, 0.0}}});
     const std::vector<std::string> names = {isolated("North Forty"), isolated("Talh\u00E3o 7"),
                                             isolated("Langer Schlag")};
-    EXPECT_EQ(textsOf(map, wide, "name"), names);
-    EXPECT_EQ(textsOf(map, narrow, "name"), names);
-    EXPECT_EQ(textsOf(map, narrow, "degrees"),
+    EXPECT_EQ(textsOf(map, "name"), names);
+    EXPECT_EQ(textsOf(map, "degrees"),
               (std::vector<std::string>{"2\u202F000 km", "100\u00B0 W", "50\u00B0 W", "0\u00B0",
                                         "0\u00B0", "50\u00B0 N"}));
 }
 
 TEST(ReportMap, CutsLongNamesBesideAPointAndKeepsThemInItsTitle) {
-    const std::string map = reportMap({{"abcdefghijklmnopqrstuvwxyz", {44.7, -95.0, 0.0}}});
-    EXPECT_EQ(textsOf(map, wide, "name"),
-              std::vector<std::string>{isolated("abcdefghijklmnopqrstuvw\u2026")});
-    EXPECT_TRUE(contains(map, "<title>" + isolated("abcdefghijklmnopqrstuvwxyz") + "</title>"));
+    const std::string name = "lili lili lili lili lili lili";
+    const std::string map = reportMap({{name, {44.7, -95.0, 0.0}}});
+    EXPECT_EQ(textsOf(map, "name"),
+              std::vector<std::string>{isolated("lili lili lili lili lil\u2026")});
+    EXPECT_TRUE(contains(map, "<title>" + isolated(name) + "</title>"));
 }
 
 TEST(ReportMap, TakesAShortFormWhereANameDoesNotFit) {
-    const std::string map = reportMap({{"WWWWWWWWWWWWWWWWWWWWWWWW", {44.7, -95.0, 0.0}}});
-    EXPECT_EQ(textsOf(map, narrow, "name"),
-              std::vector<std::string>{isolated("WWWWWWWWWWW\u2026")});
+    const std::string map =
+        reportMap({{"WWWWWWWWWWWWWWWWWWWWWWWW", {44.7, -95.01, 0.0}}, {"", {44.7, -94.99, 0.0}}});
+    EXPECT_EQ(textsOf(map, "name"), std::vector<std::string>{isolated("WWWWWWWWWWW\u2026")});
 }
 
 TEST(ReportMap, PutsNamesWhereThereIsRoom) {
     const auto anchors = [](const std::string& map) {
         std::vector<std::string> result;
-        for (const Label& label : labelsOf(map, wide)) {
+        for (const Label& label : labelsOf(map)) {
             if (label.style == "name")
                 result.push_back(label.anchor);
         }
@@ -241,15 +219,13 @@ TEST(ReportMap, PutsNamesWhereThereIsRoom) {
                                            {"", {44.7023, -95.007, 0.0}},
                                            {"", {44.7023, -94.99, 0.0}}});
     EXPECT_EQ(anchors(between), Anchors{"middle"});
-    EXPECT_LT(labelsOf(between, wide).back().y, heightOf(between) / 2.0);
+    EXPECT_LT(labelsOf(between).back().y, heightOf(between) / 2.0);
 }
 
 TEST(ReportMap, WritesZeroDegreesWithoutADirection) {
     const std::string map = reportMap({{"a", {-0.01, -0.01, 0.0}}, {"b", {0.01, 0.01, 0.0}}});
-    for (const Lettering& letters : {wide, narrow}) {
-        const std::vector<std::string> degrees = textsOf(map, letters, "degrees");
-        EXPECT_EQ(std::count(degrees.begin(), degrees.end(), "0\u00B0"), 2) << letters.style;
-    }
+    const std::vector<std::string> degrees = textsOf(map, "degrees");
+    EXPECT_EQ(std::count(degrees.begin(), degrees.end(), "0\u00B0"), 2);
     EXPECT_FALSE(contains(map, "0.00\u00B0") || contains(map, "0.000\u00B0"));
 }
 
@@ -260,8 +236,7 @@ TEST(ReportMap, LeavesTheScaleFree) {
                                        {"", {44.7, -95.0008, 0.0}},
                                        {"", {44.7003, -95.0004, 0.0}},
                                        {"", {44.71, -95.013, 0.0}}});
-    EXPECT_EQ(textsOf(map, wide, "name"), std::vector<std::string>{isolated("Field")});
-    EXPECT_EQ(textsOf(map, narrow, "name"), std::vector<std::string>{});
+    EXPECT_EQ(textsOf(map, "name"), std::vector<std::string>{});
 }
 
 TEST(ReportMap, HasLinesThatLeadAroundTheEarth) {
@@ -269,7 +244,7 @@ TEST(ReportMap, HasLinesThatLeadAroundTheEarth) {
                                        {"", {0.0, -1.0, 0.0}},
                                        {"", {0.0, 1.0, 0.0}},
                                        {"", {80.0, 175.0, 0.0}}});
-    EXPECT_EQ(textsOf(map, narrow, "degrees"),
+    EXPECT_EQ(textsOf(map, "degrees"),
               (std::vector<std::string>{"10\u202F000 km", "180\u00B0", "90\u00B0 W", "0\u00B0",
                                         "90\u00B0 E", "180\u00B0", "90\u00B0 S", "0\u00B0",
                                         "90\u00B0 N"}));
@@ -277,12 +252,12 @@ TEST(ReportMap, HasLinesThatLeadAroundTheEarth) {
 
 TEST(ReportMap, TellsHowManyFieldsStandUnderOneName) {
     const std::string map = reportMap({{"a", {1.0, 1.0, 0.0}}, {"b", {1.0, 1.0, 0.0}}});
-    EXPECT_EQ(textsOf(map, wide, "name"), std::vector<std::string>{isolated("a") + " +1"});
+    EXPECT_EQ(textsOf(map, "name"), std::vector<std::string>{isolated("a") + " +1"});
 }
 
 TEST(ReportMap, DrawsFieldsWithoutANameWithoutAText) {
     const std::string map = reportMap({{"", {1.0, 1.0, 0.0}}});
-    EXPECT_EQ(textsOf(map, wide, "name"), std::vector<std::string>{});
+    EXPECT_EQ(textsOf(map, "name"), std::vector<std::string>{});
     EXPECT_TRUE(contains(map, "<title>Field without a name</title>"));
 }
 
@@ -291,7 +266,7 @@ TEST(ReportMap, NamesSixtyFieldsAtMost) {
     for (int row = 0; row < 10; ++row)
         for (int column = 0; column < 10; ++column)
             points.push_back({"f", {row * 0.1, column * 0.1, 0.0}});
-    EXPECT_EQ(textsOf(reportMap(points), wide, "name").size(), 60U);
+    EXPECT_EQ(textsOf(reportMap(points), "name").size(), 60U);
 }
 
 } // namespace
