@@ -1,7 +1,7 @@
 # Sourced by the other scripts: installs what they need from Debian.
 
 # Debian packages per purpose.
-libraries_run="libpugixml-dev libboost-dev libboost-system-dev libcli11-dev libfmt-dev nlohmann-json3-dev"
+libraries_run="libpugixml-dev libboost-dev libboost-system-dev libcli11-dev libexpat1-dev libfmt-dev nlohmann-json3-dev"
 libraries_test="$libraries_run libgtest-dev librapidcheck-dev"
 packages_run="g++ cmake ninja-build $libraries_run"
 packages_test="$packages_run $libraries_test binutils libxml2-utils pkgconf python3-jsonschema tidy mandoc git xz-utils zsh fish"

@@ -57,6 +57,11 @@ const std::vector<BrokenPackage>& brokenPackages() {
          "proljetna \xE9"
          "etva",
          "proljetna sjetva", ana},
+        {"encoding-ignored", "true", ana, "windows-1252", "UTF-8", ana},
+        {"doctype-ignored", "true", ana,
+         " [\n  <!ATTLIST Rec MgmtZoneID CDATA \"6fa8d0c2-2ef4-4c4f-9a5a-8a1d1a3cf0e7\">\n]>", ">",
+         ana},
+        {"refused-by-others", "true", ana, "KAN & urea", "KAN &amp; urea", ana},
         {"item-before-list", "true", ana,
          "<field FieldID=\"5c1f5f08-5d02-4ae8-8e31-4c2a4a1b1f11\"/>", "", ana},
         {"identifier-digit", "true", ana, "RecID=\"ee508fb7-5539-4b15-a6bb-a4022bcb7aeO\"",

@@ -52,6 +52,12 @@ constexpr std::string_view wordFor(Severity severity) {
             "every rec carries the invented package UUID {}")                                      \
     FINDING(InvalidUtf8, "invalid-utf8", Warning, "the file holds bytes that are not UTF-8",       \
             "this and the like are passed on as they are; hosts may not show them")                \
+    FINDING(EncodingIgnored, "encoding-ignored", Warning, "the declared encoding is ignored",      \
+            "programs that follow the declaration read other letters")                             \
+    FINDING(DoctypeIgnored, "doctype-ignored", Warning, "what a DOCTYPE declares is ignored",      \
+            "programs that follow it may read other values")                                       \
+    FINDING(RefusedByOthers, "refused-by-others", Warning, "other programs cannot read the file",  \
+            "this library reads it; programs that follow the standard of XML do not")              \
     FINDING(NoGrower, "no-grower", Warning, "the package has no grower",                           \
             "nothing is read from the package")                                                    \
     FINDING(BeforeList, "item-before-list", Warning, "something before a list is skipped")         \

@@ -15,8 +15,11 @@
 #include "tools/check/FirstAid.h"
 #include "tools/check/OpenElement.h"
 #include "tools/check/PackageWalk.h"
+#include "tools/check/PlacedFindings.h"
+#include "tools/check/SecondReader.h"
 #include "tools/files/OriginalName.h"
 #include "tools/files/PackageUuid.h"
+#include "tools/text/Encoding.h"
 #include "tools/text/Escape.h"
 #include "tools/text/Utf8.h"
 
@@ -73,35 +76,60 @@ std::string describeDeclaration(const SourceText& source) {
     return fmt::format(" although its declaration says \"{}\"", escapeExcerpt(name));
 }
 
-/// Hands on what else is found in a text, and in its place that the text is not UTF-8.
-class Utf8Check : public FindingSink {
+/// What is found of a text before its elements are walked: each has one place in it.
+class WholeText {
 public:
-    Utf8Check(const SourceText& source, FindingSink& sink)
-        : source_(source), sink_(sink), offset_(firstInvalidByte(source.text())) {}
+    WholeText(const SourceText& source, pugi::xml_encoding encoding, PlacedFindings& all)
+        : source_(source),
+          encoding_(encoding),
+          all_(all),
+          invalidByte_(firstInvalidByte(source.text())) {}
 
-    bool wants(FindingCode code) const override { return sink_.wants(code); }
-    void add(const Finding& other) override {
-        if (offset_ && *offset_ < other.location->extent.offset)
-            finish();
-        sink_.add(other);
+    void invalidUtf8() {
+        if (!invalidByte_)
+            return;
+        all_.put(FindingCode::InvalidUtf8, {*invalidByte_, 1},
+                 fmt::format("the byte {} is not UTF-8, in which the file is read{}",
+                             escape(source_.text().substr(*invalidByte_, 1)),
+                             describeDeclaration(source_)));
     }
-    void addCode(FindingCode code) override { sink_.addCode(code); }
-    void progress(double part) override { sink_.progress(part); }
 
-    /// Nothing else comes.
-    void finish() {
-        if (const std::optional<std::size_t> offset = std::exchange(offset_, std::nullopt))
-            ::add(sink_, FindingCode::InvalidUtf8,
-                  fmt::format("the byte {} is not UTF-8, in which the file is read{}",
-                              escape(source_.text().substr(*offset, 1)),
-                              describeDeclaration(source_)),
-                  Kept{}, source_.location({*offset, 1}));
+    /// What other programs make of it.
+    void second(const SecondReading& reading) {
+        ignoredEncoding(reading);
+        if (reading.doctype) {
+            constexpr std::string_view beginning = "<!DOCTYPE";
+            all_.put(FindingCode::DoctypeIgnored,
+                     {source_.text().rfind(beginning, *reading.doctype), beginning.size()},
+                     "a DOCTYPE declares something, or names a file that does");
+        }
+        if (reading.refusal)
+            all_.put(FindingCode::RefusedByOthers, {reading.refusal->offset, 0},
+                     reading.refusal->reason);
     }
 
 private:
+    void ignoredEncoding(const SecondReading& reading) {
+        const std::string_view name = source_.declaredEncoding();
+        const auto is = [&](const char* other) {
+            return boost::algorithm::iequals(name, other, std::locale::classic());
+        };
+        // The finding about bytes that are not UTF-8 names the declaration, too.
+        if (encoding_ != pugi::encoding_utf8 || name.empty() || is("UTF-8") || is("US-ASCII") ||
+            invalidByte_ || isAscii(source_.text()))
+            return;
+        const auto offset = static_cast<std::size_t>(name.data() - source_.text().data());
+        if (reading.refusal && reading.refusal->offset == offset)
+            return;
+        all_.put(FindingCode::EncodingIgnored, {offset, name.size()},
+                 fmt::format("the declaration says \"{}\", but the file is read as UTF-8",
+                             escapeExcerpt(name)));
+    }
+
     const SourceText& source_;
-    FindingSink& sink_;
-    std::optional<std::size_t> offset_; ///< Of the first byte that is not UTF-8.
+    pugi::xml_encoding encoding_;
+    PlacedFindings& all_;
+    std::optional<std::size_t> invalidByte_;
 };
 
 /// Why the XML library could not load a text.
@@ -124,17 +152,23 @@ std::string describeFault(const SourceText& source, std::size_t fileSize,
 
 void checkContent(std::string bytes, FindingSink& sink) {
     const std::size_t fileSize = bytes.size();
+    const pugi::xml_encoding encoding = encodingOf(bytes);
+    const SecondReading second = readAgain(bytes, encoding);
     const SourceText source(std::move(bytes));
     pugi::xml_document document;
     const pugi::xml_parse_result loaded = source.load(document);
     if (loaded.status == pugi::status_out_of_memory)
         throw std::bad_alloc();
-    Utf8Check all(source, sink);
-    if (loaded)
+    PlacedFindings all(source, sink);
+    WholeText text(source, encoding, all);
+    text.invalidUtf8();
+    if (loaded) {
+        text.second(second);
         walkPackage(document, source, all);
-    else
+    } else {
         add(all, FindingCode::NotWellFormed, describeFault(source, fileSize, loaded), NothingRead{},
             source.location({static_cast<std::size_t>(loaded.offset), 0}));
+    }
     all.finish();
 }
 

@@ -1,5 +1,7 @@
 #include "tools/text/Utf8.h"
 
+#include <algorithm>
+
 Utf8Character firstCharacter(std::string_view text) {
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
     const Utf8Character invalid{byte(0), 1, false};
@@ -30,6 +32,11 @@ std::size_t characterStart(std::string_view text, std::size_t offset) {
             return offset - back;
     }
     return offset;
+}
+
+bool isAscii(std::string_view text) {
+    return std::none_of(text.begin(), text.end(),
+                        [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
 }
 
 std::string validUtf8(std::string_view text) {

@@ -25,6 +25,9 @@ Utf8Character firstCharacter(std::string_view text);
 /// is in the middle of one.
 std::size_t characterStart(std::string_view text, std::size_t offset);
 
+/// Whether a text has characters of ASCII only.
+bool isAscii(std::string_view text);
+
 /// The text with U+FFFD, the replacement character, in the place of each byte that belongs to no
 /// character.
 std::string validUtf8(std::string_view text);

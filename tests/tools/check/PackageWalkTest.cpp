@@ -117,6 +117,7 @@ TEST(PackageWalk, FindsRootsBehindThePackageAfterIt) {
     EXPECT_EQ(test::findingTexts("<a/><RecPackage/><a/><b/><RecPackage/><a/>"),
               "1:1 unknown-element /a: \"a\" stands beside RecPackage -> dropped a\n"
               "1:5 no-grower /RecPackage: RecPackage holds no Grower -> nothing read\n"
+              "1:5 refused-by-others : something follows the root element -> kept\n"
               "1:18 unknown-element /a[2]: \"a\" stands beside RecPackage -> dropped a\n"
               "1:22 unknown-element /b: \"b\" stands beside RecPackage -> dropped b\n"
               "1:26 unknown-element /RecPackage[2]: \"RecPackage\" stands beside RecPackage -> "
