@@ -34,8 +34,8 @@ void checkRange(CheckReport& report, const Value& value, double limit) {
     if (value.number.value >= -limit && value.number.value <= limit)
         return;
     report.add(FindingCode::CentroidRange, value.node, value.name, [&] {
-        return Details{fmt::format("{} {} is not between {} and {}", value.name, value.number.read,
-                                   -limit, limit),
+        return Details{fmt::format("{} {} is not between {} and {}", value.name,
+                                   value.number.read(), -limit, limit),
                        Kept{}};
     });
 }
@@ -64,7 +64,7 @@ void checkCentroid(CheckReport& report, pugi::xml_node fieldCentroid) {
         }
         return Details{
             found.empty() ? "latitude and longitude are 0" : found,
-            ReadAs{fmt::format("({}, {})", latitude.number.read, longitude.number.read)}};
+            ReadAs{fmt::format("({}, {})", latitude.number.read(), longitude.number.read())}};
     });
 }
 
@@ -74,8 +74,8 @@ void checkSpread(CheckReport& report, const FarmSpread& farm, pugi::xml_node fie
         return;
     report.add(FindingCode::CentroidFar, fieldCentroid, "", [&] {
         std::string found =
-            fmt::format("the centroid ({}, {})", Value(fieldCentroid, tag::Latitude).number.read,
-                        Value(fieldCentroid, tag::Longitude).number.read);
+            fmt::format("the centroid ({}, {})", Value(fieldCentroid, tag::Latitude).number.read(),
+                        Value(fieldCentroid, tag::Longitude).number.read());
         const std::string others =
             fmt::format("the other field{} of the farm", stray->ofTwo ? "" : "s");
         if (stray->kilometres)

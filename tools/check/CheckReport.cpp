@@ -18,7 +18,7 @@ void CheckReport::add(FindingCode code, Extent extent, std::string_view step,
                         std::move(details.consequence),
                         source_.location(extent),
                         path(step),
-                        records_};
+                        recordNames()};
         if (held_)
             held_->push_back(std::move(finding));
         else
@@ -56,6 +56,14 @@ Consequence CheckReport::errorConsequence() const {
     if (firstError_)
         return NotReached{line(*firstError_), errors_, growerOfFirstError_ == grower_};
     return ReadingEnds{grower_ - 1};
+}
+
+std::vector<RecordName> CheckReport::recordNames() const {
+    std::vector<RecordName> names;
+    names.reserve(records_.size());
+    for (const OpenRecord& record : records_)
+        names.push_back({record.kind, escapeExcerpt(record.name), record.id});
+    return names;
 }
 
 std::string CheckReport::path(std::string_view step) const {

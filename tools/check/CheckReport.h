@@ -76,8 +76,11 @@ public:
     /// Being in a record, from construction to destruction.
     class InRecord {
     public:
-        InRecord(CheckReport& report, RecordName record) : report_(report) {
-            report.records_.push_back(std::move(record));
+        /// @param kind and @p name live longer; the name is that of the package
+        InRecord(CheckReport& report, const char* kind, const char* name,
+                 std::optional<boost::uuids::uuid> id)
+            : report_(report) {
+            report.records_.push_back({kind, name, id});
         }
         InRecord(const InRecord&) = delete;
         InRecord& operator=(const InRecord&) = delete;
@@ -88,14 +91,22 @@ public:
     };
 
 private:
+    /// A record that the check is in, with its name as the package has it.
+    struct OpenRecord {
+        const char* kind;
+        const char* name;
+        std::optional<boost::uuids::uuid> id;
+    };
+
     void noteError(std::size_t offset);
+    std::vector<RecordName> recordNames() const;
     Consequence errorConsequence() const;
     std::string path(std::string_view step) const;
 
     const SourceText& source_;
     FindingSink& sink_;
     std::vector<std::pair<const char*, std::size_t>> path_;
-    std::vector<RecordName> records_;
+    std::vector<OpenRecord> records_;
     std::optional<std::vector<Finding>> held_; ///< While they are put in order.
     std::size_t grower_ = 0;                   ///< Number of the grower, from 1.
     std::size_t errors_ = 0;

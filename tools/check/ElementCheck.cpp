@@ -1,5 +1,7 @@
 #include "tools/check/ElementCheck.h"
 
+#include <algorithm>
+#include <cstring>
 #include <optional>
 
 #include <fmt/format.h>
@@ -35,12 +37,24 @@ std::vector<const char*> absentNames(const std::vector<DatumFormat>& formats, Is
     return names;
 }
 
-const DatumFormat* find(const std::vector<DatumFormat>& formats, const char* name) {
-    for (const DatumFormat& format : formats) {
-        if (std::string_view(format.name) == name)
-            return &format;
+/// @param next where it is looked for first: most packages have their names in the same order
+const DatumFormat* find(const std::vector<DatumFormat>& formats, const char* name,
+                        std::size_t next = 0) {
+    for (std::size_t i = next; i < formats.size(); ++i) {
+        if (std::strcmp(formats[i].name, name) == 0)
+            return &formats[i];
+    }
+    for (std::size_t i = 0; i < next; ++i) {
+        if (std::strcmp(formats[i].name, name) == 0)
+            return &formats[i];
     }
     return nullptr;
+}
+
+/// Whether a value has nothing that its characters could be odd by.
+bool isPlain(std::string_view written) {
+    return std::none_of(written.begin(), written.end(),
+                        [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '&'; });
 }
 
 /// Numbers the children of an element among those of the same name.
@@ -130,9 +144,12 @@ void ElementCheck::children(const ElementFormat& format, pugi::xml_node node,
     Numbering numbering(format);
     AbsentNames absent(format, node);
     bool inList = false;
+    std::size_t next = 0;
     for (const pugi::xml_node child : node.children()) {
         inList = inList || child == firstItem;
-        const DatumFormat* const datum = find(format.children, child.name());
+        const DatumFormat* const datum = find(format.children, child.name(), next);
+        if (datum != nullptr)
+            next = static_cast<std::size_t>(datum - format.children.data()) + 1;
         const std::size_t number = numbering.next(child, datum);
         if (inList)
             onItem(child, number);
@@ -149,13 +166,17 @@ void ElementCheck::children(const ElementFormat& format, pugi::xml_node node,
 
 void ElementCheck::attributes(const std::vector<DatumFormat>& known, pugi::xml_node node,
                               const std::function<void(pugi::xml_attribute)>& onKnown) {
-    const std::vector<const char*> absent =
-        absentNames(known, [&](const char* name) { return !node.attribute(name).empty(); });
+    if (!node.first_attribute())
+        return;
+    std::optional<std::vector<const char*>> absent;
     std::vector<bool> seen(known.size());
     for (const pugi::xml_attribute attribute : node.attributes()) {
         const DatumFormat* const datum = find(known, attribute.name());
         if (datum == nullptr) {
-            unknownAttribute(node, attribute, nearestName(attribute.name(), absent));
+            if (!absent)
+                absent = absentNames(
+                    known, [&](const char* name) { return !node.attribute(name).empty(); });
+            unknownAttribute(node, attribute, nearestName(attribute.name(), *absent));
             continue;
         }
         const auto index = static_cast<std::size_t>(datum - known.data());
@@ -166,13 +187,25 @@ void ElementCheck::attributes(const std::vector<DatumFormat>& known, pugi::xml_n
         seen[index] = true;
         if (onKnown)
             onKnown(attribute);
-        const Extent extent = report_.source().extent(node, attribute);
-        const std::string step = fmt::format("@{}", attribute.name());
-        report_.inOrder([&] {
-            checkCharacters(report_, extent, attribute.value(), step);
-            values_.check(*datum, attribute.value(), extent, step);
-        });
+        read(*datum, attribute.value(), report_.source().extent(node, attribute),
+             std::string("@") += attribute.name(), true);
     }
+}
+
+/// Checks a value and its characters.
+///
+/// @param markup whether references in it are followed
+void ElementCheck::read(const DatumFormat& datum, const char* value, Extent extent,
+                        std::string_view step, bool markup) {
+    const std::string_view written = report_.source().text().substr(extent.offset, extent.length);
+    if (!markup || isPlain(written)) {
+        values_.check(datum, value, extent, step);
+        return;
+    }
+    report_.inOrder([&] {
+        checkCharacters(report_, extent, value, step);
+        values_.check(datum, value, extent, step);
+    });
 }
 
 void ElementCheck::repeatedAttribute(pugi::xml_node node, pugi::xml_attribute attribute) {
@@ -244,12 +277,9 @@ void ElementCheck::value(const DatumFormat& datum, pugi::xml_node node) {
     const pugi::xml_node held = node.text().data(); // the first text
     const auto readHeld = [&] {
         const SourceText& source = report_.source();
-        const Extent extent = held ? source.wholeText(held) : source.extent(node);
-        report_.inOrder([&] {
-            if (held.type() == pugi::node_pcdata) // In a CDATA section, "&" is a letter.
-                checkCharacters(report_, extent, held.value(), "");
-            values_.check(datum, held.value(), extent, "");
-        });
+        // In a CDATA section, "&" is a letter.
+        read(datum, held.value(), held ? source.wholeText(held) : source.extent(node), "",
+             held.type() == pugi::node_pcdata);
     };
     // In the order of the file: what is said of a text that is not there, is said of the element.
     if (!held)

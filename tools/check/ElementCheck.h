@@ -48,6 +48,8 @@ public:
     void strayText(const ElementFormat& format, pugi::xml_node text);
 
 private:
+    void read(const DatumFormat& datum, const char* value, Extent extent, std::string_view step,
+              bool markup);
     void unknownElement(const ElementFormat& format, pugi::xml_node node, std::size_t number,
                         const std::vector<const char*>& absent, bool beforeList);
     void repeatedElement(pugi::xml_node node, std::size_t number);

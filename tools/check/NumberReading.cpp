@@ -83,6 +83,25 @@ void findOddity(NumberReading& number, const char* text, std::size_t length, boo
 
 } // namespace
 
+std::string NumberReading::read() const {
+    return fmt::format("{}", value);
+}
+
+bool isPlainNumber(const char* text, bool whole) {
+    // So few digits that an integer and a double hold them, and none of them is too small.
+    constexpr std::size_t most = 9;
+    constexpr std::size_t mostOfFraction = 99;
+    const char* const number = *text == '-' ? text + 1 : text;
+    const std::size_t digits = std::strspn(number, decimalDigits);
+    if (digits == 0 || digits > most)
+        return false;
+    const char* const rest = number + digits;
+    if (*rest != '.' || whole)
+        return *rest == '\0';
+    const std::size_t fraction = std::strspn(rest + 1, decimalDigits);
+    return fraction > 0 && fraction <= mostOfFraction && rest[1 + fraction] == '\0';
+}
+
 NumberReading readNumber(const char* text) {
     NumberReading number;
     char* end = nullptr;
@@ -90,7 +109,6 @@ NumberReading readNumber(const char* text) {
     number.value = qenxml::decodeNumber(text, &end);
     // Numbers so small that they lose digits are out of range to the C library, but not here.
     const bool inRange = errno != ERANGE || (number.value != 0 && std::isfinite(number.value));
-    number.read = fmt::format("{}", number.value);
     findOddity(number, text, static_cast<std::size_t>(end - text), inRange);
     return number;
 }
@@ -100,7 +118,6 @@ NumberReading readInteger(const char* text) {
     const int value = integerOf(text);
     const std::size_t length = integerLength(text);
     number.value = value;
-    number.read = fmt::format("{}", value);
     // Anything of more digits than this is wrong by a factor, so a double tells it well enough.
     const double written = qenxml::decodeNumber(std::string(text, length).c_str(), nullptr);
     findOddity(number, text, length, written == number.value);

@@ -18,9 +18,17 @@ struct NumberReading {
 
     Fault fault = Fault::None;
     double value = 0;       ///< What is read.
-    std::string read;       ///< What is read, as a text.
     std::size_t offset = 0; ///< Where in the text the fault is.
+
+    /// What is read, as a text.
+    std::string read() const;
 };
+
+/// Whether a text is a number as most are, "12" or "-9.3", of which nothing is odd. Others may be
+/// without a fault, too.
+///
+/// @param whole without a fraction
+bool isPlainNumber(const char* text, bool whole);
 
 /// A number with a fraction.
 NumberReading readNumber(const char* text);

@@ -54,16 +54,13 @@ void checkName(const std::string& path, FindingSink& sink) {
 
 /// Where the first byte is that belongs to no character.
 std::optional<std::size_t> firstInvalidByte(std::string_view text) {
-    std::size_t offset = 0;
+    std::size_t offset = asciiLength(text);
     while (offset < text.size()) {
-        if (static_cast<unsigned char>(text[offset]) < 0x80) {
-            ++offset;
-            continue;
-        }
         const Utf8Character character = firstCharacter(text.substr(offset));
         if (!character.valid)
             return offset;
         offset += character.length;
+        offset += asciiLength(text.substr(offset));
     }
     return std::nullopt;
 }
@@ -116,7 +113,7 @@ private:
         };
         // The finding about bytes that are not UTF-8 names the declaration, too.
         if (encoding_ != pugi::encoding_utf8 || name.empty() || is("UTF-8") || is("US-ASCII") ||
-            invalidByte_ || isAscii(source_.text()))
+            invalidByte_ || asciiLength(source_.text()) == source_.text().size())
             return;
         const auto offset = static_cast<std::size_t>(name.data() - source_.text().data());
         if (reading.refusal && reading.refusal->offset == offset)

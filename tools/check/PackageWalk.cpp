@@ -146,9 +146,9 @@ private:
         }
 
         const DatumFormat& name = format.children.front();
-        const CheckReport::InRecord inRecord(
-            report_, {format.record, escapeExcerpt(node.child(name.name).child_value()),
-                      readable ? std::optional(id.value) : std::nullopt});
+        const CheckReport::InRecord inRecord(report_, format.record,
+                                             node.child(name.name).child_value(),
+                                             readable ? std::optional(id.value) : std::nullopt);
         noName(name, node);
         check_.missingIdentifiers(format, node);
         missingParts(format, node);

@@ -41,25 +41,26 @@ void checkOrder(CheckReport& report, const Value& small, const Value& large) {
     if (!small.node || !large.node || !(small.number.value > large.number.value))
         return;
     report.add(FindingCode::RateOrder, small.node, small.name, [&] {
-        return Details{fmt::format("{} {} is above {} {}", small.name, small.number.read,
-                                   large.name, large.number.read),
+        return Details{fmt::format("{} {} is above {} {}", small.name, small.number.read(),
+                                   large.name, large.number.read()),
                        Kept{}};
     });
 }
 
-void checkUnit(CheckReport& report, const Rates& rates, pugi::xml_node child) {
-    const pugi::xml_node recStats = child.parent();
-    const bool hasUnit = *recStats.child(tag::RateUOM).text().as_string() != '\0' ||
-                         recStats.child(tag::RateUOMID).text().as_int() != 0;
-    if (hasUnit)
-        return;
+bool hasUnit(pugi::xml_node recStats) {
+    return *recStats.child(tag::RateUOM).text().as_string() != '\0' ||
+           recStats.child(tag::RateUOMID).text().as_int() != 0;
+}
+
+void checkUnit(CheckReport& report, pugi::xml_node child) {
+    const Rates rates(child.parent());
     for (const Value* rate : {&rates.minimum, &rates.average, &rates.maximum}) {
         if (rate->number.value == 0)
             continue;
         if (rate->node == child) // The unit is that of all rates: it is missing once.
             report.add(FindingCode::RateWithoutUnit, child, rate->name, [&] {
                 return Details{fmt::format("{} is {}, without a {} or {}", rate->name,
-                                           rate->number.read, tag::RateUOM, tag::RateUOMID),
+                                           rate->number.read(), tag::RateUOM, tag::RateUOMID),
                                Kept{}};
             });
         return;
@@ -72,10 +73,14 @@ void checkRate(CheckReport& report, pugi::xml_node child) {
     const std::string_view name = child.name();
     if (name != tag::MinimumRate && name != tag::AverageRate && name != tag::MaximumRate)
         return;
-    const Rates rates(child.parent());
-    if (child == rates.minimum.node)
-        checkOrder(report, rates.minimum, rates.average.node ? rates.average : rates.maximum);
-    else if (child == rates.average.node)
-        checkOrder(report, rates.average, rates.maximum);
-    checkUnit(report, rates, child);
+    const pugi::xml_node recStats = child.parent();
+    if (name == tag::MinimumRate) {
+        const bool hasAverage = !recStats.child(tag::AverageRate).empty();
+        checkOrder(report, Value(recStats, tag::MinimumRate),
+                   Value(recStats, hasAverage ? tag::AverageRate : tag::MaximumRate));
+    } else if (name == tag::AverageRate) {
+        checkOrder(report, Value(recStats, tag::AverageRate), Value(recStats, tag::MaximumRate));
+    }
+    if (!hasUnit(recStats))
+        checkUnit(report, child);
 }

@@ -85,13 +85,15 @@ void ValueCheck::identifier(const DatumFormat& datum, std::string_view text, Ext
 void ValueCheck::number(const DatumFormat& datum, const char* text, Extent extent,
                         std::string_view step) {
     using Fault = NumberReading::Fault;
-    const NumberReading number =
-        datum.kind == qenxml::format::Kind::Integer ? readInteger(text) : readNumber(text);
+    const bool whole = datum.kind == qenxml::format::Kind::Integer;
+    if (isPlainNumber(text, whole))
+        return;
+    const NumberReading number = whole ? readInteger(text) : readNumber(text);
     const auto add = [&](FindingCode code, const char* what) {
         report_.add(code, restOf(extent, text, number.offset), step, [&] {
             const std::string value = *text == '\0' ? "" : " " + quotedText(text);
             return Details{fmt::format("{}{} {}", datum.name, value, what),
-                           ReadAs{number.read, incomplete_}};
+                           ReadAs{number.read(), incomplete_}};
         });
     };
     switch (number.fault) {

@@ -48,17 +48,18 @@ std::string shown(std::string_view text) {
 } // namespace
 
 SourceText::SourceText(std::string bytes)
-    : encoding_(encodingOf(bytes)), utf8_(toUtf8(std::move(bytes), encoding_)) {
+    : encoding_(encodingOf(bytes)),
+      utf8_(toUtf8(std::move(bytes), encoding_)),
+      marks_{{startOf(utf8_), {1, 1}}} {}
+
+void SourceText::setMarksUpTo(std::size_t offset) const {
     constexpr std::size_t distance = 1024;
     const std::string_view text = utf8_;
-    std::size_t next = 0;
-    Mark mark{startOf(text), {1, 1}};
-    while (mark.offset < text.size()) {
+    Mark mark = marks_.back();
+    while (mark.offset < offset) {
         // A line feed is not told from the rest of a line end without what is before it.
-        if (mark.offset >= next && text[mark.offset] != '\n') {
+        if (mark.offset >= marks_.back().offset + distance && text[mark.offset] != '\n')
             marks_.push_back(mark);
-            next = mark.offset + distance;
-        }
         advance(text, mark.offset, mark.position);
     }
 }
@@ -85,10 +86,11 @@ pugi::xml_parse_result SourceText::load(pugi::xml_document& document) const {
 Position SourceText::position(std::size_t offset) const {
     const std::string_view text = utf8_;
     const std::string_view before = text.substr(0, characterStart(text, offset));
+    setMarksUpTo(before.size());
     const auto after =
         std::upper_bound(marks_.begin(), marks_.end(), before.size(),
                          [](std::size_t wanted, const Mark& mark) { return wanted < mark.offset; });
-    Mark mark = after == marks_.begin() ? Mark{startOf(utf8_), {1, 1}} : *std::prev(after);
+    Mark mark = after == marks_.begin() ? marks_.front() : *std::prev(after);
     while (mark.offset < before.size())
         advance(before, mark.offset, mark.position);
     return mark.position;

@@ -79,9 +79,13 @@ private:
         Position position;
     };
 
+    void setMarksUpTo(std::size_t offset) const;
+
     pugi::xml_encoding encoding_; // of the file
     std::string utf8_;
-    std::vector<Mark> marks_; // close enough together to count from the last one before a place
+    /// Close enough together to count from the last one before a place. They are set when a place
+    /// is asked for: most files have none to ask for.
+    mutable std::vector<Mark> marks_;
 };
 
 /// The name of an attribute in a document loaded by SourceText::load().

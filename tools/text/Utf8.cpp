@@ -1,6 +1,7 @@
 #include "tools/text/Utf8.h"
 
-#include <algorithm>
+#include <cstdint>
+#include <cstring>
 
 Utf8Character firstCharacter(std::string_view text) {
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
@@ -34,9 +35,17 @@ std::size_t characterStart(std::string_view text, std::size_t offset) {
     return offset;
 }
 
-bool isAscii(std::string_view text) {
-    return std::none_of(text.begin(), text.end(),
-                        [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
+std::size_t asciiLength(std::string_view text) {
+    constexpr std::uint64_t others = 0x8080808080808080U;
+    std::size_t length = 0;
+    for (std::uint64_t bytes = 0; length + sizeof bytes <= text.size(); length += sizeof bytes) {
+        std::memcpy(&bytes, text.data() + length, sizeof bytes);
+        if ((bytes & others) != 0)
+            break;
+    }
+    while (length < text.size() && static_cast<unsigned char>(text[length]) < 0x80)
+        ++length;
+    return length;
 }
 
 std::string validUtf8(std::string_view text) {

@@ -25,8 +25,8 @@ Utf8Character firstCharacter(std::string_view text);
 /// is in the middle of one.
 std::size_t characterStart(std::string_view text, std::size_t offset);
 
-/// Whether a text has characters of ASCII only.
-bool isAscii(std::string_view text);
+/// How many bytes at the front of a text are characters of ASCII.
+std::size_t asciiLength(std::string_view text);
 
 /// The text with U+FFFD, the replacement character, in the place of each byte that belongs to no
 /// character.

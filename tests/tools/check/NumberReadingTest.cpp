@@ -58,7 +58,7 @@ TEST(NumberReading, FindsWhatIsOddAboutANumber) {
     for (const Case& expected : cases) {
         const NumberReading number = readNumber(expected.text.c_str());
         EXPECT_EQ(number.fault, expected.fault) << expected.text;
-        EXPECT_EQ(number.read, expected.read) << expected.text;
+        EXPECT_EQ(number.read(), expected.read) << expected.text;
         EXPECT_EQ(number.offset, expected.offset) << expected.text;
     }
 }
@@ -91,7 +91,7 @@ TEST(NumberReading, FindsWhatIsOddAboutAWholeNumber) {
     for (const Case& expected : cases) {
         const NumberReading number = readInteger(expected.text.c_str());
         EXPECT_EQ(number.fault, expected.fault) << expected.text;
-        EXPECT_EQ(number.read, expected.read) << expected.text;
+        EXPECT_EQ(number.read(), expected.read) << expected.text;
         EXPECT_EQ(number.offset, expected.offset) << expected.text;
     }
 }
