@@ -132,6 +132,7 @@ const std::vector<BrokenPackage>& brokenPackages() {
          "<ProductID>27</ProductID>", ana},
         {"number-not-finite", "true", ana, "<MaximumRate>inf</MaximumRate>",
          "<MaximumRate>180</MaximumRate>", ana},
+        {"number-hexadecimal", "true", ana, "<UOMID>0x11</UOMID>", "<UOMID>11</UOMID>", ana},
         {"unknown-element", "true", ana, "<Remark>Hitno</Remark>", "", ana},
         {"misspelt-element", "true", ana, "FieldGeometryDatum>", "FieldGeometryDate>", ana},
         {"misplaced-element", "true", ana,
@@ -200,7 +201,6 @@ const std::vector<BrokenPackage>& brokenPackages() {
         {"nil-identifier", "true", ana, "FarmID=\"00000000-0000-0000-0000-000000000000\"",
          "FarmID=\"0e853b3d-0878-42f1-ba82-d5e02fc65f07\"", ana},
         {"number-empty", "true", ana, "<TotalUOMID/>", "<TotalUOMID>11</TotalUOMID>", ana},
-        {"number-hexadecimal", "true", ana, "<UOMID>0x11</UOMID>", "<UOMID>11</UOMID>", ana},
     };
     return packages;
 }

@@ -87,6 +87,7 @@ constexpr std::string_view wordFor(Severity severity) {
     FINDING(NumberCutOff, "number-cut-off", Warning, "a number is cut off")                        \
     FINDING(NumberOutOfRange, "number-out-of-range", Warning, "a number is out of range")          \
     FINDING(NumberNotFinite, "number-not-finite", Warning, "a number is infinite or undefined")    \
+    FINDING(NumberHexadecimal, "number-hexadecimal", Warning, "a number is hexadecimal")           \
     FINDING(UnknownElement, "unknown-element", Warning, "an element is unknown")                   \
     FINDING(MisspeltElement, "misspelt-element", Warning, "an element may be misspelt")            \
     FINDING(MisplacedElement, "misplaced-element", Warning, "an element stands in another one")    \
@@ -143,8 +144,7 @@ constexpr std::string_view wordFor(Severity severity) {
     FINDING(EmptyName, "empty-name", Note, "a record has no name", "hosts can show no name")       \
     FINDING(NilIdentifier, "nil-identifier", Note, "an identifier is nil",                         \
             "hosts cannot tell it from an identifier that is not there")                           \
-    FINDING(NumberEmpty, "number-empty", Note, "an element for a number is empty")                 \
-    FINDING(NumberHexadecimal, "number-hexadecimal", Note, "a number is hexadecimal")
+    FINDING(NumberEmpty, "number-empty", Note, "an element for a number is empty")
 
 /// What can be found.
 enum class FindingCode : std::size_t {
