@@ -193,6 +193,7 @@ void addDetailOptions(CLI::App& parser, CheckOptions& options) {
 /// Adds the options that say what makes the command fail.
 void addFailureOptions(CLI::App& parser, CheckOptions& options) {
     std::vector<std::string> choices;
+    choices.reserve(severities.size() + 1);
     for (const Severity severity : severities)
         choices.emplace_back(wordFor(severity));
     choices.emplace_back(never);

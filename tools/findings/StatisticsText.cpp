@@ -25,7 +25,7 @@ std::string codeNames(const std::vector<FindingCode>& codes) {
 
 /// Blanks that bring a text to a width.
 std::string padding(std::string_view text, std::size_t width) {
-    return std::string(width - text.size(), ' ');
+    return fmt::format("{:{}}", "", width - text.size());
 }
 
 } // namespace
