@@ -62,7 +62,7 @@ constexpr std::string_view wordFor(Severity severity) {
             "nothing is read from the package")                                                    \
     FINDING(BeforeList, "item-before-list", Warning, "something before a list is skipped")         \
     FINDING(OtherNameInList, "other-name-in-list", Warning,                                        \
-            "an item of a list has the wrong name", "it counts as a {0}, because it has a {0}ID")  \
+            "an item of a list has the wrong name", "it counts as a {}")                           \
     FINDING(IdentifierDigit, "identifier-digit", Warning,                                          \
             "an identifier holds a character that is no digit")                                    \
     FINDING(IdentifierTrailing, "identifier-trailing", Warning, "text follows an identifier",      \

@@ -113,62 +113,11 @@ const Formats& formats() {
 
 } // namespace
 
+const ElementFormat& formatOf(const Element& element) {
+    return formats().of(element);
+}
+
 namespace format {
-
-const ElementFormat& recPackage() {
-    static const ElementFormat& format = formats().of(table::elementOf<table::recPackage>);
-    return format;
-}
-
-const ElementFormat& grower() {
-    static const ElementFormat& format = formats().of(table::elementOf<table::grower>);
-    return format;
-}
-
-const ElementFormat& farm() {
-    static const ElementFormat& format = formats().of(table::elementOf<table::farm>);
-    return format;
-}
-
-const ElementFormat& field() {
-    static const ElementFormat& format = formats().of(table::elementOf<table::field>);
-    return format;
-}
-
-const ElementFormat& fieldCentroid() {
-    static const ElementFormat& format = formats().of(table::elementOf<table::fieldCentroid>);
-    return format;
-}
-
-const ElementFormat& recommendations() {
-    static const ElementFormat& format = formats().of(table::elementOf<table::recommendations>);
-    return format;
-}
-
-const ElementFormat& rec() {
-    static const ElementFormat& format = formats().of(table::elementOf<table::rec>);
-    return format;
-}
-
-const ElementFormat& operation() {
-    static const ElementFormat& format = formats().of(table::elementOf<table::operation>);
-    return format;
-}
-
-const ElementFormat& season() {
-    static const ElementFormat& format = formats().of(table::elementOf<table::season>);
-    return format;
-}
-
-const ElementFormat& recData() {
-    static const ElementFormat& format = formats().of(table::elementOf<table::recData>);
-    return format;
-}
-
-const ElementFormat& recStats() {
-    static const ElementFormat& format = formats().of(table::elementOf<table::recStats>);
-    return format;
-}
 
 const std::vector<const ElementFormat*>& all() {
     return formats().all();

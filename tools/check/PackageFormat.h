@@ -33,19 +33,28 @@ struct ElementFormat {
     const char* record = nullptr;        ///< What people call it, if it is a record.
 };
 
+/// The format of an element of the library's table.
+const ElementFormat& formatOf(const qenxml::format::Element& element);
+
+template <const auto& element>
+const ElementFormat& formatOf() {
+    static const ElementFormat& format = formatOf(qenxml::format::elementOf<element>);
+    return format;
+}
+
 /// The formats of the elements that are lists, records or parts of them.
 namespace format {
-const ElementFormat& recPackage();
-const ElementFormat& grower();
-const ElementFormat& farm();
-const ElementFormat& field();
-const ElementFormat& fieldCentroid();
-const ElementFormat& recommendations();
-const ElementFormat& rec();
-const ElementFormat& operation();
-const ElementFormat& season();
-const ElementFormat& recData();
-const ElementFormat& recStats();
+inline constexpr auto recPackage = formatOf<qenxml::format::recPackage>;
+inline constexpr auto grower = formatOf<qenxml::format::grower>;
+inline constexpr auto farm = formatOf<qenxml::format::farm>;
+inline constexpr auto field = formatOf<qenxml::format::field>;
+inline constexpr auto fieldCentroid = formatOf<qenxml::format::fieldCentroid>;
+inline constexpr auto recommendations = formatOf<qenxml::format::recommendations>;
+inline constexpr auto rec = formatOf<qenxml::format::rec>;
+inline constexpr auto operation = formatOf<qenxml::format::operation>;
+inline constexpr auto season = formatOf<qenxml::format::season>;
+inline constexpr auto recData = formatOf<qenxml::format::recData>;
+inline constexpr auto recStats = formatOf<qenxml::format::recStats>;
 
 /// All of them.
 const std::vector<const ElementFormat*>& all();

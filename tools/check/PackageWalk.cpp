@@ -166,18 +166,15 @@ private:
         const std::string what = node.type() == pugi::node_element
                                      ? quoted(node.name())
                                      : fmt::format("the text {}", quotedText(node.value()));
-        const std::string found =
-            fmt::format("{} follows the first {} and is read as one too", what, format.name);
-        if (readable) {
+        const std::string found = fmt::format(
+            "{} follows the first {} and is read as one too, {} {}", what, format.name,
+            readable ? "because it has a" : "but has no readable", format.attributes.front().name);
+        if (readable)
             report_.add(FindingCode::OtherNameInList, node, "", [&] {
                 return Details{found, ReadAs{format.name}};
             });
-            return;
-        }
-        report_.add(FindingCode::AfterList, node, "", [&] {
-            return Details{
-                fmt::format("{}, but has no readable {}", found, format.attributes.front().name)};
-        });
+        else
+            report_.add(FindingCode::AfterList, node, "", [&] { return Details{found}; });
     }
 
     void duplicate(const ElementFormat& format, pugi::xml_node node, const boost::uuids::uuid& id,

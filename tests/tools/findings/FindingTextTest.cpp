@@ -33,8 +33,7 @@ TEST(ConsequenceText, SaysWhatIsReadInstead) {
     EXPECT_EQ(text(ReadAs{"135"}), "it is read as 135");
     EXPECT_EQ(text(ReadAs{"0", true}), "once the product is complete, it is read as 0");
     EXPECT_EQ(text(ReadAs{"kg"}, FindingCode::TextCutOff), "it is read as \"kg\"");
-    EXPECT_EQ(text(ReadAs{"Farm"}, FindingCode::OtherNameInList),
-              "it counts as a Farm, because it has a FarmID");
+    EXPECT_EQ(text(ReadAs{"Farm"}, FindingCode::OtherNameInList), "it counts as a Farm");
 }
 
 TEST(ConsequenceText, SaysWhatIsLeftOut) {
