@@ -143,37 +143,36 @@ private:
             property("product", style_.remark("no product data"));
     }
 
-    void writeProduct(PlantingRec& planting, const MissingNumbers& /*missing*/) {
-        product(
-            "planting",
+    template <class Product>
+    void writeProduct(Product& product, const MissingNumbers& missing) {
+        const std::string unit =
+            labelled("unit", escapedTextOrCode(product.uom(), product.uomId()));
+        const std::string what = join({called(product), unit}, ", ");
+        property("product",
+                 join({join({productKind(&product), what}, ": "), identifierOf(product)}, "  "));
+        property("", contentOf(product, missing));
+    }
+
+    static std::string called(QenRecData& product) { return escape(productName(&product)); }
+
+    static std::string called(PlantingRec& planting) {
+        return join(
             {labelled("crop", escapedTextOrCode(planting.cropName(), planting.cropId())),
              labelled("company", escapedTextOrCode(planting.companyName(), planting.companyId())),
-             labelled("variety", escapedTextOrCode(planting.varietyName(), planting.varietyId())),
-             labelled("unit", escapedTextOrCode(planting.uom(), planting.uomId()))});
+             labelled("variety", escapedTextOrCode(planting.varietyName(), planting.varietyId()))},
+            ", ");
     }
 
-    void writeProduct(CommercialFertilizerRec& fertilizer, const MissingNumbers& /*missing*/) {
-        product("fertilizer",
-                {escapedTextOrCode(fertilizer.productName(), fertilizer.productId()),
-                 labelled("unit", escapedTextOrCode(fertilizer.uom(), fertilizer.uomId()))});
+    static std::string identifierOf(QenRecData& /*product*/) { return ""; }
+    std::string identifierOf(CustomFertilizerRec& blend) const {
+        return identifier(blend.productId());
     }
 
-    void writeProduct(CustomFertilizerRec& blend, const MissingNumbers& missing) {
-        product("blend",
-                {escape(blend.productName()),
-                 labelled("unit", escapedTextOrCode(blend.uom(), blend.uomId()))},
-                identifier(blend.productId()));
-        property("", blendContent(blend, missing));
+    static std::string contentOf(QenRecData& /*product*/, const MissingNumbers& /*missing*/) {
+        return "";
     }
-
-    void writeProduct(PesticideRec& mix, const MissingNumbers& /*missing*/) {
-        product("pesticide mix", {escape(mix.pesticideMixName()),
-                                  labelled("unit", escapedTextOrCode(mix.uom(), mix.uomId()))});
-    }
-
-    void product(const char* kind, const std::vector<std::string>& parts,
-                 const std::string& id = "") {
-        property("product", join({join({kind, join(parts, ", ")}, ": "), id}, "  "));
+    static std::string contentOf(CustomFertilizerRec& blend, const MissingNumbers& missing) {
+        return blendContent(blend, missing);
     }
 
     /// The line that opens a record: what it is, what it is called and its identifier.
