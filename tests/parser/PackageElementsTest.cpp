@@ -167,6 +167,45 @@ TEST(PackageElements, AreThoseOfTheDocumentedTables) {
     expectTable(lines);
 }
 
+// Readers find children fastest in the order of the table, and people are told of them in it.
+TEST(PackageElements, StandInTheOrderOfTheSchema) {
+    pugi::xml_document schema;
+    ASSERT_TRUE(schema.load_file(QENXML_SOURCE_DIR "/docs/recpackage.xsd"));
+    using Names = std::vector<std::string>;
+    const std::function<void(const format::Element&, pugi::xml_node)> check =
+        [&](const format::Element& element, pugi::xml_node declaration) {
+            SCOPED_TRACE(nameOf(element.name));
+            Names names;
+            for (const format::Datum& datum : element.attributes)
+                names.push_back(nameOf(datum.name));
+            for (const format::Datum& datum : element.values)
+                names.push_back(nameOf(datum.name));
+            std::vector<const format::Element*> inner(element.parts.begin(), element.parts.end());
+            if (element.item != nullptr)
+                inner.push_back(element.item);
+            for (const format::Element* part : inner)
+                names.push_back(nameOf(part->name));
+
+            Names declared;
+            const pugi::xml_node content = contentOf(declaration);
+            for (const pugi::xml_node attribute : content.children("xs:attribute"))
+                declared.emplace_back(attribute.attribute("name").value());
+            for (const pugi::xml_node group : content.children())
+                for (const pugi::xml_node child : group.children("xs:element"))
+                    declared.emplace_back(child.attribute("name").value());
+            // Products are alternatives to each other.
+            if (inner.empty() || !inner.front()->isProduct) {
+                EXPECT_EQ(declared, names);
+            }
+            for (const format::Element* part : inner)
+                check(*part, content.find_node([&](pugi::xml_node node) {
+                    return std::string(node.name()) == "xs:element" &&
+                           node.attribute("name").value() == nameOf(part->name);
+                }));
+        };
+    check(format::elementOf<format::recPackage>, schema.child("xs:schema").child("xs:element"));
+}
+
 // People call a record by its first value, and know it by its first attribute.
 TEST(PackageElements, ThatAreRecordsBeginWithTheirIdentifierAndName) {
     const std::map<format::Record, std::string> records = {{format::Record::Grower, "Grower"},
