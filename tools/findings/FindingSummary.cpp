@@ -53,6 +53,13 @@ std::string groupText(const FindingCollection& findings, FindingCode code, const
 
 } // namespace
 
+std::string severityText(Severity severity, const Style& style) {
+    const std::string_view word = wordFor(severity);
+    return severity == Severity::Error     ? style.error(word)
+           : severity == Severity::Warning ? style.remark(word)
+                                           : style.kind(word);
+}
+
 std::string summaryText(const FindingCollection& findings, const std::string& file,
                         const Style& style) {
     std::string text;

@@ -78,13 +78,6 @@ private:
 
 } // namespace
 
-std::string severityText(Severity severity, const Style& style) {
-    const std::string_view word = wordFor(severity);
-    return severity == Severity::Error     ? style.error(word)
-           : severity == Severity::Warning ? style.remark(word)
-                                           : style.kind(word);
-}
-
 std::string consequenceText(const Finding& finding) {
     return std::visit(Sentence(kindOf(finding.code).consequence), finding.consequence);
 }

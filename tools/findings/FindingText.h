@@ -7,10 +7,6 @@
 #include <string>
 
 #include "tools/check/FindingCollection.h"
-#include "tools/output/Style.h"
-
-/// The word for a severity, as it looks.
-std::string severityText(Severity severity, const Style& style);
 
 /// What reading makes of it: "it is read as 135".
 std::string consequenceText(const Finding& finding);

@@ -6,6 +6,7 @@
 
 #include <fmt/format.h>
 
+#include "tools/findings/FindingSummary.h"
 #include "tools/findings/FindingText.h"
 #include "tools/text/Words.h"
 
