@@ -80,11 +80,9 @@ pugi::xml_node contentOf(pugi::xml_node element) {
 }
 
 std::string typeOf(pugi::xml_node declaration) {
-    static const std::map<std::string, std::string> types = {{"xs:string", "text"},
-                                                             {"xs:int", "integer"},
-                                                             {"seasonNumber", "integer"},
-                                                             {"latitude", "number"},
-                                                             {"longitude", "number"}};
+    static const std::map<std::string, std::string> types = {
+        {"xs:string", "text"},       {"columnName", "text"}, {"xs:int", "integer"},
+        {"seasonNumber", "integer"}, {"latitude", "number"}, {"longitude", "number"}};
     const std::string type = declaration.attribute("type").value();
     const auto found = types.find(type);
     const bool optional =

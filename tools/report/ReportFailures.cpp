@@ -46,7 +46,8 @@ void ReportFailures::write() const {
     if (lost > 0)
         sentences.push_back("nothing is read of " + groupedQuantity(lost, "package"));
     if (broken > lost)
-        sentences.push_back("not everything is read of " + groupedQuantity(broken - lost, "package"));
+        sentences.push_back("not everything is read of " +
+                            groupedQuantity(broken - lost, "package"));
     sink_(fmt::format("<p>{}.</p>\n", capitalised(joined(sentences))));
     for (const auto& [reason, packages] : reasons)
         writeGroup(packages);
