@@ -17,9 +17,10 @@ logged() {
 
 # The time and the last line of a log, as long as the script runs (which may be interrupted).
 report_on() {
-    local log=$1 what=$2 started=$SECONDS
+    local log=$1 what=$2 started=$SECONDS naps=0
     while sleep 1 && kill -0 $$ 2>/dev/null; do
-        [ $(((SECONDS - started) % 20)) != 0 ] ||
+        naps=$((naps + 1))
+        [ $((naps % 20)) != 0 ] ||
             echo "$what, $((SECONDS - started)) s: $(tail -n 1 "$log" | tr -d '\r' | cut -c 1-100)" >&2
     done
 }

@@ -117,7 +117,13 @@ rm "$work/builds"
 
 echo "== something takes long"
 logged() { bash -c '. "$0/scripts/progress.sh"; logged "$@"' "$source" "$work/log" "$@" 2>"$work/messages"; }
-program long <<<'echo "at one half"; command -p sleep 2' # sleep takes no time for the scripts here
+program long <<'END'
+echo "at one half"
+for _ in {1..600}; do # until that is told; sleep takes no time for the scripts here
+    grep -q "at one half" "$WORK/messages" && break
+    command -p sleep 0.1
+done
+END
 logged "Doing something" long
 grep -q '^Doing something; see ' "$work/messages" || fail "does not say what it does"
 grep -q '^Doing something, .* s: at one half$' "$work/messages" || fail "does not say how far it is"
