@@ -108,8 +108,11 @@ FindingCounts checkFiles(const PackageOptions& packages, const WantedCodes& want
         WantedFindings findings(wanted, progress, writer.beginFile(path));
         progress.beginFile(path);
         NewFindings unknown(baseline, wanted, path, findings);
-        FindingSink& sink = baseline.isEmpty() ? static_cast<FindingSink&>(findings) : unknown;
-        checkInput(PackageInput(path, packages), sink);
+        const PackageInput input(path, packages);
+        if (baseline.isEmpty())
+            checkInput(input, findings);
+        else
+            checkInput(input, unknown);
         writer.endFile();
         sum += findings.counts();
         known += unknown.known();

@@ -121,7 +121,7 @@ std::optional<boost::uuids::uuid> personsIdentifier(std::string_view text) {
         if (!digit)
             return std::nullopt;
         auto& byte = result.begin()[halves / 2];
-        byte = static_cast<unsigned char>(byte << 4U | *digit);
+        byte = static_cast<unsigned char>(byte * 16U + *digit);
         ++halves;
     }
     return result;
