@@ -9,7 +9,7 @@
 
 /// A finding and the index of its package.
 struct PackageFinding {
-    std::size_t package;
+    std::size_t package = 0;
     Finding finding;
 };
 

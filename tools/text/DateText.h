@@ -22,7 +22,7 @@ struct TimeSpan {
 };
 
 struct DateText {
-    DateKind kind;
+    DateKind kind = DateKind::None;
     TimeSpan span = {}; ///< Of one as in ISO 8601.
 };
 
