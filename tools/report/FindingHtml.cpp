@@ -17,7 +17,7 @@ std::string consequenceHtml(const Finding& finding) {
 
 std::string placeHtml(const ReportData& data, const ReportPackage& package,
                       const std::optional<Finding>& finding) {
-    const std::string file = fmt::format("<strong>{}</strong>", htmlName(data.fileName(package)));
+    std::string file = fmt::format("<strong>{}</strong>", htmlName(data.fileName(package)));
     if (!finding || !finding->location)
         return file;
     const std::string position = fmt::format("line {}, column {}", finding->location->begin.line,

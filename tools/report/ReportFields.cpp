@@ -101,7 +101,7 @@ void ReportFields::writeRecs(const FieldContext& context) {
                       groupedQuantity(context.field.recs().size(), "rec")));
     const std::map<std::string, RateScale> scales = scalesOf(context);
     for (QenRec& rec : context.field.recs()) {
-        if (recs_ == data_.mostRecs)
+        if (recs_ == ReportData::mostRecs)
             break;
         ++recs_;
         const MissingNumbers& missing = context.missingFrom(rec);

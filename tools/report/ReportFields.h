@@ -15,7 +15,9 @@ public:
     void write();
 
 private:
-    bool isFull() const { return fields_ >= data_.mostFields || recs_ >= data_.mostRecs; }
+    bool isFull() const {
+        return fields_ >= ReportData::mostFields || recs_ >= ReportData::mostRecs;
+    }
 
     void write(PackageRecords& records);
     void write(QenGrower& grower, const GrowerGaps& gaps);
