@@ -9,7 +9,7 @@
 #include <fmt/format.h>
 
 #include "parser/internal/TagConstants.h"
-#include "tools/check/NumberReading.h"
+#include "tools/check/ChildNumber.h"
 #include "tools/text/Words.h"
 
 namespace tag = qenxml::tag;
@@ -18,19 +18,7 @@ namespace {
 
 using Details = CheckReport::Details;
 
-/// A number that may be there.
-struct Value {
-    Value(pugi::xml_node parent, const char* childName)
-        : name(childName),
-          node(parent.child(childName)),
-          number(readNumber(node.text().as_string())) {}
-
-    const char* name;
-    pugi::xml_node node;
-    NumberReading number;
-};
-
-void checkRange(CheckReport& report, const Value& value, double limit) {
+void checkRange(CheckReport& report, const ChildNumber& value, double limit) {
     if (value.number.value >= -limit && value.number.value <= limit)
         return;
     report.add(FindingCode::CentroidRange, value.node, value.name, [&] {
@@ -51,14 +39,14 @@ std::string_view slipText(FarmSpread::Slip slip) {
 } // namespace
 
 void checkCentroid(CheckReport& report, pugi::xml_node fieldCentroid) {
-    const Value latitude(fieldCentroid, tag::Latitude);
-    const Value longitude(fieldCentroid, tag::Longitude);
+    const ChildNumber latitude(fieldCentroid, tag::Latitude);
+    const ChildNumber longitude(fieldCentroid, tag::Longitude);
     const bool zero = latitude.number.value == 0 && longitude.number.value == 0;
     if (latitude.node && longitude.node && !zero)
         return;
     report.add(FindingCode::CentroidZero, fieldCentroid, "", [&] {
         std::string found;
-        for (const Value* value : {&latitude, &longitude}) {
+        for (const ChildNumber* value : {&latitude, &longitude}) {
             if (!value->node)
                 found += fmt::format("{}{} is missing", found.empty() ? "" : ", ", value->name);
         }
@@ -73,9 +61,9 @@ void checkSpread(CheckReport& report, const FarmSpread& farm, pugi::xml_node fie
     if (!stray)
         return;
     report.add(FindingCode::CentroidFar, fieldCentroid, "", [&] {
-        std::string found =
-            fmt::format("the centroid ({}, {})", Value(fieldCentroid, tag::Latitude).number.read(),
-                        Value(fieldCentroid, tag::Longitude).number.read());
+        std::string found = fmt::format("the centroid ({}, {})",
+                                        ChildNumber(fieldCentroid, tag::Latitude).number.read(),
+                                        ChildNumber(fieldCentroid, tag::Longitude).number.read());
         const std::string others =
             fmt::format("the other field{} of the farm", stray->ofTwo ? "" : "s");
         if (stray->kilometres)
@@ -96,5 +84,5 @@ void checkCoordinate(CheckReport& report, pugi::xml_node coordinate) {
     constexpr double halfCircle = 180;
     const bool latitude = std::string_view(coordinate.name()) == tag::Latitude;
     const char* const name = latitude ? tag::Latitude : tag::Longitude;
-    checkRange(report, Value(coordinate.parent(), name), latitude ? poles : halfCircle);
+    checkRange(report, ChildNumber(coordinate.parent(), name), latitude ? poles : halfCircle);
 }

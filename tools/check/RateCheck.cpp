@@ -5,25 +5,13 @@
 #include <fmt/format.h>
 
 #include "parser/internal/TagConstants.h"
-#include "tools/check/NumberReading.h"
+#include "tools/check/ChildNumber.h"
 
 namespace tag = qenxml::tag;
 
 namespace {
 
 using Details = CheckReport::Details;
-
-/// A number that may be there.
-struct Value {
-    Value(pugi::xml_node parent, const char* childName)
-        : name(childName),
-          node(parent.child(childName)),
-          number(readNumber(node.text().as_string())) {}
-
-    const char* name;
-    pugi::xml_node node;
-    NumberReading number;
-};
 
 /// The rates of a RecStats element.
 struct Rates {
@@ -32,12 +20,12 @@ struct Rates {
           average(recStats, tag::AverageRate),
           maximum(recStats, tag::MaximumRate) {}
 
-    Value minimum;
-    Value average;
-    Value maximum;
+    ChildNumber minimum;
+    ChildNumber average;
+    ChildNumber maximum;
 };
 
-void checkOrder(CheckReport& report, const Value& small, const Value& large) {
+void checkOrder(CheckReport& report, const ChildNumber& small, const ChildNumber& large) {
     if (!small.node || !large.node || !(small.number.value > large.number.value))
         return;
     report.add(FindingCode::RateOrder, small.node, small.name, [&] {
@@ -54,7 +42,7 @@ bool hasUnit(pugi::xml_node recStats) {
 
 void checkUnit(CheckReport& report, pugi::xml_node child) {
     const Rates rates(child.parent());
-    for (const Value* rate : {&rates.minimum, &rates.average, &rates.maximum}) {
+    for (const ChildNumber* rate : {&rates.minimum, &rates.average, &rates.maximum}) {
         if (rate->number.value == 0)
             continue;
         if (rate->node == child) // The unit is that of all rates: it is missing once.
@@ -76,10 +64,11 @@ void checkRate(CheckReport& report, pugi::xml_node child) {
     const pugi::xml_node recStats = child.parent();
     if (name == tag::MinimumRate) {
         const bool hasAverage = !recStats.child(tag::AverageRate).empty();
-        checkOrder(report, Value(recStats, tag::MinimumRate),
-                   Value(recStats, hasAverage ? tag::AverageRate : tag::MaximumRate));
+        checkOrder(report, ChildNumber(recStats, tag::MinimumRate),
+                   ChildNumber(recStats, hasAverage ? tag::AverageRate : tag::MaximumRate));
     } else if (name == tag::AverageRate) {
-        checkOrder(report, Value(recStats, tag::AverageRate), Value(recStats, tag::MaximumRate));
+        checkOrder(report, ChildNumber(recStats, tag::AverageRate),
+                   ChildNumber(recStats, tag::MaximumRate));
     }
     if (!hasUnit(recStats))
         checkUnit(report, child);

@@ -87,6 +87,14 @@ std::string_view singular(std::string_view word) {
     return many ? word.substr(0, word.size() - 1) : word;
 }
 
+/// As isSameUnit(), of units that are not taken apart: a text may have any number of slashes.
+bool isSameSingleUnit(std::string_view a, std::string_view b) {
+    if (isSameText(a, b) || isSameText(singular(bare(a)), singular(bare(b))))
+        return true;
+    const Unit* const unit = find(a);
+    return unit != nullptr && unit == find(b);
+}
+
 /// What a weight, or a volume of water, weighs.
 Range weightOf(const Unit& unit) {
     const Range weight = unit.measure == Measure::Volume ? water : exactly(1);
@@ -114,14 +122,12 @@ bool isSameText(std::string_view a, std::string_view b) {
 }
 
 bool isSameUnit(std::string_view a, std::string_view b) {
-    if (isSameText(a, b) || isSameText(singular(bare(a)), singular(bare(b))))
+    if (isSameSingleUnit(a, b))
         return true;
     const std::optional<RateUnit> rate = rateUnit(a);
     const std::optional<RateUnit> other = rateUnit(b);
-    if (rate && other)
-        return isSameUnit(rate->amount, other->amount) && isSameUnit(rate->area, other->area);
-    const Unit* const unit = find(a);
-    return unit != nullptr && unit == find(b);
+    return rate && other && isSameSingleUnit(rate->amount, other->amount) &&
+           isSameSingleUnit(rate->area, other->area);
 }
 
 bool isAmbiguousUnit(std::string_view text) {
