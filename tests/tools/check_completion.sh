@@ -21,7 +21,7 @@ fail() {
 # The words that a help text lists under a heading: options, or commands.
 listed() { # HEADING [COMMAND]
     "$command" ${2:+"$2"} --help |
-        sed -n "/^$1:/,/^\$/s/^  \([-a-z][-a-z,]*\).*/\1/p" | tr ',' '\n'
+        sed -n "/^$1:/,/^\$/s/^  \([-a-z][-a-z0,]*\).*/\1/p" | tr ',' '\n'
 }
 
 # Prints what bash offers for a line whose last word is to be completed.
@@ -42,7 +42,7 @@ offered_by_fish() {
 # What zsh offers cannot be asked for outside of its line editor: the words stand in the file, those
 # of a sub-command in its part or in the lists that it takes.
 offered_by_zsh() {
-    grep -oE -- "'?[-a-z]+[:[]|[{,]--?[a-z]+|--[a-z]+" "$share/zsh/site-functions/_qenxml" |
+    grep -oE -- "'?[-a-z]+[:[]|[{,]--?[a-z0]+|--[-a-z]+" "$share/zsh/site-functions/_qenxml" |
         tr -d "':[{,"
 }
 

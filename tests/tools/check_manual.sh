@@ -15,7 +15,7 @@ fail() {
 # The first column of the lists in a help text.
 listed() { # HEADING [COMMAND]
     "$command" ${2:+"$2"} --help |
-        sed -n "/^$1:/,/^\$/s/^  \([-a-z][-a-z,]*\).*/\1/p" | tr ',' '\n'
+        sed -n "/^$1:/,/^\$/s/^  \([-a-z][-a-z0,]*\).*/\1/p" | tr ',' '\n'
 }
 
 check_page() { # NAME [COMMAND]

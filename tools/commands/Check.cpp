@@ -19,8 +19,7 @@
 #include "tools/findings/NewFindings.h"
 #include "tools/findings/WantedFindings.h"
 #include "tools/input/InputCheck.h"
-#include "tools/input/PackageFiles.h"
-#include "tools/input/PackageInput.h"
+#include "tools/input/PackageNames.h"
 #include "tools/options/Arguments.h"
 #include "tools/options/CommonOptions.h"
 #include "tools/options/HelpFormatter.h"
@@ -98,17 +97,16 @@ Baseline baselineIn(const std::string& path) {
 /// Checks the files one by one.
 ///
 /// @return what was found in all of them, beyond what the baseline has
-FindingCounts checkFiles(const PackageOptions& packages, const WantedCodes& wanted,
-                         Baseline& baseline, CheckWriter& writer, Console& console) {
+FindingCounts checkFiles(PackageNames& names, const WantedCodes& wanted, Baseline& baseline,
+                         CheckWriter& writer, Console& console) {
     FindingCounts sum;
     std::size_t known = 0;
-    ProgressLine progress(console, packages.files.size(), untilProgress);
+    ProgressLine progress(console, untilProgress);
     writer.begin();
-    for (const std::string& path : packages.files) {
-        WantedFindings findings(wanted, progress, writer.beginFile(path));
-        progress.beginFile(path);
-        NewFindings unknown(baseline, wanted, path, findings);
-        const PackageInput input(path, packages);
+    names.forEach([&](const PackageInput& input) {
+        WantedFindings findings(wanted, progress, writer.beginFile(input.name()));
+        progress.beginFile(input.name());
+        NewFindings unknown(baseline, wanted, input.name(), findings);
         if (baseline.isEmpty())
             checkInput(input, findings);
         else
@@ -116,7 +114,8 @@ FindingCounts checkFiles(const PackageOptions& packages, const WantedCodes& want
         writer.endFile();
         sum += findings.counts();
         known += unknown.known();
-    }
+        return true; // What cannot be read is among the findings.
+    });
     writer.end();
     console.clearProgress();
     if (known > 0)
@@ -139,21 +138,14 @@ bool isFailure(const FindingCounts& counts, const std::string& least) {
 }
 
 ExitCode check(const CheckOptions& options, Console& console) {
-    requireUsable(options.packages);
+    PackageNames names(options.packages, console);
     if (options.detail != Detail::Findings && options.format != formats.front().name)
         throw CLI::ValidationError("--quiet, --statistics and --verbose are for the format text");
-    const PackageFiles files = packageFiles(options.packages.files);
-    for (const std::string& complaint : files.complaints)
-        console.complain(complaint);
     Baseline baseline = baselineIn(options.baseline);
-    const auto writer =
-        formatNamed(options.format).make(console, {files.paths.size(), options.detail});
+    const auto writer = formatNamed(options.format).make(console, {names.isOne(), options.detail});
     const FindingCounts counts =
-        checkFiles({files.paths, options.packages.uuid}, wantedCodes(options.ignored), baseline,
-                   *writer, console);
-    for (const std::string& remark : files.remarks)
-        console.complain(remark);
-    const bool failed = isFailure(counts, options.failOn) || !files.complaints.empty();
+        checkFiles(names, wantedCodes(options.ignored), baseline, *writer, console);
+    const bool failed = !names.finish() || isFailure(counts, options.failOn);
     return failed ? ExitCode::Failure : ExitCode::Success;
 }
 
@@ -234,7 +226,6 @@ Command addCheck(CLI::App& application) {
         ->option_text("FILE")
         ->check(CLI::Validator(describeNoName, ""));
     parser->set_version_flag("--codes", codeList, "Print the codes of all findings");
-    addPackageOptions(*parser, options->packages,
-                      "Package files, named UUID.xml, and folders with such");
+    addPackageOptions(*parser, options->packages);
     return {parser, [options](Console& console) { return check(*options, console); }};
 }

@@ -14,7 +14,7 @@ enum class ExitCode : int {
 inline constexpr const char* checkExitCodeHelp =
     "Exit codes:\n"
     "  0  nothing was found that is as grave as --fail-on says\n"
-    "  1  something was; or a folder holds no package or cannot be listed; or the output could\n"
+    "  1  something was; or a folder or a list names no file, or not all; or the output could\n"
     "     not be written\n"
     "  2  wrong usage; nothing was read";
 
@@ -28,7 +28,8 @@ inline constexpr const char* explainExitCodeHelp = "Exit codes:\n"
 inline constexpr const char* exitCodeHelp =
     "Exit codes:\n"
     "  0  all files were read\n"
-    "  1  some file could not be read, or the output could not be written\n"
+    "  1  some file could not be read; or a folder or a list names none, or not all; or the\n"
+    "     output could not be written\n"
     "  2  wrong usage; nothing was read";
 
 #endif

@@ -13,7 +13,7 @@
 #include "tools/export/ExportFormat.h"
 #include "tools/export/ExportGeoJson.h"
 #include "tools/export/ExportJson.h"
-#include "tools/input/PackageInput.h"
+#include "tools/input/PackageNames.h"
 #include "tools/input/PackageReading.h"
 #include "tools/options/Arguments.h"
 #include "tools/options/CommonOptions.h"
@@ -57,7 +57,6 @@ const Format& formatNamed(const std::string& name) {
 struct ExportOptions {
     std::string format;
     bool merge = false;
-    std::string output;
     PackageOptions packages;
 };
 
@@ -72,30 +71,28 @@ void exportPackage(PackageReading& reading, bool merge, ExportFormat& format, Me
 }
 
 ExitCode exportPackages(const ExportOptions& options, Console& console) {
-    requireUsable(options.packages, options.output);
-    Output output(options.output, console);
+    PackageNames names(options.packages, console);
+    Output output(options.packages.output, console);
     const auto format =
         formatNamed(options.format).make([&output](std::string_view text) { output.write(text); });
     MergedGrowers merged;
-    ExitCode result = ExitCode::Success;
     bool anyRead = false;
     format->begin(options.merge);
-    for (const std::string& file : options.packages.files) {
-        PackageReading reading =
-            readAndComplain(PackageInput(file, options.packages), "exported", console);
-        if (reading.failure)
-            result = ExitCode::Failure;
+    names.forEach([&](const PackageInput& input) {
+        PackageReading reading = readAndComplain(input, "exported", console);
         anyRead = anyRead || !isLost(reading);
         exportPackage(reading, options.merge, *format, merged, console);
-    }
+        return !reading.failure;
+    });
     if (options.merge) {
         const std::string remark = format->merged(merged);
         if (!remark.empty())
             console.complain(remark);
     }
     format->end();
+    const bool areWhole = names.finish();
     output.finish(anyRead);
-    return result;
+    return areWhole ? ExitCode::Success : ExitCode::Failure;
 }
 
 } // namespace
@@ -113,7 +110,7 @@ Command addExport(CLI::App& application) {
         ->required()
         ->option_text("FORMAT");
     parser->add_flag("--merge", options->merge, "Merge the growers of all packages into one tree");
-    addOutputOption(*parser, options->output);
+    addOutputOption(*parser, options->packages);
     addPackageOptions(*parser, options->packages);
     return {parser, [options](Console& console) { return exportPackages(*options, console); }};
 }

@@ -9,7 +9,7 @@
 #include <boost/uuid/uuid_io.hpp>
 #include <fmt/format.h>
 
-#include "tools/input/PackageInput.h"
+#include "tools/input/PackageNames.h"
 #include "tools/input/PackageReading.h"
 #include "tools/options/CommonOptions.h"
 #include "tools/options/HelpFormatter.h"
@@ -48,45 +48,47 @@ void printGrowers(std::vector<QenGrower>& growers, const std::vector<GrowerGaps>
     });
 }
 
-ExitCode showOneByOne(const PackageOptions& packages, Console& console) {
+void showOneByOne(PackageNames& names, Console& console) {
     constexpr std::size_t indent = 2;
     const TreeLayout layout{console.style(), indent, false};
-    ExitCode result = ExitCode::Success;
     bool first = true;
-    for (const std::string& file : packages.files) {
-        PackageReading reading = readAndComplain(PackageInput(file, packages), "shown", console);
-        if (reading.failure)
-            result = ExitCode::Failure;
-        if (isLost(reading))
-            continue;
-        if (!std::exchange(first, false))
-            console.print("\n");
-        printHeading(reading, console);
-        printGrowers(reading.growers, reading.gaps, layout, console);
-    }
-    return result;
+    names.forEach([&](const PackageInput& input) {
+        PackageReading reading = readAndComplain(input, "shown", console);
+        if (!isLost(reading)) {
+            if (!std::exchange(first, false))
+                console.print("\n");
+            printHeading(reading, console);
+            printGrowers(reading.growers, reading.gaps, layout, console);
+        }
+        return !reading.failure;
+    });
 }
 
-ExitCode showMerged(const PackageOptions& packages, Console& console) {
-    const TreeLayout layout{console.style(), 0, true};
-    ExitCode result = ExitCode::Success;
+void showMerged(PackageNames& names, Console& console) {
     bool any = false;
     MergedGrowers merged;
-    for (const std::string& file : packages.files) {
-        PackageReading reading = readAndComplain(PackageInput(file, packages), "shown", console);
-        if (reading.failure)
-            result = ExitCode::Failure;
-        if (isLost(reading))
-            continue;
-        any = true;
-        printHeading(reading, console);
-        merged.add(std::move(reading.growers), std::move(reading.gaps));
-    }
+    names.forEach([&](const PackageInput& input) {
+        PackageReading reading = readAndComplain(input, "shown", console);
+        if (!isLost(reading)) {
+            any = true;
+            printHeading(reading, console);
+            merged.add(std::move(reading.growers), std::move(reading.gaps));
+        }
+        return !reading.failure;
+    });
     if (any) {
         console.print("\n");
-        printGrowers(merged.growers(), merged.gaps(), layout, console);
+        printGrowers(merged.growers(), merged.gaps(), {console.style(), 0, true}, console);
     }
-    return result;
+}
+
+ExitCode show(const ShowOptions& options, Console& console) {
+    PackageNames names(options.packages, console);
+    if (options.merge)
+        showMerged(names, console);
+    else
+        showOneByOne(names, console);
+    return names.finish() ? ExitCode::Success : ExitCode::Failure;
 }
 
 } // namespace
@@ -100,9 +102,5 @@ Command addShow(CLI::App& application) {
     parser->add_flag("--merge", options->merge,
                      "Print one tree of all packages; each rec names its package");
     addPackageOptions(*parser, options->packages);
-    return {parser, [options](Console& console) {
-                requireUsable(options->packages);
-                return options->merge ? showMerged(options->packages, console)
-                                      : showOneByOne(options->packages, console);
-            }};
+    return {parser, [options](Console& console) { return show(*options, console); }};
 }

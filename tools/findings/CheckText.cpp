@@ -16,7 +16,7 @@ public:
     CheckText(Console& console, const CheckExtent& extent)
         : console_(console),
           detail_(extent.detail),
-          isOne_(extent.files == 1),
+          isOne_(extent.isOne),
           shownPerCode_(detail_ >= Detail::Findings ? mostShown : 0) {}
 
     FindingSink& beginFile(const std::string& path) override {

@@ -1,7 +1,6 @@
 #ifndef QENXML_TOOLS_FINDINGS_CHECKWRITER_H
 #define QENXML_TOOLS_FINDINGS_CHECKWRITER_H
 
-#include <cstddef>
 #include <string>
 
 #include "tools/check/Finding.h"
@@ -16,7 +15,7 @@ enum class Detail {
 
 /// What a check will write.
 struct CheckExtent {
-    std::size_t files = 1; ///< How many will be checked.
+    bool isOne = true; ///< There is only one file.
     Detail detail = Detail::Findings;
 };
 

@@ -9,17 +9,20 @@
 
 #include <CLI/CLI.hpp>
 
-/// What names the packages on a command line.
+/// What names the packages on a command line, and the result.
 struct PackageOptions {
-    std::vector<std::string> files; ///< Paths, or "-" for the standard input.
+    std::vector<std::string> files; ///< Paths of files and folders, or "-" for the standard input.
+    std::string list;               ///< A file with more names, or "-"; empty for none.
+    bool zeroEnds = false;          ///< Whether names in it end with zero bytes.
     std::string uuid;               ///< Identity of the package on the standard input.
+    std::string output;             ///< The file of `-o`; empty or "-" for the standard output.
 };
 
-/// Adds FILE and `--uuid`.
-///
-/// @param files what may be given for FILE beside "-"
-void addPackageOptions(CLI::App& parser, PackageOptions& options,
-                       const std::string& files = "Package files, named UUID.xml");
+/// Adds FILE, `--files-from` with `--null`, and `--uuid`.
+void addPackageOptions(CLI::App& parser, PackageOptions& options);
+
+/// Adds `-o`, which names the file for the result of a command.
+void addOutputOption(CLI::App& parser, PackageOptions& options);
 
 /// Whether an argument stands for the standard input and not for a file.
 bool isStandardInput(const std::string& file);
@@ -27,11 +30,7 @@ bool isStandardInput(const std::string& file);
 /// Refuses what is no way to name packages, such as "-" without `--uuid`; and to write the result
 /// over one of them.
 ///
-/// @param output of `-o`; empty or "-" for the standard output
 /// @throws CLI::ValidationError
-void requireUsable(const PackageOptions& options, const std::string& output = "");
-
-/// Adds the option `-o`, which names the file for the result of a command.
-void addOutputOption(CLI::App& parser, std::string& path);
+void requireUsable(const PackageOptions& options);
 
 #endif

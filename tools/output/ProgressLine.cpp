@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "tools/text/Escape.h"
+#include "tools/text/Words.h"
 
 void ProgressLine::beginFile(const std::string& path) {
     ++file_;
@@ -17,6 +18,7 @@ void ProgressLine::advance(double part) {
     if (now < next_)
         return;
     next_ = now + interval;
-    console_.showProgress(fmt::format("file {} of {}, {:.0f} % of it: {}", file_, files_,
-                                      part * percent, escapeExcerpt(path_)));
+    console_.showProgress(fmt::format("file {}, {:.0f} % of it: {}",
+                                      grouped(std::to_string(file_), ","), part * percent,
+                                      escapeExcerpt(path_)));
 }

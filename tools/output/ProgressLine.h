@@ -12,10 +12,9 @@ class ProgressLine {
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// @param files how many there are
     /// @param delay how long nothing is shown
-    ProgressLine(Console& console, std::size_t files, Clock::duration delay)
-        : console_(console), files_(files), next_(Clock::now() + delay) {}
+    ProgressLine(Console& console, Clock::duration delay)
+        : console_(console), next_(Clock::now() + delay) {}
 
     /// The work comes to the next file.
     void beginFile(const std::string& path);
@@ -25,7 +24,6 @@ public:
 
 private:
     Console& console_;
-    std::size_t files_;
     Clock::time_point next_; ///< When to show something.
     std::size_t file_ = 0;
     std::string path_;

@@ -14,6 +14,8 @@ complete -c qenxml -n "not __fish_seen_subcommand_from $commands" -a report -d '
 
 complete -c qenxml -n "__fish_seen_subcommand_from $readers" -k -a '(__fish_complete_suffix .xml)'
 complete -c qenxml -n '__fish_seen_subcommand_from show export' -l merge -d 'Merge the growers of all packages'
+complete -c qenxml -n "__fish_seen_subcommand_from $readers" -l files-from -r -F -d 'Read the files that a list names'
+complete -c qenxml -n "__fish_seen_subcommand_from $readers" -s 0 -l null -d 'Names in the list end with zero bytes'
 complete -c qenxml -n "__fish_seen_subcommand_from $readers" -l uuid -x -d 'UUID of the package on the standard input'
 complete -c qenxml -n '__fish_seen_subcommand_from export report' -s o -l output -r -F -d 'Write to this file'
 complete -c qenxml -n '__fish_seen_subcommand_from export' -l format -x -a 'json csv geojson' -d 'The format'

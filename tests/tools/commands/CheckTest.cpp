@@ -118,7 +118,7 @@ TEST_F(Check, CountsWhatIsIgnoredNowhere) {
 TEST_F(Check, FailsBecauseOfAFolderWithoutPackagesWhateverItShallFailOn) {
     const RunResult result = run({".", "--fail-on", "never"});
     EXPECT_EQ(result.output, "");
-    EXPECT_EQ(result.errors, "qenxml: .: no visible file in it ends in .xml; nothing is checked\n");
+    EXPECT_EQ(result.errors, "qenxml: .: no visible file in it ends in .xml; nothing is read\n");
     EXPECT_EQ(result.exitCode, 1);
 }
 
@@ -131,7 +131,7 @@ TEST_F(Check, TellsWhatItPassedOverAfterTheResults) {
     EXPECT_EQ(test::runCommand({"check", "--quiet", "."}, options).errors,
               "./" + test::uuidText(1) +
                   ".xml: no problems found\n"
-                  "qenxml: .: passed over 1 file not named .xml\n");
+                  "qenxml: passed over 1 file not named .xml\n");
 }
 
 TEST_F(Check, RefusesOptionsThatContradictEachOther) {

@@ -24,7 +24,8 @@ namespace {
 const std::string exitCodes =
     "Exit codes:\n"
     "  0  all files were read\n"
-    "  1  some file could not be read, or the output could not be written\n"
+    "  1  some file could not be read; or a folder or a list names none, or not all; or the\n"
+    "     output could not be written\n"
     "  2  wrong usage; nothing was read\n";
 
 TEST(ExitCode, HasTheValuesThatTheHelpExplains) {
@@ -64,9 +65,9 @@ TEST(CommandLine, AnswersWrongUsageWithAMessageAndAHint) {
         {{"--bogus"}, "\"--bogus\" is not understood here; try \"qenxml --help\""},
         {{"--merge"}, "\"--merge\" is not understood here; try \"qenxml --help\""},
         {{"-x\n\x1b"}, "\"-x\\n\\x1B\" is not understood here; try \"qenxml --help\""},
-        {{"show"}, "FILE is required; try \"qenxml show --help\""},
-        {{"show", "--merge"}, "FILE is required; try \"qenxml show --help\""},
-        {{"show", "--"}, "FILE is required; try \"qenxml show --help\""},
+        {{"show"}, "FILE or --files-from is required; try \"qenxml show --help\""},
+        {{"show", "--merge"}, "FILE or --files-from is required; try \"qenxml show --help\""},
+        {{"show", "--"}, "FILE or --files-from is required; try \"qenxml show --help\""},
         {{"show", "--bogus"}, "\"--bogus\" is not understood here; try \"qenxml show --help\""},
         {{"show", "a.xml", "-x"}, "\"-x\" is not understood here; try \"qenxml show --help\""},
         {{"show", "-"},
@@ -79,9 +80,15 @@ TEST(CommandLine, AnswersWrongUsageWithAMessageAndAHint) {
         {{"show", "--uuid", "00112233-4455-6677-8899-aabbccddeefg", "-"},
          "--uuid: a UUID such as 00112233-4455-6677-8899-aabbccddeeff is expected; "
          "try \"qenxml show --help\""},
+        {{"show", "-0", "a.xml"}, "--null requires --files-from; try \"qenxml show --help\""},
+        {{"show", "--files-from", "-", "--uuid", "00112233-4455-6677-8899-aabbccddeeff", "-"},
+         "\"-\" is given more than once; try \"qenxml show --help\""},
+        {{"show", "--files-from", "missing"},
+         "--files-from: missing: not found; try \"qenxml show --help\""},
         {{"export", "a.xml"}, "--format is required; try \"qenxml export --help\""},
-        {{"export", "--format", "csv"}, "FILE is required; try \"qenxml export --help\""},
-        {{"report"}, "FILE is required; try \"qenxml report --help\""},
+        {{"export", "--format", "csv"},
+         "FILE or --files-from is required; try \"qenxml export --help\""},
+        {{"report"}, "FILE or --files-from is required; try \"qenxml report --help\""},
         {{"show", "--version"}, "\"--version\" is not understood here; try \"qenxml show --help\""},
     };
     for (const Case& wrong : cases) {
@@ -117,10 +124,10 @@ TEST(CommandLine, SuggestsTheCommandOrOptionThatIsMeant) {
 
 TEST(CommandLine, ShowsInTheUsageWhatIsRequired) {
     const std::vector<std::pair<std::string, std::string>> cases = {
-        {"show", "qenxml show [OPTION...] FILE..."},
-        {"check", "qenxml check [OPTION...] FILE..."},
-        {"export", "qenxml export --format FORMAT [OPTION...] FILE..."},
-        {"report", "qenxml report [OPTION...] FILE..."},
+        {"show", "qenxml show [OPTION...] [FILE...]"},
+        {"check", "qenxml check [OPTION...] [FILE...]"},
+        {"export", "qenxml export --format FORMAT [OPTION...] [FILE...]"},
+        {"report", "qenxml report [OPTION...] [FILE...]"},
     };
     for (const auto& [command, usage] : cases)
         EXPECT_NE(runCommand({command, "--help"}).output.find("\nUsage: " + usage + "\n"),
@@ -145,7 +152,8 @@ TEST_F(BracketedNames, AreTakenAsTheyAreGivenForInputs) {
         EXPECT_EQ(run({"show", name}).errors, skipped);
         EXPECT_EQ(run({"show", "--", name}).errors, skipped);
         EXPECT_EQ(run({"show", "a", name}).errors,
-                  "qenxml: a: not found; the file is skipped\n" + skipped);
+                  "qenxml: a: not found; the file is skipped\n" + skipped +
+                      "qenxml: 2 of 2 files could not be read, or only in part\n");
         EXPECT_EQ(run({"export", "--format", "csv", name}).errors, skipped);
         EXPECT_EQ(run({"report", name}).errors, skipped);
         EXPECT_NE(run({"check", name}).output.find(name + ":1:1: error: not found [unreadable]"),

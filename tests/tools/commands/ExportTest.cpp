@@ -150,6 +150,47 @@ TEST_F(WritingCommand, SaysWhenTheStandardOutputIsClosedThatItIsToWriteTo) {
     }
 }
 
+TEST_F(WritingCommand, ReadsFilesFoldersAndListsAlike) {
+    std::filesystem::create_directory(folder_.path("season"));
+    folder_.write("season/" + name, package);
+    folder_.write("season/._" + name, package);
+    RunOptions options;
+    options.input = folder_.write("list", "season/" + name + "\n");
+    for (const std::vector<std::string>& command : allCommands) {
+        const RunResult expected = run(command, {"season/" + name});
+        EXPECT_EQ(expected.exitCode, 0);
+        EXPECT_EQ(run(command, {"--files-from", "list"}).output, expected.output);
+        EXPECT_EQ(run(command, {"--files-from", "-"}, options).output, expected.output);
+        const RunResult folder = run(command, {"season"});
+        EXPECT_EQ(folder.output, expected.output);
+        EXPECT_EQ(folder.errors, "qenxml: passed over 1 side file of macOS (._NAME)\n");
+        EXPECT_EQ(folder.exitCode, 0);
+    }
+}
+
+TEST_F(WritingCommand, NamesWhatAListNamesInVainAndReadsTheRest) {
+    std::filesystem::create_directory(folder_.path("folder"));
+    std::filesystem::create_symlink("circle.xml", folder_.path("circle.xml"));
+    folder_.write(name, package);
+    folder_.write("list", "missing.xml\nfolder\ncircle.xml\n" + name + "\n");
+    for (const std::vector<std::string>& command : commands) {
+        const RunResult result = run(command, {"--files-from", "list"});
+        EXPECT_EQ(result.errors.find(
+                      "qenxml: missing.xml: not found; the file is skipped\n"
+                      "qenxml: folder: is a directory; the file is skipped\n"
+                      "qenxml: circle.xml: cannot be read: Too many levels of symbolic links; the "
+                      "file is skipped\n"),
+                  0U);
+        EXPECT_NE(result.errors.find("qenxml: 3 of 4 files could not be read, or only in part\n"),
+                  std::string::npos);
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_NE(result.output.find(test::uuidText(4)), std::string::npos);
+    }
+    const RunResult result = run({"check"}, {"--files-from", "list", "--quiet"});
+    EXPECT_EQ(result.output, "4 files: 3 errors, 2 warnings, 5 notes; 3 cannot be read\n");
+    EXPECT_EQ(result.exitCode, 1);
+}
+
 TEST_F(WritingCommand, LeavesThePresentFileWhenNoPackageCanBeRead) {
     folder_.write("out", "old");
     std::filesystem::create_directory(folder_.path("folder"));
@@ -158,7 +199,7 @@ TEST_F(WritingCommand, LeavesThePresentFileWhenNoPackageCanBeRead) {
             const RunResult result = run(command, {"-o", output, "missing.xml", "folder"});
             EXPECT_EQ(result.errors,
                       "qenxml: missing.xml: not found; the file is skipped\n"
-                      "qenxml: folder: is a directory; the file is skipped\n"
+                      "qenxml: folder: no visible file in it ends in .xml; nothing is read\n"
                       "qenxml: " +
                           output +
                           ": not written, as no package could be read; a file that is there has "

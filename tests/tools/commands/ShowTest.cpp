@@ -145,11 +145,12 @@ TEST_F(Show, ReportsEveryKindOfFailureAndGoesOn) {
             "qenxml: 00000000-00000000-0000-000000000000_.xml: the file name holds no "
             "package UUID" +
             expected +
-            "qenxml: folder: is a directory; the file is skipped\n"
+            "qenxml: folder: no visible file in it ends in .xml; nothing is read\n"
             "qenxml: " +
             nameD +
             ":1:13: invalid uuid string: /RecPackage/Grower[1]: Grower has no attribute GrowerID; "
-            "the file is skipped\n");
+            "the file is skipped\n"
+            "qenxml: 6 of 7 files could not be read, or only in part\n");
     EXPECT_EQ(result.exitCode, 1);
 }
 
@@ -182,7 +183,9 @@ TEST_F(Show, MergesTheGrowersThatWereReadBeforeAFailure) {
             ":3:3: invalid uuid string: /RecPackage/Grower[2]: Grower has no attribute GrowerID; "
             "the grower before it is shown\n"
             "qenxml: " +
-            nameB + ": not found; the file is skipped\n");
+            nameB +
+            ": not found; the file is skipped\n"
+            "qenxml: 2 of 3 files could not be read, or only in part\n");
     EXPECT_EQ(result.exitCode, 1);
 }
 
@@ -201,7 +204,8 @@ TEST_F(Show, KeepsResultsAndMessagesInOrder) {
     RunOptions options;
     options.output = Output::SameAsErrors;
     EXPECT_EQ(show({nameA, "x.xml", nameA}, options).errors,
-              shownA + "qenxml: x.xml: not found; the file is skipped\n\n" + shownA);
+              shownA + "qenxml: x.xml: not found; the file is skipped\n\n" + shownA +
+                  "qenxml: 1 of 3 files could not be read, or only in part\n");
 }
 
 TEST_F(Show, EscapesTextsAndFileNames) {
@@ -217,7 +221,8 @@ TEST_F(Show, EscapesTextsAndFileNames) {
                   "\n"
                   "  Grower a\\x1B[31m\\nGrower \\u{009B}\\xFF\\u{202E}\\u{2028}\\\\  "
                   "10000000-0000-4000-8000-000000000001\n");
-    EXPECT_EQ(result.errors, "qenxml: x\\ny\\x0D.xml: not found; the file is skipped\n");
+    EXPECT_EQ(result.errors, "qenxml: x\\ny\\x0D.xml: not found; the file is skipped\n"
+                             "qenxml: 1 of 2 files could not be read, or only in part\n");
 }
 
 TEST_F(Show, ColoursItsOutputOnATerminalOnly) {
@@ -255,7 +260,8 @@ TEST_F(Show, TakesFileNamesThatBeginWithAHyphen) {
     EXPECT_EQ(show({"--", "-" + nameA}).output, shown);
     const RunResult several = show({"--", "-" + nameA, "--merge"});
     EXPECT_EQ(several.output, shown);
-    EXPECT_EQ(several.errors, "qenxml: --merge: not found; the file is skipped\n");
+    EXPECT_EQ(several.errors, "qenxml: --merge: not found; the file is skipped\n"
+                              "qenxml: 1 of 2 files could not be read, or only in part\n");
     EXPECT_EQ(several.exitCode, 1);
 }
 

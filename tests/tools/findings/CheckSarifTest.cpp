@@ -28,7 +28,7 @@ json runOf(const std::vector<File>& files) {
     std::size_t size = 0;
     std::FILE* const stream = open_memstream(&text, &size);
     Console console(stream, stream, Style(false));
-    const auto writer = makeCheckSarif(console, {files.size()});
+    const auto writer = makeCheckSarif(console, {});
     writer->begin();
     for (const File& file : files) {
         FindingSink& sink = writer->beginFile(file.path);
