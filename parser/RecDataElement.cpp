@@ -59,9 +59,12 @@ std::unique_ptr<QenRecData> PackageReader::productOf(format::Elements<formats...
 
 std::unique_ptr<QenRecData> PackageReader::recData(const boost::uuids::uuid& recId,
                                                    pugi::xml_node node) const {
-    // Only the first node counts, and it may be a text, whose name is empty. All else is null,
+    // Only the first node counts, and it may be a text: in a document of the parser's own the
+    // element itself holds it, elsewhere it is a node whose name is empty. All else is null,
     // pesticide mixes included, on purpose.
-    return productOf(format::recData.parts, recId, node.first_child());
+    const bool beginsWithText = node.text().data() == node;
+    return productOf(format::recData.parts, recId,
+                     beginsWithText ? pugi::xml_node() : node.first_child());
 }
 
 } // namespace qenxml

@@ -46,11 +46,18 @@ std::string custom(const std::string& productId) {
 const std::string pesticide =
     element("Pesticide", "<PesticideMixName>Mix</PesticideMixName><UOMID>9</UOMID><UOM>l/ha</UOM>");
 
-/// What the product data of a rec with @p content read as.
+/// What the product data of a rec with @p content read as, whether the document keeps the first
+/// text of an element in a node of its own or, as that of a package does, in the element.
 std::string dataOf(const std::string& content) {
-    const Xml xml(element("RecData", content));
-    const std::unique_ptr<QenRecData> data(QenXmlParser().parseRecDataNode(uuid(31), xml.root()));
-    return test::describe(data.get());
+    const auto read = [&](unsigned options) {
+        pugi::xml_document document;
+        EXPECT_TRUE(document.load_string(element("RecData", content).c_str(), options));
+        const std::unique_ptr<QenRecData> data(
+            QenXmlParser().parseRecDataNode(uuid(31), document.first_child()));
+        return test::describe(data.get());
+    };
+    EXPECT_EQ(read(pugi::parse_default), read(pugi::parse_default | pugi::parse_embed_pcdata));
+    return read(pugi::parse_default);
 }
 
 template <class Data, class... Values>
@@ -123,7 +130,7 @@ TEST(RecDataElement, WithAPesticideFirstGivesNoneWhateverFollows) {
 
 TEST(RecDataElement, OfTwoProductsGivesTheFirst) {
     EXPECT_EQ(commercialRead, dataOf(commercial + planting));
-    EXPECT_EQ(plantingRead, dataOf(planting + commercial));
+    EXPECT_EQ(plantingRead, dataOf(planting + "text" + commercial));
 }
 
 TEST(RecDataElement, WithAnIncompleteFirstProductGivesNoneWhateverFollows) {
@@ -134,6 +141,7 @@ TEST(RecDataElement, WithAnIncompleteFirstProductGivesNoneWhateverFollows) {
 
 TEST(RecDataElement, WithATextBeforeTheProductGivesNone) {
     EXPECT_EQ("none", dataOf("text" + planting));
+    EXPECT_EQ("none", dataOf("&#0;" + planting));
     EXPECT_EQ("none", dataOf("<![CDATA[text]]>" + planting));
     EXPECT_EQ("none", dataOf("<![CDATA[]]>" + planting));
 }
