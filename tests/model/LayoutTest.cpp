@@ -17,6 +17,7 @@
 #include "model/QenGrower.h"
 #include "parser/QenXmlParser.h"
 #include "parser/internal/TagConstants.h"
+#include "tests/support/SourceFolder.h"
 #include "tests/support/Uuids.h"
 
 namespace {
@@ -176,7 +177,7 @@ TEST(Layout, APesticideLineHoldsItsUnitBehindTheProduct) {
 TEST(Layout, AParserHoldsGrowersDocumentTagNamesAndFileName) {
     QenXmlParser parser;
     const string package = "32833106-536e-45df-80b2-d002cc92d33d";
-    ASSERT_TRUE(parser.parseFile(QENXML_SOURCE_DIR "/examples/packages/" + package + ".xml"));
+    ASSERT_TRUE(parser.parseFile(test::inSources("examples/packages/") + package + ".xml"));
     Members<QenXmlParser> members(parser);
     EXPECT_EQ(members.next<vector<QenGrower>>(), parser.getGrowers());
     EXPECT_TRUE(members.next<pugi::xml_document>().child("RecPackage"));

@@ -11,6 +11,7 @@
 #include "parser/internal/TagConstants.h"
 #include "tests/package/Samples.h"
 #include "tests/support/PackageReading.h"
+#include "tests/support/SourceFolder.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace {
@@ -25,7 +26,7 @@ const std::string invalid = "invalid uuid string";
 
 /// The XML examples of the description of the format that begin with one of the texts given.
 std::vector<std::string> formatExamples(const std::vector<std::string>& beginnings) {
-    const std::string document = textOf(fs::path(QENXML_SOURCE_DIR) / "docs/package-format.md");
+    const std::string document = textOf(test::inSources("docs/package-format.md"));
     const std::string opening = "\n```xml\n";
     std::vector<std::string> examples;
     std::size_t begin = document.find(opening);
@@ -51,7 +52,7 @@ std::string readText(const std::string& text) {
 }
 
 TEST(PackageFormat, EveryNameOfTheFormatIsDescribed) {
-    const std::string document = textOf(fs::path(QENXML_SOURCE_DIR) / "docs/package-format.md");
+    const std::string document = textOf(test::inSources("docs/package-format.md"));
     for (const char* name : qenxml::tag::all)
         EXPECT_NE(document.find("| `" + std::string(name) + "` |"), std::string::npos) << name;
 }

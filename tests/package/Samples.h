@@ -15,12 +15,13 @@
 
 #include "parser/QenXmlParser.h"
 #include "tests/support/FileFacts.h"
+#include "tests/support/SourceFolder.h"
 
 namespace test {
 
 namespace fs = std::filesystem;
 
-inline const fs::path packages = fs::path(QENXML_SOURCE_DIR) / "examples/packages";
+inline const fs::path packages = test::inSources("examples/packages");
 inline const fs::path broken = packages / "broken";
 
 /// The text of a file that has one.

@@ -9,6 +9,7 @@
 #include <pugixml.hpp>
 
 #include "parser/internal/TagConstants.h"
+#include "tests/support/SourceFolder.h"
 
 namespace {
 
@@ -23,7 +24,7 @@ std::set<std::string> declaredNames(pugi::xml_node schema) {
 
 TEST(Schema, DeclaresTheNamesOfTheFormatAndNoOthers) {
     pugi::xml_document schema;
-    ASSERT_TRUE(schema.load_file(QENXML_SOURCE_DIR "/docs/recpackage.xsd"));
+    ASSERT_TRUE(schema.load_file(test::inSources("docs/recpackage.xsd").c_str()));
     EXPECT_EQ(declaredNames(schema),
               std::set<std::string>(qenxml::tag::all.begin(), qenxml::tag::all.end()));
 }

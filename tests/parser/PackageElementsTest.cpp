@@ -14,6 +14,8 @@
 #include <gtest/gtest.h>
 #include <pugixml.hpp>
 
+#include "tests/support/SourceFolder.h"
+
 namespace format = qenxml::format;
 
 namespace {
@@ -151,14 +153,14 @@ void addDocument(Lines& lines, const std::string& row) {
 
 TEST(PackageElements, AreThoseOfTheSchema) {
     pugi::xml_document schema;
-    ASSERT_TRUE(schema.load_file(QENXML_SOURCE_DIR "/docs/recpackage.xsd"));
+    ASSERT_TRUE(schema.load_file(test::inSources("docs/recpackage.xsd").c_str()));
     Lines lines;
     addSchema(lines, schema.child("xs:schema").child("xs:element"));
     expectTable(lines);
 }
 
 TEST(PackageElements, AreThoseOfTheDocumentedTables) {
-    std::ifstream document(QENXML_SOURCE_DIR "/docs/package-format.md");
+    std::ifstream document(test::inSources("docs/package-format.md"));
     Lines lines;
     for (std::string row; std::getline(document, row);)
         addDocument(lines, row);
@@ -168,7 +170,7 @@ TEST(PackageElements, AreThoseOfTheDocumentedTables) {
 // Readers find children fastest in the order of the table, and people are told of them in it.
 TEST(PackageElements, StandInTheOrderOfTheSchema) {
     pugi::xml_document schema;
-    ASSERT_TRUE(schema.load_file(QENXML_SOURCE_DIR "/docs/recpackage.xsd"));
+    ASSERT_TRUE(schema.load_file(test::inSources("docs/recpackage.xsd").c_str()));
     using Names = std::vector<std::string>;
     const std::function<void(const format::Element&, pugi::xml_node)> check =
         [&](const format::Element& element, pugi::xml_node declaration) {

@@ -1,4 +1,5 @@
 #include "tests/support/BrokenPackages.h"
+#include "tests/support/SourceFolder.h"
 
 #include <ostream>
 #include <stdexcept>
@@ -206,8 +207,7 @@ const std::vector<BrokenPackage>& brokenPackages() {
 }
 
 fs::path brokenSample(const BrokenPackage& package) {
-    const fs::path folder =
-        fs::path(QENXML_SOURCE_DIR) / "examples/packages/broken" / package.folder;
+    const fs::path folder = fs::path(test::inSources("examples/packages/broken")) / package.folder;
     std::vector<fs::path> files;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder))
         files.push_back(entry.path());

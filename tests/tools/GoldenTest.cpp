@@ -14,12 +14,13 @@
 #include <gtest/gtest.h>
 
 #include "model/version.h"
+#include "tests/support/SourceFolder.h"
 #include "tests/tools/GoldenDifference.h"
 #include "tests/tools/RunCommand.h"
 
 namespace {
 
-const std::filesystem::path sources = QENXML_SOURCE_DIR;
+const std::filesystem::path sources = test::inSources("");
 const std::string prompt = "$ qenxml";
 
 std::vector<std::string> goldenFiles() {

@@ -21,6 +21,7 @@
 #include "tests/support/Describe.h"
 #include "tests/support/PackageText.h"
 #include "tests/support/RandomPackage.h"
+#include "tests/support/SourceFolder.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/tools/check/Findings.h"
 #include "tools/text/SourceText.h"
@@ -230,7 +231,7 @@ protected:
 TEST_F(AgreementWithTheLibrary, FindsErrorsInASampleIfAndOnlyIfItCannotBeRead) {
     std::size_t samples = 0;
     for (const fs::directory_entry& entry :
-         fs::recursive_directory_iterator(fs::path(QENXML_SOURCE_DIR) / "examples/packages")) {
+         fs::recursive_directory_iterator(test::inSources("examples/packages"))) {
         if (entry.path().extension() != ".xml")
             continue;
         ++samples;
@@ -260,10 +261,10 @@ TEST_F(AgreementWithTheLibrary, HoldsForMutatedPackages) {
     std::mt19937 random(2); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same packages every time
     std::vector<std::string> sources;
     for (const fs::directory_entry& entry :
-         fs::directory_iterator(fs::path(QENXML_SOURCE_DIR) / "examples/packages/broken/rec-id"))
+         fs::directory_iterator(test::inSources("examples/packages/broken/rec-id")))
         sources.push_back(textOf(entry.path()));
-    sources.push_back(textOf(fs::path(QENXML_SOURCE_DIR) /
-                             "examples/packages/32833106-536e-45df-80b2-d002cc92d33d.xml"));
+    sources.push_back(
+        textOf(test::inSources("examples/packages/32833106-536e-45df-80b2-d002cc92d33d.xml")));
     for (std::size_t i = 0; i < 1500; ++i) {
         const std::string text =
             i % 3 == 0 ? test::randomPackage(random) : sources[i % sources.size()];

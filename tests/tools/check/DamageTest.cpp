@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/RandomPackage.h"
+#include "tests/support/SourceFolder.h"
 #include "tools/check/FindingCollection.h"
 #include "tools/check/PackageCheck.h"
 
@@ -40,7 +41,7 @@ std::string inUtf16(const std::string& ascii, bool mark) {
 /// The sample packages, as they are and in UTF-16.
 std::vector<std::string> samples() {
     std::vector<std::string> texts;
-    for (const auto& entry : fs::directory_iterator(QENXML_SOURCE_DIR "/examples/packages")) {
+    for (const auto& entry : fs::directory_iterator(test::inSources("examples/packages"))) {
         if (entry.path().extension() != ".xml")
             continue;
         std::ifstream file(entry.path(), std::ios::binary);

@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/BrokenPackages.h"
+#include "tests/support/SourceFolder.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/tools/RunCommand.h"
 #include "tools/check/PackageCheck.h"
@@ -22,7 +23,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const fs::path source = QENXML_SOURCE_DIR;
+const fs::path source = test::inSources("");
 
 std::string textOf(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);

@@ -15,6 +15,7 @@
 
 #include "tests/support/PackageText.h"
 #include "tests/support/RandomPackage.h"
+#include "tests/support/SourceFolder.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/tools/check/Findings.h"
 #include "tools/check/PackageCheck.h"
@@ -54,7 +55,7 @@ TEST(PackageWalk, FindsInTheOrderOfTheFileInMutatedPackages) {
 
 TEST(PackageWalk, FindsInTheOrderOfTheFileInEverySample) {
     for (const fs::directory_entry& entry :
-         fs::recursive_directory_iterator(fs::path(QENXML_SOURCE_DIR) / "examples/packages")) {
+         fs::recursive_directory_iterator(test::inSources("examples/packages"))) {
         if (entry.path().extension() != ".xml")
             continue;
         std::ifstream file(entry.path(), std::ios::binary);

@@ -1,4 +1,5 @@
 #include "tests/tools/check/SlippedPackage.h"
+#include "tests/support/SourceFolder.h"
 
 #include <algorithm>
 #include <fstream>
@@ -173,7 +174,7 @@ const std::vector<std::string>& samples() {
                                           "3ce1268c-9c80-42e3-bfec-3fee8ed2305d",
                                           "f08db22f-d293-456a-b170-fab23d90fbac"};
         for (std::string& text : names) {
-            std::ifstream file(QENXML_SOURCE_DIR "/examples/packages/" + text + ".xml",
+            std::ifstream file(test::inSources("examples/packages/") + text + ".xml",
                                std::ios::binary);
             text.assign(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
         }

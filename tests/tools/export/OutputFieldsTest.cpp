@@ -15,6 +15,7 @@
 #include "model/PesticideRec.h"
 #include "tests/support/FileFacts.h"
 #include "tests/support/PackageText.h"
+#include "tests/support/SourceFolder.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/Uuids.h"
 #include "tests/support/Xml.h"
@@ -283,7 +284,7 @@ std::set<std::string> membersInSchema(const nlohmann::json& schema, const std::s
 
 TEST(OutputFields, AreThoseOfTheSchema) {
     const auto schema =
-        nlohmann::json::parse(test::contentOf(QENXML_SOURCE_DIR "/docs/export.schema.json"));
+        nlohmann::json::parse(test::contentOf(test::inSources("docs/export.schema.json")));
     struct Case {
         std::string object;
         Owner owner;
@@ -312,7 +313,7 @@ TEST(OutputFields, AreThoseOfTheSchema) {
 }
 
 TEST(OutputFields, AreTheColumnsOfTheManual) {
-    const std::string manual = test::contentOf(QENXML_SOURCE_DIR "/docs/man/qenxml-export.1");
+    const std::string manual = test::contentOf(test::inSources("docs/man/qenxml-export.1"));
     const std::string beginning = "The columns are:\n.Bd -literal -offset indent\n";
     const std::size_t begin = manual.find(beginning) + beginning.size();
     std::istringstream words(manual.substr(begin, manual.find(".Ed", begin) - begin));

@@ -11,6 +11,7 @@
 #include "tests/support/BrokenPackages.h"
 #include "tests/support/FileFacts.h"
 #include "tests/support/PackageText.h"
+#include "tests/support/SourceFolder.h"
 #include "tests/support/Uuids.h"
 #include "tools/check/FindingCollection.h"
 #include "tools/check/PackageCheck.h"
@@ -96,7 +97,7 @@ TEST(Fingerprint, SurvivesMovingRecsDownByAHundredLines) {
     int compared = 0;
     for (const test::BrokenPackage& package : test::brokenPackages()) {
         for (const auto& entry : fs::directory_iterator(
-                 QENXML_SOURCE_DIR "/examples/packages/broken/" + package.folder)) {
+                 test::inSources("examples/packages/broken/") + package.folder)) {
             const std::string text = test::contentOf(entry.path());
             EXPECT_EQ(fingerprints(pushedDown(text)), fingerprints(text)) << package.folder;
             compared += fingerprints(text).empty() ? 0 : 1;
