@@ -2,13 +2,12 @@
 
 #include <iomanip>
 #include <sstream>
+#include <tuple>
+#include <type_traits>
 
 #include <boost/uuid/uuid_io.hpp>
 
-#include "model/CommercialFertilizerRec.h"
-#include "model/CustomFertilizerRec.h"
-#include "model/PesticideRec.h"
-#include "model/PlantingRec.h"
+#include "tests/support/ProductElements.h"
 
 namespace test {
 
@@ -36,36 +35,13 @@ private:
     std::ostringstream out_;
 };
 
-std::string line(CommercialFertilizerRec& data) {
-    return (Line("commercial") << data.productId() << data.productName() << data.uomId()
-                               << data.uom())
-        .text();
-}
-
-std::string line(CustomFertilizerRec& data) {
-    return (Line("custom") << data.productId() << data.productName() << data.uomId() << data.uom()
-                           << data.sFertT_ID() << data.spGravity() << data.pct_N() << data.pct_P()
-                           << data.pct_K() << data.pct_Ca() << data.pct_Mg() << data.pct_S()
-                           << data.pct_Fe() << data.pct_Mn() << data.pct_Zn() << data.pct_Cu()
-                           << data.pct_B() << data.pct_Mo() << data.pct_Cl())
-        .text();
-}
-
-std::string line(PlantingRec& data) {
-    return (Line("planting") << data.cropId() << data.cropName() << data.companyId()
-                             << data.companyName() << data.varietyId() << data.varietyName()
-                             << data.uomId() << data.uom())
-        .text();
-}
-
 void add(Line& line, PestProduct& product) {
     line << product.productId() << product.productName() << product.regCodeId() << product.regCode()
          << static_cast<int>(product.pesticideType()) << product.amount();
 }
 
-std::string line(PesticideRec& data) {
-    std::string result =
-        (Line("pesticide") << data.pesticideMixName() << data.uomId() << data.uom()).text();
+std::string linesOf(PesticideRec& data) {
+    std::string result;
     for (PesticideByPercent& product : data.pesticidesByPercent()) {
         Line line("    percent");
         add(line, product);
@@ -80,25 +56,36 @@ std::string line(PesticideRec& data) {
     return result;
 }
 
+/// Asks the class of the object, not its kind: the library trusts the kind.
+template <class Element>
+void addProduct(std::string& result, QenRecData& data) {
+    using Product = typename Element::Record;
+    auto* const product = dynamic_cast<Product*>(&data);
+    if (product == nullptr)
+        return;
+    static const std::vector<Datum<Product>> rows = Element::data();
+    Line line(Element::name);
+    for (const Datum<Product>& datum : rows)
+        line << datum.value(*product);
+    result += line.text();
+    if constexpr (std::is_same_v<Product, PesticideRec>)
+        result += linesOf(*product);
+}
+
+template <class... Elements>
+void addProduct(std::string& result, QenRecData& data, std::tuple<Elements...> /*elements*/) {
+    (addProduct<Elements>(result, data), ...);
+}
+
 } // namespace
 
 std::string describe(QenRecData* data) {
     if (data == nullptr)
         return "none";
-    const std::string rec = to_string(data->recId()) + " ";
-    switch (data->recType()) {
-    case RecTypeCommercialFertilizer:
-        return rec + line(static_cast<CommercialFertilizerRec&>(*data));
-    case RecTypeCustomFertilizer:
-        return rec + line(static_cast<CustomFertilizerRec&>(*data));
-    case RecTypePlanting:
-        return rec + line(static_cast<PlantingRec&>(*data));
-    case RecTypePesticide:
-        return rec + line(static_cast<PesticideRec&>(*data));
-    case RecTypeNone:
-        break;
-    }
-    return rec + "of kind " + std::to_string(data->recType());
+    std::string result =
+        to_string(data->recId()) + " of kind " + std::to_string(data->recType()) + " ";
+    addProduct(result, *data, ProductElements());
+    return result;
 }
 
 std::string describe(QenRec rec) {
