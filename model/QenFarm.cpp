@@ -43,6 +43,8 @@ void QenFarm::addField(QenField field) {
 }
 
 void QenFarm::merge(QenFarm other) {
+    // A field absorbs a copy, so that the present one is whole should memory run out on the way.
+    const auto absorbCopy = [](QenField& field, const QenField& present) { field.merge(present); };
     if (*this == other)
-        qenxml::mergeChildren(fields_, other.fields_);
+        qenxml::mergeChildren(fields_, other.fields_, absorbCopy);
 }

@@ -38,6 +38,13 @@ void QenGrower::addFarm(QenFarm farm) {
 }
 
 void QenGrower::merge(QenGrower other) {
-    if (*this == other)
-        qenxml::mergeChildren(farms_, other.farms_);
+    if (*this != other)
+        return;
+    // As QenFarm::merge(), but the fields of the incoming farm are this operation's own: what is
+    // in the copy of the present farm absorbs them, and need not copy them once more.
+    const auto absorbField = [](QenField& field, QenField& own) { field.merge(std::move(own)); };
+    const auto absorbFarm = [&](QenFarm& farm, QenFarm present) {
+        qenxml::mergeChildren(farm.fields(), present.fields(), absorbField);
+    };
+    qenxml::mergeChildren(farms_, other.farms_, absorbFarm);
 }

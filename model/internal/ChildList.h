@@ -36,13 +36,13 @@ void replaceOrAppend(std::vector<Child>& children, Child& child) {
 /// Adds each of the @p incoming children to @p children. The incoming child absorbs the present
 /// one of the same identifier, not the other way round: this is what makes the winning side
 /// alternate from level to level.
-template <class Child>
-void mergeChildren(std::vector<Child>& children, std::vector<Child>& incoming) {
+/// @param absorb is called with the incoming child and the present one
+template <class Child, class Absorb>
+void mergeChildren(std::vector<Child>& children, std::vector<Child>& incoming, Absorb absorb) {
     for (Child& child : incoming) {
         const auto present = std::find(children.begin(), children.end(), child);
-        // Absorbs a copy, so that the present child is whole should memory run out on the way.
         if (present != children.end())
-            child.merge(*present);
+            absorb(child, *present);
         replaceOrAppend(children, child);
     }
 }
