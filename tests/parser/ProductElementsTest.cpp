@@ -2,9 +2,11 @@
 
 #include <string>
 #include <tuple>
+#include <type_traits>
 
 #include <gtest/gtest.h>
 
+#include "model/internal/RecDataVisit.h"
 #include "tests/support/ElementRules.h"
 #include "tests/support/ProductElements.h"
 
@@ -44,6 +46,17 @@ TYPED_TEST(ProductElement, GivesDataOfItsKindForTheRecThatItIsGiven) {
     ASSERT_NE(nullptr, data);
     EXPECT_EQ(TypeParam::kind, data->recType());
     EXPECT_EQ(uuid(31), data->recId());
+}
+
+// Copying a product as another class would read beyond its end.
+TYPED_TEST(ProductElement, IsVisitedAsItsOwnClass) {
+    const test::Sample<TypeParam> sample;
+    const auto data = TypeParam::read(sample.root());
+    ASSERT_NE(nullptr, data);
+    const auto isOwn = [](auto& product) {
+        return std::is_same_v<decltype(product), typename TypeParam::Record&>;
+    };
+    EXPECT_TRUE(qenxml::visitRecData(*data, isOwn, false));
 }
 
 using test::CommercialFertilizerElement;
