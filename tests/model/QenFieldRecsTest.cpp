@@ -89,8 +89,8 @@ TEST(QenField, AddedRecsLoseProductDataOfAnUnknownKind) {
     EXPECT_EQ(field.recs()[0].recData(), nullptr) << "a rec replaced";
 }
 
-TEST(QenField, AddedRecsLoseProductDataOfEveryKindButTheFour) {
-    for (const int kind : {-1, 0, 5}) {
+TEST(QenField, AddedRecsLoseProductDataOfUnknownKinds) {
+    for (const int kind : {-1, 0, 99}) {
         SCOPED_TRACE(kind);
         QenField field;
         field.addRec(recOfUnknownKind(1, kind));
