@@ -46,6 +46,20 @@ offered_by_zsh() {
         tr -d "':[{,"
 }
 
+# What zsh would take for formats: the words of the action in its file.
+formats_by_zsh() { # COMMAND
+    zsh -f -c '
+        _call_program() { shift; "$@" 2>/dev/null; }
+        _arguments() {
+            for spec; do
+                [[ $spec != *:format:* ]] || { eval "offered=${spec#*:format:}" && print -l $offered; }
+            done
+        }
+        fpath=("$1/zsh/site-functions") && autoload -U _qenxml
+        words=(qenxml "$2" --format "") CURRENT=4
+        _qenxml' - "$share" "$1"
+}
+
 check_shell() { # SHELL
     local words subcommand
     words=$("offered_by_$1" qenxml "")
@@ -73,8 +87,8 @@ check_formats() { # SHELL COMMAND
         sed -n '/^  --format FORMAT/{n; s/,//g; s/ or / /; s/^ *//p}')
     [ "$(wc -w <<<"$formats")" -ge 2 ] || fail "$2 --help lists no formats"
     if [ "$1" = zsh ]; then
-        grep -qF ":format:($formats)" "$share/zsh/site-functions/_qenxml" ||
-            fail "zsh does not offer the formats $formats"
+        formats_by_zsh "$2" | cmp -s - <(tr ' ' '\n' <<<"$formats") ||
+            fail "zsh does not offer the formats $formats after $2"
         return
     fi
     words=$("offered_by_$1" qenxml "$2" --format "" | sort | xargs)

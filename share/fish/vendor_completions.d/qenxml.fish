@@ -3,6 +3,11 @@
 set -l commands show check explain export report
 set -l readers show check export report
 
+# The formats of a command, as its help lists them: "json, csv or geojson".
+function __qenxml_formats
+    qenxml $argv --help 2>/dev/null | sed -n '/^  --format FORMAT/{n; s/,//g; s/ or / /; p}' | string match -ra '\S+'
+end
+
 complete -c qenxml -f
 complete -c qenxml -s h -l help -d 'Print help'
 complete -c qenxml -n "not __fish_seen_subcommand_from $commands" -l version -d 'Print the version'
@@ -18,8 +23,8 @@ complete -c qenxml -n "__fish_seen_subcommand_from $readers" -l files-from -r -F
 complete -c qenxml -n "__fish_seen_subcommand_from $readers" -s 0 -l null -d 'Names in the list end with zero bytes'
 complete -c qenxml -n "__fish_seen_subcommand_from $readers" -l uuid -x -d 'UUID of the package on the standard input'
 complete -c qenxml -n '__fish_seen_subcommand_from export report' -s o -l output -r -F -d 'Write to this file'
-complete -c qenxml -n '__fish_seen_subcommand_from export' -l format -x -a 'json csv geojson' -d 'The format'
-complete -c qenxml -n '__fish_seen_subcommand_from check' -l format -x -a 'text json sarif' -d 'The format'
+complete -c qenxml -n '__fish_seen_subcommand_from export' -l format -x -a '(__qenxml_formats export)' -d 'The format'
+complete -c qenxml -n '__fish_seen_subcommand_from check' -l format -x -a '(__qenxml_formats check)' -d 'The format'
 complete -c qenxml -n '__fish_seen_subcommand_from check' -l json -d 'As --format json'
 complete -c qenxml -n '__fish_seen_subcommand_from check' -l verbose -d 'List the files without findings, too'
 complete -c qenxml -n '__fish_seen_subcommand_from check' -l statistics -d 'Print only what cannot be read, and counts by code'
