@@ -46,30 +46,44 @@ offered_by_zsh() {
         tr -d "':[{,"
 }
 
-# What zsh would take for formats: the words of the action in its file.
-formats_by_zsh() { # COMMAND
+# What the functions of zsh that complete would be given: formats, commands with what they are for.
+given_to_zsh() { # WORD...
     zsh -f -c '
         _call_program() { shift; "$@" 2>/dev/null; }
+        _describe() { print -l ${(P)4}; }
         _arguments() {
             for spec; do
                 [[ $spec != *:format:* ]] || { eval "offered=${spec#*:format:}" && print -l $offered; }
             done
         }
         fpath=("$1/zsh/site-functions") && autoload -U _qenxml
-        words=(qenxml "$2" --format "") CURRENT=4
-        _qenxml' - "$share" "$1"
+        shift
+        words=("$@") CURRENT=$#
+        _qenxml' - "$share" "$@"
+}
+
+# The commands with what they are for: "show", a tab, "Print what packages hold".
+described_by_zsh() {
+    given_to_zsh qenxml "" | sed 's/:/\t/'
+}
+
+described_by_fish() {
+    fish --no-config -c 'source $argv[1]; complete -C "qenxml "' \
+        "$share/fish/vendor_completions.d/qenxml.fish"
 }
 
 check_shell() { # SHELL
     local words subcommand
     words=$("offered_by_$1" qenxml "")
     [ "$1" = zsh ] || words+=$'\n'$("offered_by_$1" qenxml -)
+    [ "$1" = bash ] || words+=$'\n'$("described_by_$1")
     for word in $(listed Commands) $(listed Options); do
-        grep -qxe "$word" <<<"$words" || fail "$1 does not offer $word"
+        grep -qxe "$word" <<<"$(cut -f 1 <<<"$words")" || fail "$1 does not offer $word"
     done
+    [ "$1" = bash ] || while read -r word; do
+        grep -qxF "$word" <<<"$words" || fail "$1 does not say: $word"
+    done < <("$command" --help | sed -n '/^Commands:/,/^$/s/^  \([a-z]*\)  */\1\t/p')
     for subcommand in $(listed Commands); do
-        [ "$1" = bash ] || grep -qiF "$("$command" --help | sed -n "s/^  $subcommand  *//p")'" \
-            "$share/$1/"*/*qenxml* || fail "$1 does not say what $subcommand is for"
         words=$("offered_by_$1" qenxml "$subcommand" -)
         for word in $(listed Options "$subcommand"); do
             grep -qxe "$word" <<<"$words" || fail "$1 does not offer $word after $subcommand"
@@ -87,7 +101,7 @@ check_formats() { # SHELL COMMAND
         sed -n '/^  --format FORMAT/{n; s/,//g; s/ or / /; s/^ *//p}')
     [ "$(wc -w <<<"$formats")" -ge 2 ] || fail "$2 --help lists no formats"
     if [ "$1" = zsh ]; then
-        formats_by_zsh "$2" | cmp -s - <(tr ' ' '\n' <<<"$formats") ||
+        given_to_zsh qenxml "$2" --format "" | cmp -s - <(tr ' ' '\n' <<<"$formats") ||
             fail "zsh does not offer the formats $formats after $2"
         return
     fi

@@ -3,6 +3,11 @@
 set -l commands show check explain export report
 set -l readers show check export report
 
+# The commands and what they are for, as the help lists them.
+function __qenxml_commands
+    qenxml --help 2>/dev/null | sed -n '/^Commands:/,/^$/s/^  \([a-z]*\)  */\1\t/p'
+end
+
 # The formats of a command, as its help lists them: "json, csv or geojson".
 function __qenxml_formats
     qenxml $argv --help 2>/dev/null | sed -n '/^  --format FORMAT/{n; s/,//g; s/ or / /; p}' | string match -ra '\S+'
@@ -11,11 +16,7 @@ end
 complete -c qenxml -f
 complete -c qenxml -s h -l help -d 'Print help'
 complete -c qenxml -n "not __fish_seen_subcommand_from $commands" -l version -d 'Print the version'
-complete -c qenxml -n "not __fish_seen_subcommand_from $commands" -a show -d 'Print what packages hold'
-complete -c qenxml -n "not __fish_seen_subcommand_from $commands" -a check -d 'Find what is wrong with packages'
-complete -c qenxml -n "not __fish_seen_subcommand_from $commands" -a explain -d 'Say what a finding means and what to do'
-complete -c qenxml -n "not __fish_seen_subcommand_from $commands" -a export -d 'Write what packages hold as JSON, CSV or GeoJSON'
-complete -c qenxml -n "not __fish_seen_subcommand_from $commands" -a report -d 'Write a page about packages for a browser'
+complete -c qenxml -n "not __fish_seen_subcommand_from $commands" -k -a '(__qenxml_commands)'
 
 complete -c qenxml -n "__fish_seen_subcommand_from $readers" -k -a '(__fish_complete_suffix .xml)'
 complete -c qenxml -n '__fish_seen_subcommand_from show export' -l merge -d 'Merge the growers of all packages'
