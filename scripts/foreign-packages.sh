@@ -49,7 +49,7 @@ unpack_packages() {
 
 # unpack_sources FOLDER PACKAGE...: unpacks source packages into FOLDER/NAME.
 unpack_sources() {
-    local folder=$1 architecture package file
+    local folder=$1 architecture package version file
     shift
     architecture=$(dpkg --print-architecture)
     echo "Unpacking sources from Debian into $folder: $*" >&2
@@ -64,8 +64,13 @@ unpack_sources() {
         -o "Dir::Etc::sourceparts=$folder/apt/sources.list.d")
     private_apt "$architecture" "$folder/apt" apt-get "${from[@]}" update -qq >&2 || true
     for package in "$@"; do
-        (cd "$folder" && private_apt "$architecture" "$folder/apt" \
-            apt-get "${from[@]}" source -qq --download-only "$package" >&2)
+        for version in $(private_apt "$architecture" "$folder/apt" \
+            apt-cache "${from[@]}" showsrc --only-source "$package" |
+            sed -n 's/^Version: //p' | sort -rVu) none; do
+            # A mirror may lack what it lists last; what is fetched is verified all the same.
+            ! (cd "$folder" && private_apt "$architecture" "$folder/apt" apt-get "${from[@]}" \
+                source -qq --download-only "$package=$version" >&2) || break
+        done
         dpkg-source --no-check -x "$folder/${package}_"*.dsc "$folder/$package" >&2
     done
 }
