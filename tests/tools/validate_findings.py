@@ -61,6 +61,8 @@ for file in samples["files"]:
     content = (source / "examples/packages" / file["file"]).read_bytes()
     for finding in file["findings"]:
         if "line" in finding:
+            excerpt = finding["excerpt"]
+            assert excerpt["caret"] <= len(excerpt["text"]), finding
             begin, end = finding["offset"], finding["offset"] + finding["length"]
             assert end <= len(content), finding
             assert finding["line"] == content[:begin].count(b"\n") + 1, finding

@@ -52,9 +52,11 @@ struct Members {
 
 std::string locationMembers(const Location& location) {
     return fmt::format(
-        R"(,"line":{},"column":{},"endLine":{},"endColumn":{},"offset":{},"length":{})",
+        R"(,"line":{},"column":{},"endLine":{},"endColumn":{},"offset":{},"length":{},)"
+        R"("excerpt":{{"text":{},"caret":{}}})",
         location.begin.line, location.begin.column, location.end.line, location.end.column,
-        location.extent.offset, location.extent.length);
+        location.extent.offset, location.extent.length, toJson(location.excerpt.line),
+        location.excerpt.caret);
 }
 
 std::string recordJson(const RecordName& record) {
