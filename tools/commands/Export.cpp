@@ -97,6 +97,14 @@ ExitCode exportPackages(const ExportOptions& options, Console& console) {
 
 } // namespace
 
+std::vector<ExportFormatName> exportFormats() {
+    std::vector<ExportFormatName> names;
+    names.reserve(formats.size());
+    for (const Format& format : formats)
+        names.push_back({format.name, format.title});
+    return names;
+}
+
 Command addExport(CLI::App& application) {
     CLI::App* parser = application
                            .add_subcommand("export", "Write what packages hold as " +

@@ -9,7 +9,6 @@
 
 #include <fcntl.h>
 #include <fmt/format.h>
-#include <linux/magic.h>
 #include <sys/vfs.h>
 
 namespace {
@@ -19,8 +18,9 @@ bool isSame(const struct stat& a, const struct stat& b) {
 }
 
 bool isInProc(const Descriptor& folder) {
+    constexpr auto procSystem = 0x9FA0; // of <linux/magic.h>, which not every system has
     struct statfs system = {};
-    return fstatfs(folder.number(), &system) == 0 && system.f_type == PROC_SUPER_MAGIC;
+    return fstatfs(folder.number(), &system) == 0 && system.f_type == procSystem;
 }
 
 } // namespace
