@@ -27,9 +27,9 @@ def expect(condition, what):
         failures.append(what)
 
 
-def run(*arguments):
+def run(*arguments, codes=(0, 1)):
     result = subprocess.run([command, *arguments], capture_output=True, cwd=samples)
-    expect(result.returncode in (0, 1), f"{arguments}: exit code {result.returncode}")
+    expect(result.returncode in codes, f"{arguments}: exit code {result.returncode}")
     return result.stdout
 
 
@@ -46,9 +46,13 @@ def load(text):
     return json.loads(text.decode("utf-8"), object_pairs_hook=without_twins, parse_constant=refuse)
 
 
-schema = json.loads((source / "docs/export.schema.json").read_text())
-jsonschema.Draft202012Validator.check_schema(schema)
-validator = jsonschema.Draft202012Validator(schema)
+def validator_of(name):
+    schema = json.loads((source / "docs" / name).read_text())
+    jsonschema.Draft202012Validator.check_schema(schema)
+    return jsonschema.Draft202012Validator(schema)
+
+
+validator = validator_of("export.schema.json")
 
 
 def recs_of(document):
@@ -77,6 +81,17 @@ def check_harmless(cell):
     for part in re.split(r"[;\t\r\n]", cell):
         visible = "".join(c for c in part if unicodedata.category(c) not in ("Cf", "Zs"))
         expect(visible.lstrip('"')[:1] not in tuple("=+-@"), f"a formula: {cell!r}")
+
+
+def check_diff(files):
+    """Each of the files or folders beside each other one."""
+    differences = validator_of("diff.schema.json")
+    for first in files:
+        for second in files:
+            document = load(run("diff", "--json", first, second, codes=(0, 1, 2)))
+            for error in differences.iter_errors(document):
+                failures.append(f"diff {first} {second}: {error.json_path}: {error.message}")
+            expect((first == second) == (document["differences"] == []), f"diff {first} {second}")
 
 
 # Numbers that a package need not give: an empty cell in CSV, null in JSON.
@@ -199,7 +214,9 @@ check(*packages)
 check(*broken)
 check("missing.xml")
 with tempfile.TemporaryDirectory() as folder:
-    check(hostile_package(folder))
+    hostile = hostile_package(folder)
+    check(hostile)
+    check_diff([hostile, *packages, "broken"])
 
 for failure in failures:
     print(failure)

@@ -15,6 +15,8 @@ struct Command {
     /// Does what the parsed command line says. Throws CLI::ParseError, before it does anything,
     /// where what it says makes no sense.
     std::function<ExitCode(Console&)> run;
+
+    ExitCode failure = ExitCode::Failure; ///< When its output cannot be written, for example.
 };
 
 #endif

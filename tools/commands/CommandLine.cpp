@@ -14,6 +14,7 @@
 #include "model/version.h"
 #include "tools/commands/Check.h"
 #include "tools/commands/Command.h"
+#include "tools/commands/Diff.h"
 #include "tools/commands/Explain.h"
 #include "tools/commands/Export.h"
 #include "tools/commands/Report.h"
@@ -28,6 +29,7 @@ namespace {
 constexpr const char* examples = "  qenxml show 00112233-4455-6677-8899-aabbccddeeff.xml\n"
                                  "  qenxml show --merge season/*.xml\n"
                                  "  qenxml check outgoing/\n"
+                                 "  qenxml diff yesterday/ today/\n"
                                  "  qenxml export --format csv -o recs.csv season/*.xml\n"
                                  "  qenxml report -o report.html season/*.xml\n"
                                  "  qenxml show --help\n";
@@ -81,22 +83,25 @@ ExitCode refuse(const CLI::App& application, const CLI::ParseError& error, Conso
     return ExitCode::WrongUsage;
 }
 
-ExitCode parseAndRun(int argc, const char* const* argv, Console& console) {
+/// @param failure out: what the command ends with when it throws
+ExitCode parseAndRun(int argc, const char* const* argv, Console& console, ExitCode& failure) {
     CLI::App application("Reads prescription packages for farm machinery.", "qenxml");
     application.formatter(std::make_shared<HelpFormatter>(examples));
     application.footer(exitCodeHelp);
     application.set_help_flag("-h,--help", "Print this help");
     application.set_version_flag("--version", "qenxml " QENXML_VERSION, "Print the version");
     application.require_subcommand(1);
-    const std::array commands = {addShow(application), addCheck(application),
-                                 addExplain(application), addExport(application),
-                                 addReport(application)};
+    const std::array commands = {addShow(application),    addCheck(application),
+                                 addExplain(application), addDiff(application),
+                                 addExport(application),  addReport(application)};
 
     try {
         application.parse(guardedArguments(argc, argv));
         for (const Command& command : commands) {
-            if (command.parser->parsed())
-                return command.run(console);
+            if (!command.parser->parsed())
+                continue;
+            failure = command.failure;
+            return command.run(console);
         }
     } catch (const CLI::CallForHelp&) {
         console.print(application.help());
@@ -113,13 +118,14 @@ ExitCode parseAndRun(int argc, const char* const* argv, Console& console) {
 } // namespace
 
 ExitCode runCommandLine(int argc, const char* const* argv, Console& console) {
+    ExitCode failure = ExitCode::Failure;
     try {
-        const ExitCode result = parseAndRun(argc, argv, console);
+        const ExitCode result = parseAndRun(argc, argv, console, failure);
         console.flush();
         return result;
     } catch (const OutputError& error) {
         if (error.code() == std::errc::broken_pipe) // Its reader has seen enough: "| head".
-            return ExitCode::Failure;
+            return failure;
         console.complainAtOnce(
             fmt::format("the output could not be written: {}", error.code().message()));
     } catch (const std::bad_alloc&) {
@@ -127,5 +133,5 @@ ExitCode runCommandLine(int argc, const char* const* argv, Console& console) {
     } catch (const std::exception& error) {
         console.complainAtOnce(escape(error.what()));
     }
-    return ExitCode::Failure;
+    return failure;
 }

@@ -128,8 +128,13 @@ OutputField anyProductField(OutputNames names, OutputValue (*read)(QenRecData&))
 using Fertilizer = CommercialFertilizerRec;
 using Blend = CustomFertilizerRec;
 
+OutputField inUnit(const char* unit, OutputField field) {
+    field.unit = unit;
+    return field;
+}
+
 OutputField nutrient(OutputNames names, const char* number, double (Blend::*percentage)()) {
-    return productField(names, number, percentage);
+    return inUnit("%", productField(names, number, percentage));
 }
 
 std::vector<OutputField> makeFields() {
@@ -170,7 +175,7 @@ std::vector<OutputField> makeFields() {
         productField({"uom", no, "product_unit"}, no, &Fertilizer::uom, &Blend::uom,
                      &PlantingRec::uom, &PesticideRec::uom),
         productField({"sFertT_ID", no, "sfertt_id"}, tag::SFertT_ID, &Blend::sFertT_ID),
-        nutrient({"spGravity", no, "specific_gravity"}, tag::SpGravity, &Blend::spGravity),
+        productField({"spGravity", no, "specific_gravity"}, tag::SpGravity, &Blend::spGravity),
         nutrient({"pct_N", no, "pct_n"}, tag::Pct_N, &Blend::pct_N),
         nutrient({"pct_P", no, "pct_p"}, tag::Pct_P, &Blend::pct_P),
         nutrient({"pct_K", no, "pct_k"}, tag::Pct_K, &Blend::pct_K),
@@ -188,15 +193,18 @@ std::vector<OutputField> makeFields() {
             {"recType", no, no},
             [](QenRecData& data) { return OutputValue(static_cast<int>(data.recType())); }),
         anyProductField({"recId", no, no}, [](QenRecData& data) { return toValue(data.recId()); }),
-        field({"minimumRate", no, "minimum_rate"}, &QenRec::minimumRate, tag::MinimumRate),
-        field({"averageRate", no, "average_rate"}, &QenRec::averageRate, tag::AverageRate),
-        field({"maximumRate", no, "maximum_rate"}, &QenRec::maximumRate, tag::MaximumRate),
+        inUnit("rateUom",
+               field({"minimumRate", no, "minimum_rate"}, &QenRec::minimumRate, tag::MinimumRate)),
+        inUnit("rateUom",
+               field({"averageRate", no, "average_rate"}, &QenRec::averageRate, tag::AverageRate)),
+        inUnit("rateUom",
+               field({"maximumRate", no, "maximum_rate"}, &QenRec::maximumRate, tag::MaximumRate)),
         field({"rateUomId", no, "rate_unit_id"}, &QenRec::rateUomId, tag::RateUOMID),
         field({"rateUom", no, "rate_unit"}, &QenRec::rateUom),
-        field({"total", no, "total"}, &QenRec::total, tag::Total),
+        inUnit("totalUom", field({"total", no, "total"}, &QenRec::total, tag::Total)),
         field({"totalUomId", no, "total_unit_id"}, &QenRec::totalUomId, tag::TotalUOMID),
         field({"totalUom", no, "total_unit"}, &QenRec::totalUom),
-        field({"area", no, "area"}, &QenRec::area, tag::Area),
+        inUnit("areaUom", field({"area", no, "area"}, &QenRec::area, tag::Area)),
         field({"areaUomId", no, "area_unit_id"}, &QenRec::areaUomId, tag::AreaUOMID),
         field({"areaUom", no, "area_unit"}, &QenRec::areaUom),
         centroidField({"latitude", no, "latitude"}, &LLA::latitude, tag::Latitude),

@@ -46,6 +46,10 @@ struct OutputField {
     /// None where the product is of a kind that has no such field, or there is none.
     std::function<std::optional<OutputValue>(const OutputContext&)> read;
 
+    /// Of the number: "%", or the key of the field of the same owner that says it in words, with
+    /// "Id" that of its code; null where it has none.
+    const char* unit = nullptr;
+
     /// As @ref read, with nothing for a number that is missing.
     std::optional<OutputValue> value(const OutputContext& context) const;
 };

@@ -5,24 +5,9 @@
 
 #include <boost/uuid/uuid_io.hpp>
 
+#include "tools/text/Fnv1a.h"
+
 namespace {
-
-class Fnv1a {
-public:
-    /// A text, told from what follows it.
-    void add(std::string_view text) {
-        for (const char c : text)
-            add(c);
-        add('\0');
-    }
-    void add(char c) { hash_ = (hash_ ^ static_cast<unsigned char>(c)) * prime; }
-
-    std::uint64_t value() const { return hash_; }
-
-private:
-    static constexpr std::uint64_t prime = 0x100000001B3;
-    std::uint64_t hash_ = 0xCBF29CE484222325;
-};
 
 bool isDigit(char c) {
     return c >= '0' && c <= '9';

@@ -56,6 +56,10 @@ void addPackageOptions(CLI::App& parser, PackageOptions& options) {
     parser.add_flag("-0,--null", options.zeroEnds, "Names in LIST end with zero bytes, not lines")
         ->needs(list)
         ->option_text(" ");
+    addUuidOption(parser, options);
+}
+
+void addUuidOption(CLI::App& parser, PackageOptions& options) {
     asGiven(parser.add_option("--uuid", options.uuid, "UUID of the package on the standard input"))
         ->check(CLI::Validator(checkUuid, ""))
         ->option_text("UUID");

@@ -24,6 +24,9 @@ void addPackageOptions(CLI::App& parser, PackageOptions& options);
 /// Adds `-o`, which names the file for the result of a command.
 void addOutputOption(CLI::App& parser, PackageOptions& options);
 
+/// Adds `--uuid` alone.
+void addUuidOption(CLI::App& parser, PackageOptions& options);
+
 /// Whether an argument stands for the standard input and not for a file.
 bool isStandardInput(const std::string& file);
 

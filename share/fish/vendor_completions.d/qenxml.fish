@@ -1,6 +1,6 @@
 # Completion of the qenxml command for fish.
 
-set -l commands show check explain export report
+set -l commands show check explain diff export report
 set -l readers show check export report
 
 # The commands and what they are for, as the help lists them.
@@ -18,11 +18,11 @@ complete -c qenxml -s h -l help -d 'Print help'
 complete -c qenxml -n "not __fish_seen_subcommand_from $commands" -l version -d 'Print the version'
 complete -c qenxml -n "not __fish_seen_subcommand_from $commands" -k -a '(__qenxml_commands)'
 
-complete -c qenxml -n "__fish_seen_subcommand_from $readers" -k -a '(__fish_complete_suffix .xml)'
-complete -c qenxml -n '__fish_seen_subcommand_from show export' -l merge -d 'Merge the growers of all packages'
+complete -c qenxml -n "__fish_seen_subcommand_from $readers diff" -k -a '(__fish_complete_suffix .xml)'
+complete -c qenxml -n '__fish_seen_subcommand_from show diff export' -l merge -d 'Merge the growers of all packages'
 complete -c qenxml -n "__fish_seen_subcommand_from $readers" -l files-from -r -F -d 'Read the files that a list names'
 complete -c qenxml -n "__fish_seen_subcommand_from $readers" -s 0 -l null -d 'Names in the list end with zero bytes'
-complete -c qenxml -n "__fish_seen_subcommand_from $readers" -l uuid -x -d 'UUID of the package on the standard input'
+complete -c qenxml -n "__fish_seen_subcommand_from $readers diff" -l uuid -x -d 'UUID of the package on the standard input'
 complete -c qenxml -n '__fish_seen_subcommand_from export report' -s o -l output -r -F -d 'Write to this file'
 complete -c qenxml -n '__fish_seen_subcommand_from export' -l format -x -a '(__qenxml_formats export)' -d 'The format'
 complete -c qenxml -n '__fish_seen_subcommand_from check' -l format -x -a '(__qenxml_formats check)' -d 'The format'
@@ -38,3 +38,4 @@ complete -c qenxml -n '__fish_seen_subcommand_from check' -l codes -d 'Print the
 complete -c qenxml -n '__fish_seen_subcommand_from explain' -l all -d 'Explain all codes'
 complete -c qenxml -n '__fish_seen_subcommand_from explain' -l json -d 'Write one JSON document'
 complete -c qenxml -n '__fish_seen_subcommand_from explain' -a '(qenxml check --codes 2>/dev/null)'
+complete -c qenxml -n '__fish_seen_subcommand_from diff' -l json -d 'Write one JSON document'

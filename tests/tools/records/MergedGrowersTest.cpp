@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <ctime>
-#include <random>
 #include <string>
 #include <utility>
 #include <vector>
@@ -10,70 +9,12 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/Describe.h"
-#include "tests/support/PlainTree.h"
 #include "tests/support/Uuids.h"
+#include "tests/tools/records/RandomGrowers.h"
 
 namespace {
 
 using Packages = std::vector<std::vector<QenGrower>>;
-
-/// Makes growers of few identifiers, so that packages overlap, in which each record tells by its
-/// values where it comes from. Siblings have different identifiers, as those of packages have.
-class RandomGrowers {
-public:
-    explicit RandomGrowers(unsigned seed) : random_(seed) {}
-
-    std::vector<QenGrower> growers() {
-        std::vector<QenGrower> growers;
-        for (const plain::Grower& grower : some<plain::Grower>(2))
-            growers.push_back(toLibrary(grower));
-        return growers;
-    }
-
-private:
-    /// Up to so many records in any order.
-    template <class Record>
-    std::vector<Record> some(unsigned most) {
-        std::vector<Record> records;
-        for (unsigned id = 1; id <= most; ++id) {
-            if (random_() % 3 == 0)
-                continue;
-            records.emplace_back();
-            records.back().id = test::uuid(id);
-            fill(records.back());
-        }
-        std::shuffle(records.begin(), records.end(), random_);
-        return records;
-    }
-
-    std::string label() { return std::to_string(++number_); }
-
-    void fill(plain::Grower& grower) {
-        grower.name = label();
-        grower.farms = some<plain::Farm>(3);
-    }
-    void fill(plain::Farm& farm) {
-        farm.name = label();
-        farm.growerId = test::uuid(++number_);
-        farm.fields = some<plain::Field>(4);
-    }
-    void fill(plain::Field& field) {
-        field.name = label();
-        field.farmId = test::uuid(++number_);
-        field.geometries = some<plain::Geometry>(3);
-        field.recs = some<plain::Rec>(4);
-    }
-    void fill(plain::Geometry& geometry) { geometry.date = label(); }
-    void fill(plain::Rec& rec) {
-        rec.name = label();
-        plain::Planting planting;
-        planting.cropName = label();
-        rec.product = planting;
-    }
-
-    std::mt19937 random_;
-    unsigned number_ = 1000;
-};
 
 std::vector<std::string> describeAll(std::vector<QenGrower>& growers) {
     std::vector<std::string> texts;
@@ -105,7 +46,7 @@ std::vector<std::string> mergedTogether(const Packages& packages) {
 
 TEST(MergedGrowers, AreWhatMergingOneByOneMakesInAnyOrder) {
     for (unsigned seed = 0; seed < 8; ++seed) {
-        RandomGrowers random(seed);
+        test::RandomGrowers random(seed);
         const Packages packages = {random.growers(), random.growers(), random.growers(),
                                    random.growers()};
         std::vector<std::size_t> order = {0, 1, 2, 3};
