@@ -127,6 +127,7 @@ TEST_F(MemoryShortageOfExport, ReplacesAFileByTheWholeOutputOnly) {
 
 INSTANTIATE_TEST_SUITE_P(Commands, MemoryShortage,
                          testing::Values(std::vector<const char*>{"export", "--format", "json"},
+                                         std::vector<const char*>{"export", "--format", "jsonl"},
                                          std::vector<const char*>{"export", "--format", "geojson"},
                                          std::vector<const char*>{"export", "--format", "csv"},
                                          std::vector<const char*>{"report"},

@@ -53,6 +53,12 @@ def validator_of(name):
 
 
 validator = validator_of("export.schema.json")
+row_validator = validator_of("recs.schema.json")
+# A feature of a field without recs has no rec.
+field_schema = json.loads(json.dumps(row_validator.schema))
+for title in ("rec_id", "package"):
+    field_schema["properties"][title] = {"$ref": "#/$defs/optionalUuid"}
+field_validator = jsonschema.Draft202012Validator(field_schema)
 
 
 def recs_of(document):
@@ -101,6 +107,7 @@ numbers = {
     "total_unit_id": "totalUomId", "area": "area", "area_unit_id": "areaUomId",
     "operation_id": "operationId", "zone_id": "mgmtZoneId",
 }
+ids = {"operation_id", "zone_id"}
 
 
 def check_csv(files, recs, *options):
@@ -121,7 +128,22 @@ def check_csv(files, recs, *options):
                    f"{files}: {title} is given in CSV or in JSON only")
 
 
-def check_geojson(files, recs, *options):
+def check_jsonl(files, recs, *options):
+    lines = run("export", "--format", "jsonl", *options, *files).decode("utf-8").split("\n")
+    expect(lines.pop() == "", f"{files}: the last line does not end")
+    rows = [load(line.encode()) for line in lines]
+    for row in rows:
+        for error in row_validator.iter_errors(row):
+            failures.append(f"{files}: {error.json_path}: {error.message}")
+    expect([row["rec_id"] for row in rows] == [rec["id"] for rec in recs], f"{files}: lines")
+    for row, rec in zip(rows, recs):
+        for title, name in numbers.items():
+            expected = None if isinstance(rec[name], str) and title not in ids else rec[name]
+            expect(row[title] == expected, f"{files}: {title} is {row[title]!r}, not {expected!r}")
+    return rows
+
+
+def check_geojson(files, rows, *options):
     document = load(run("export", "--format", "geojson", *options, *files))
     expect(set(document) == {"type", "features"}, f"{files}: members of the collection")
     expect(document["type"] == "FeatureCollection", f"{files}: type of the collection")
@@ -129,21 +151,25 @@ def check_geojson(files, recs, *options):
     for feature in document["features"]:
         expect(set(feature) == {"type", "geometry", "properties"}, f"{files}: members of a feature")
         expect(feature["type"] == "Feature", f"{files}: type of a feature")
-        columns = [name.lower() for name in feature["properties"]]
-        expect(len(columns) == len(set(columns)), f"{files}: two columns of one name")
+        properties = feature["properties"]
+        for error in field_validator.iter_errors(properties):
+            failures.append(f"{files}: {error.json_path}: {error.message}")
         taken = {"geometry", "geom", "the_geom", "wkb_geometry", "shape", "fid", "ogc_fid", "id"}
-        expect(not taken & set(columns), f"{files}: a column that tables have themselves")
-        found += feature["properties"]["recs"]
+        expect(not taken & set(properties), f"{files}: a column that tables have themselves")
+        if properties["rec_id"] is not None:
+            found.append(properties)
         if feature["geometry"] is None:
             continue
         expect(feature["geometry"]["type"] == "Point", f"{files}: type of a geometry")
         longitude, latitude = feature["geometry"]["coordinates"]
         expect(-180 <= longitude <= 180 and -90 <= latitude <= 90, f"{files}: a point not on earth")
-        centroid = feature["properties"]["centroid"]
-        expect((latitude, longitude) == (centroid["latitude"], centroid["longitude"]),
+        expect((latitude, longitude) == (properties["latitude"], properties["longitude"]),
                f"{files}: longitude comes before latitude")
-    identities = sorted(rec["id"] + rec["xmlFileName"] for rec in found)
-    expect(identities == sorted(rec["id"] + rec["xmlFileName"] for rec in recs), f"{files}: recs")
+    expect(found == rows, f"{files}: recs")
+    texts = run("export", "--format", "geojsonl", *options, *files).decode("utf-8")
+    expect(all(text.endswith("\n") for text in texts.split("\x1e")[1:]), f"{files}: a text is cut")
+    sequence = [load(text.encode()) for text in texts.split("\x1e")[1:]]
+    expect(sequence == document["features"], f"{files}: the sequence has other features")
 
 
 def check_report(files):
@@ -165,12 +191,10 @@ def check_report(files):
 
 
 def check(*files):
-    recs = check_json(files)
-    check_csv(files, recs)
-    check_geojson(files, recs)
-    merged = check_json(files, "--merge")
-    check_csv(files, merged, "--merge")
-    check_geojson(files, merged, "--merge")
+    for options in ((), ("--merge",)):
+        recs = check_json(files, *options)
+        check_csv(files, recs, *options)
+        check_geojson(files, check_jsonl(files, recs, *options), *options)
     check_report(files)
 
 

@@ -13,6 +13,7 @@
 #include "tools/export/ExportFormat.h"
 #include "tools/export/ExportGeoJson.h"
 #include "tools/export/ExportJson.h"
+#include "tools/export/ExportJsonLines.h"
 #include "tools/input/PackageNames.h"
 #include "tools/input/PackageReading.h"
 #include "tools/options/Arguments.h"
@@ -26,26 +27,43 @@
 namespace {
 
 constexpr const char* examples =
-    "  qenxml export --format csv -o recs.csv season/*.xml           for a spreadsheet\n"
-    "  qenxml export --format geojson --merge -o map.geojson *.xml   for a map\n"
+    "  qenxml export --format csv -o recs.csv season/                for a spreadsheet\n"
+    "  qenxml export --format csv --delimiter \";\" --decimal \",\" season/   where 1.5 is 1,5\n"
+    "  qenxml export --format geojson --merge -o map.geojson season/  for a map\n"
     "  qenxml export --format json 00112233-4455-6677-8899-aabbccddeeff.xml | jq .packages[0]\n";
+
+constexpr const char* csv = "csv";
 
 struct Format {
     const char* name;
-    const char* title;
-    std::unique_ptr<ExportFormat> (*make)(TextSink);
+    const char* title; ///< For the help; null for another form of the format before it.
+    std::unique_ptr<ExportFormat> (*make)(TextSink, const TableLayout&);
 };
 
+/// A format that has no layout.
+template <auto make>
+std::unique_ptr<ExportFormat> plain(TextSink sink, const TableLayout& /*layout*/) {
+    return make(std::move(sink));
+}
+
 /// All formats. The manual, the completions and the help follow.
-constexpr std::array formats = {Format{"json", "JSON", makeJsonExport},
-                                Format{"csv", "CSV", makeCsvExport},
-                                Format{"geojson", "GeoJSON", makeGeoJsonExport}};
+constexpr std::array formats = {Format{"json", "JSON", plain<makeJsonExport>},
+                                Format{"jsonl", nullptr, plain<makeJsonLinesExport>},
+                                Format{csv, "CSV", makeCsvExport},
+                                Format{"geojson", "GeoJSON", plain<makeGeoJsonExport>},
+                                Format{"geojsonl", nullptr, plain<makeGeoJsonSequenceExport>}};
+
+/// The characters between cells that people may want, and what they are called.
+constexpr std::array<std::pair<const char*, char>, 4> delimiters = {
+    {{",", ','}, {";", ';'}, {"|", '|'}, {"tab", '\t'}}};
 
 std::vector<std::string> namesOf(const char* Format::*name) {
     std::vector<std::string> names;
     names.reserve(formats.size());
-    for (const Format& format : formats)
-        names.emplace_back(format.*name);
+    for (const Format& format : formats) {
+        if (format.*name != nullptr)
+            names.emplace_back(format.*name);
+    }
     return names;
 }
 
@@ -56,6 +74,10 @@ const Format& formatNamed(const std::string& name) {
 
 struct ExportOptions {
     std::string format;
+    std::string delimiter = delimiters.front().first;
+    std::string decimal = ".";
+    bool withoutMark = false;
+    bool hasLayout = false; ///< Whether any of these was given.
     bool merge = false;
     PackageOptions packages;
 };
@@ -70,11 +92,21 @@ void exportPackage(PackageReading& reading, bool merge, ExportFormat& format, Me
         console.complain(fmt::format("{}: {}", escape(reading.name), remark));
 }
 
+TableLayout layoutOf(const ExportOptions& options) {
+    const auto* const delimiter =
+        std::find_if(delimiters.begin(), delimiters.end(),
+                     [&](const auto& known) { return known.first == options.delimiter; });
+    return {delimiter->second, options.decimal.front(), !options.withoutMark};
+}
+
 ExitCode exportPackages(const ExportOptions& options, Console& console) {
+    if (options.hasLayout && options.format != csv)
+        throw CLI::ValidationError("--delimiter, --decimal and --no-bom are for the format csv");
     PackageNames names(options.packages, console);
     Output output(options.packages.output, console);
     const auto format =
-        formatNamed(options.format).make([&output](std::string_view text) { output.write(text); });
+        formatNamed(options.format)
+            .make([&output](std::string_view text) { output.write(text); }, layoutOf(options));
     MergedGrowers merged;
     bool anyRead = false;
     format->begin(options.merge);
@@ -93,6 +125,24 @@ ExitCode exportPackages(const ExportOptions& options, Console& console) {
     const bool areWhole = names.finish();
     output.finish(anyRead);
     return areWhole ? ExitCode::Success : ExitCode::Failure;
+}
+
+void addLayoutOptions(CLI::App& parser, const std::shared_ptr<ExportOptions>& options) {
+    std::vector<std::string> names;
+    names.reserve(delimiters.size());
+    for (const auto& delimiter : delimiters)
+        names.emplace_back(delimiter.first);
+    const std::vector<CLI::Option*> added = {
+        addChoice(parser, "--delimiter", options->delimiter, names,
+                  "What separates the cells of CSV: \"" + joined(names, "\" or \"") + "\"")
+            ->option_text("CHARACTER"),
+        addChoice(parser, "--decimal", options->decimal, {".", ","},
+                  "What comes before the decimals of numbers in CSV: \".\" or \",\"")
+            ->option_text("CHARACTER"),
+        parser.add_flag("--no-bom", options->withoutMark, "Begin CSV without a byte-order mark")
+            ->option_text(" ")};
+    for (CLI::Option* option : added)
+        option->each([options](const std::string&) { options->hasLayout = true; });
 }
 
 } // namespace
@@ -117,6 +167,7 @@ Command addExport(CLI::App& application) {
     addChoice(*parser, "--format", options->format, names, joined(names, " or "))
         ->required()
         ->option_text("FORMAT");
+    addLayoutOptions(*parser, options);
     parser->add_flag("--merge", options->merge, "Merge the growers of all packages into one tree");
     addOutputOption(*parser, options->packages);
     addPackageOptions(*parser, options->packages);

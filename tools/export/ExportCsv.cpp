@@ -1,13 +1,10 @@
 #include "tools/export/ExportCsv.h"
 
+#include <algorithm>
 #include <cmath>
-#include <optional>
 #include <utility>
 
-#include <boost/uuid/uuid.hpp>
-
-#include "tools/export/OutputFields.h"
-#include "tools/records/RecordWalk.h"
+#include "tools/export/RowExport.h"
 #include "tools/text/Escape.h"
 #include "tools/text/NumberText.h"
 #include "tools/text/Utf8.h"
@@ -73,16 +70,17 @@ std::string withoutForbidden(std::string_view text) {
 }
 
 /// A text that begins or ends with what may be skipped is put into quotes, too, so that it stays.
-bool needsQuotes(std::string_view text) {
+bool needsQuotes(std::string_view text, char delimiter) {
     if (text.empty())
         return false;
     const char last = text.back();
     return text.find_first_of(",\";\t\r\n") != std::string_view::npos ||
+           text.find(delimiter) != std::string_view::npos ||
            mayBeSkipped(firstCharacter(text).codePoint) || last == ' ';
 }
 
-std::string inQuotes(std::string_view text) {
-    if (!needsQuotes(text))
+std::string inQuotes(std::string_view text, char delimiter) {
+    if (!needsQuotes(text, delimiter))
         return std::string(text);
     std::string result = "\"";
     for (const char c : text) {
@@ -94,79 +92,62 @@ std::string inQuotes(std::string_view text) {
 }
 
 struct ToCell {
+    const TableLayout& layout;
+
     std::string operator()(std::monostate /*none*/) const { return ""; }
-    std::string operator()(const std::string& text) const { return csvText(text); }
+    std::string operator()(const std::string& text) const {
+        return csvText(text, layout.delimiter);
+    }
     std::string operator()(double number) const {
-        return std::isfinite(number) ? numberText(number) : csvText(numberText(number));
+        std::string text = numberText(number);
+        if (!std::isfinite(number))
+            return csvText(text, layout.delimiter);
+        std::replace(text.begin(), text.end(), '.', layout.decimal);
+        return text.find(layout.delimiter) == std::string::npos ? text : '"' + text + '"';
     }
     std::string operator()(int number) const { return std::to_string(number); }
     std::string operator()(bool value) const { return value ? "true" : "false"; }
 };
 
-class CsvExport : public ExportFormat {
+class CsvExport : public RowExport {
 public:
-    explicit CsvExport(TextSink sink) : sink_(std::move(sink)) {}
+    CsvExport(TextSink sink, const TableLayout& layout) : sink_(std::move(sink)), layout_(layout) {}
 
     void begin(bool /*merged*/) override {
-        text_ = byteOrderMark;
-        write([](const OutputField& field) { return std::string(field.names.column); });
-    }
-
-    std::string package(PackageReading& reading) override {
-        return write(reading.growers, reading.gaps);
-    }
-
-    std::string merged(MergedGrowers& merged) override {
-        return write(merged.growers(), merged.gaps());
+        text_ = layout_.hasMark ? byteOrderMark : "";
+        write([](const OutputField& column) { return std::string(column.names.column); });
     }
 
     void end() override {}
 
 private:
-    std::string write(std::vector<QenGrower>& growers, const std::vector<GrowerGaps>& gaps) {
-        forEachRec(growers, gaps, [this](const FieldContext& around, QenRec& rec) {
-            const boost::uuids::uuid boundary = rec.fieldGeometryId();
-            OutputContext context{&around.grower,
-                                  &around.farm,
-                                  &around.field,
-                                  nullptr,
-                                  around.field.centroid(boundary),
-                                  &rec,
-                                  around.missingFrom(rec)};
-            context.missing.add(around.gaps.ofGeometry(around.field, boundary));
-            text_.clear();
-            write([&context](const OutputField& field) {
-                const std::optional<OutputValue> value = field.value(context);
-                return value ? std::visit(ToCell(), *value) : "";
-            });
+    void writeRec(const OutputContext& context) override {
+        text_.clear();
+        write([&](const OutputField& column) {
+            return std::visit(ToCell{layout_}, column.cell(context));
         });
-        return "";
     }
 
     /// Writes a row.
     template <class Cell>
     void write(Cell cell) {
-        std::string_view separator;
-        for (const OutputField& field : outputFields()) {
-            if (field.names.column == nullptr)
-                continue;
-            text_.append(separator).append(cell(field));
-            separator = ",";
-        }
-        text_ += "\r\n";
+        for (const OutputField& column : outputColumns())
+            text_.append(cell(column)).append(1, layout_.delimiter);
+        text_.replace(text_.size() - 1, 1, "\r\n");
         sink_(text_);
     }
 
     TextSink sink_;
+    TableLayout layout_;
     std::string text_; // of a row
 };
 
 } // namespace
 
-std::string csvText(std::string_view text) {
-    return inQuotes(withoutFormulas(withoutForbidden(text)));
+std::string csvText(std::string_view text, char delimiter) {
+    return inQuotes(withoutFormulas(withoutForbidden(text)), delimiter);
 }
 
-std::unique_ptr<ExportFormat> makeCsvExport(TextSink sink) {
-    return std::make_unique<CsvExport>(std::move(sink));
+std::unique_ptr<ExportFormat> makeCsvExport(TextSink sink, const TableLayout& layout) {
+    return std::make_unique<CsvExport>(std::move(sink), layout);
 }

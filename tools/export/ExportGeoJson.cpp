@@ -1,121 +1,90 @@
 #include "tools/export/ExportGeoJson.h"
 
 #include <cstddef>
-#include <optional>
 #include <utility>
 
-#include <boost/uuid/uuid_io.hpp>
 #include <fmt/format.h>
 
-#include "tools/export/RecordJson.h"
+#include "tools/export/RowExport.h"
+#include "tools/export/RowJson.h"
 #include "tools/output/JsonWriter.h"
 #include "tools/records/Centroid.h"
-#include "tools/records/RecordWalk.h"
 
 namespace {
 
-class GeoJsonExport : public ExportFormat {
+/// What stands around features.
+struct Frame {
+    const char* begin;
+    const char* beforeFirst;
+    const char* beforeOthers;
+    const char* after; ///< Each of them.
+    const char* end;
+};
+
+constexpr Frame collection = {"{\"type\":\"FeatureCollection\",\"features\":[", "\n", ",\n", "",
+                              "\n]}\n"};
+constexpr Frame sequence = {"", "\x1E", "\x1E", "\n", ""};
+
+class GeoJsonExport : public RowExport {
 public:
-    explicit GeoJsonExport(TextSink sink) : writer_(std::move(sink)) {}
+    GeoJsonExport(TextSink sink, const Frame& frame)
+        : sink_(std::move(sink)), frame_(frame), before_(frame.beforeFirst) {}
 
-    void begin(bool /*merged*/) override {
-        writer_.beginObject();
-        writer_.member("type", "FeatureCollection");
-        writer_.beginArray("features");
-    }
-
-    std::string package(PackageReading& reading) override {
-        package_ = reading.uuid;
-        return write(reading.growers, reading.gaps);
-    }
-
-    std::string merged(MergedGrowers& merged) override {
-        package_.reset();
-        return write(merged.growers(), merged.gaps());
-    }
-
-    void end() override {
-        writer_.endArray();
-        writer_.endObject();
-        writer_.endDocument();
-    }
+    void begin(bool /*merged*/) override { sink_(frame_.begin); }
+    void end() override { sink_(frame_.end); }
 
 private:
-    std::string write(std::vector<QenGrower>& growers, const std::vector<GrowerGaps>& gaps) {
-        features_ = 0;
-        withoutPoint_ = 0;
-        forEachField(growers, gaps, [this](const FieldContext& context) { write(context); });
-        if (withoutPoint_ == 0)
-            return "";
-        return fmt::format("{} of {} field boundaries have no centroid, or one that is no place; "
-                           "their features have no point",
-                           withoutPoint_, features_);
+    void writeRec(const OutputContext& context) override { write(context); }
+
+    void writeBoundary(const OutputContext& context, std::size_t recs) override {
+        if (recs == 0)
+            write(context);
     }
 
-    void write(const FieldContext& context) {
-        std::vector<QenFieldGeometry> geometries = context.field.geometries();
-        for (QenFieldGeometry& geometry : geometries)
-            write(context, geometry);
-    }
-
-    void write(const FieldContext& context, QenFieldGeometry& geometry) {
-        const LLA centroid = geometry.centroid();
-        const MissingNumbers& missing = context.missingFrom(geometry);
-        const bool hasPoint = isPlace(centroid, missing);
+    void write(const OutputContext& context) {
+        const bool hasPoint =
+            context.geometry != nullptr && isPlace(context.centroid, context.missing);
         ++features_;
         withoutPoint_ += hasPoint ? 0 : 1;
-        writer_.beginObject();
-        writer_.member("type", "Feature");
+        text_ = std::exchange(before_, frame_.beforeOthers);
+        text_ += R"({"type":"Feature","geometry":)";
         if (hasPoint)
-            writePoint(centroid);
+            text_ += fmt::format(R"({{"type":"Point","coordinates":[{},{}]}})",
+                                 jsonNumber(context.centroid.longitude).dump(),
+                                 jsonNumber(context.centroid.latitude).dump());
         else
-            writer_.member("geometry", nullptr);
-        writer_.beginObject("properties");
-        const OutputContext values{&context.grower, &context.farm, &context.field, &geometry,
-                                   centroid,        nullptr,       missing};
-        // The first one, the name of the field, is what maps show beside a point.
-        for (const Owner owner : {Owner::Field, Owner::Farm, Owner::Grower})
-            writeMembers(writer_, owner, values, &OutputNames::property);
-        if (package_)
-            writer_.member("package", to_string(*package_));
-        writeMembers(writer_, Owner::Geometry, values, &OutputNames::property);
-        writeCentroid(writer_, values);
-        writeRecs(context, geometry.geometryId());
-        writer_.endObject();
-        writer_.endObject();
+            text_ += "null";
+        text_ += R"(,"properties":)";
+        appendRow(text_, context);
+        text_ += '}';
+        text_ += frame_.after;
+        sink_(text_);
     }
 
-    void writePoint(const LLA& centroid) {
-        writer_.beginObject("geometry");
-        writer_.member("type", "Point");
-        writer_.beginArray("coordinates");
-        writer_.element(centroid.longitude);
-        writer_.element(centroid.latitude);
-        writer_.endArray();
-        writer_.endObject();
+    std::string remark() override {
+        const std::size_t features = std::exchange(features_, 0);
+        const std::size_t withoutPoint = std::exchange(withoutPoint_, 0);
+        if (withoutPoint == 0)
+            return "";
+        return fmt::format("{} of {} features have no point, as their centroid is missing or no "
+                           "place",
+                           withoutPoint, features);
     }
 
-    void writeRecs(const FieldContext& context, const boost::uuids::uuid& geometryId) {
-        writer_.beginArray("recs");
-        for (QenRec& rec : context.field.recs()) {
-            if (rec.fieldGeometryId() != geometryId)
-                continue;
-            OutputContext values;
-            values.rec = &rec;
-            values.missing = context.missingFrom(rec);
-            writeRec(writer_, values);
-        }
-        writer_.endArray();
-    }
-
-    JsonWriter writer_;
-    std::optional<boost::uuids::uuid> package_;
-    std::size_t features_ = 0;
+    TextSink sink_;
+    const Frame& frame_;
+    const char* before_; ///< The next feature.
+    std::string text_;
+    std::size_t features_ = 0; ///< Of the package.
     std::size_t withoutPoint_ = 0;
 };
 
 } // namespace
 
 std::unique_ptr<ExportFormat> makeGeoJsonExport(TextSink sink) {
-    return std::make_unique<GeoJsonExport>(std::move(sink));
+    return std::make_unique<GeoJsonExport>(std::move(sink), collection);
+}
+
+std::unique_ptr<ExportFormat> makeGeoJsonSequenceExport(TextSink sink) {
+    return std::make_unique<GeoJsonExport>(std::move(sink), sequence);
 }

@@ -125,6 +125,16 @@ OutputField anyProductField(OutputNames names, OutputValue (*read)(QenRecData&))
             }};
 }
 
+/// The field with its integers as texts.
+OutputField asText(OutputField field) {
+    field.read = [read = field.read](const OutputContext& context) {
+        std::optional<OutputValue> value = read(context);
+        const int* const number = value ? std::get_if<int>(&*value) : nullptr;
+        return number == nullptr ? value : std::optional(OutputValue(std::to_string(*number)));
+    };
+    return field;
+}
+
 using Fertilizer = CommercialFertilizerRec;
 using Blend = CustomFertilizerRec;
 
@@ -137,118 +147,177 @@ OutputField nutrient(OutputNames names, const char* number, double (Blend::*perc
     return inUnit("%", productField(names, number, percentage));
 }
 
+/// Of a rec the package that gave it, which merging may have put beside those of others.
+std::optional<OutputValue> packageOf(const OutputContext& context) {
+    if (context.rec != nullptr)
+        return toValue(context.rec->xmlFileName());
+    return context.package == nullptr ? std::nullopt : std::optional(toValue(*context.package));
+}
+
+/// Whether the record of an owner is at hand.
+bool isAtHand(Owner owner, const OutputContext& context) {
+    switch (owner) {
+    case Owner::Package:
+        return true;
+    case Owner::Grower:
+        return context.grower != nullptr;
+    case Owner::Farm:
+        return context.farm != nullptr;
+    case Owner::Field:
+        return context.field != nullptr;
+    case Owner::Geometry:
+    case Owner::Centroid:
+        return context.geometry != nullptr;
+    case Owner::Rec:
+    case Owner::Product:
+        return context.rec != nullptr;
+    }
+    return false;
+}
+
 std::vector<OutputField> makeFields() {
     constexpr const char* no = nullptr;
     return {
-        field({"xmlFileName", no, "package"}, &QenRec::xmlFileName),
-        field({"name", "growerName", "grower"}, &QenGrower::name),
-        field({"name", "farmName", "farm"}, &QenFarm::name),
-        field({"name", "name", "field"}, &QenField::name),
-        field({"name", no, "rec"}, &QenRec::name),
-        field({"operationName", no, "operation"}, &QenRec::operationName),
-        field({"seasonName", no, "season"}, &QenRec::seasonName),
+        {Owner::Package,
+         {no, "file"},
+         no,
+         [](const OutputContext& context) {
+             return context.file == nullptr ? std::nullopt
+                                            : std::optional(OutputValue(*context.file));
+         }},
+        {Owner::Package, {no, "package"}, no, packageOf},
+        field({"xmlFileName", no}, &QenRec::xmlFileName),
+        field({"name", "grower"}, &QenGrower::name),
+        field({"name", "farm"}, &QenFarm::name),
+        field({"name", "field"}, &QenField::name),
+        field({"name", "rec"}, &QenRec::name),
+        field({"operationName", "operation"}, &QenRec::operationName),
+        field({"seasonName", "season"}, &QenRec::seasonName),
         recField(
-            {"seasonId", no, "season_id"},
+            {"seasonId", "season_id"},
             [](QenRec& rec) {
                 return rec.seasonId() == -1 ? OutputValue() : OutputValue(rec.seasonId());
             },
             tag::SeasonID),
-        field({"creationDate", no, "created"}, &QenRec::creationDate),
-        field({"editDate", no, "edited"}, &QenRec::editDate),
-        anyProductField({"kind", no, no},
+        field({"creationDate", "created"}, &QenRec::creationDate),
+        field({"editDate", "edited"}, &QenRec::editDate),
+        anyProductField({"kind", no},
                         [](QenRecData& data) { return OutputValue(productKindKey(&data)); }),
-        anyProductField({no, no, "product_kind"},
+        anyProductField({no, "product_kind"},
                         [](QenRecData& data) { return OutputValue(productKind(&data)); }),
-        productField({"productId", no, "product_id"}, tag::ProductID, &Fertilizer::productId,
-                     &Blend::productId),
-        productField({"productName", no, "product"}, no, &Fertilizer::productName,
-                     &Blend::productName),
-        productField({"pesticideMixName", no, no}, no, &PesticideRec::pesticideMixName),
-        productField({"cropId", no, "crop_id"}, tag::CropID, &PlantingRec::cropId),
-        productField({"cropName", no, "crop"}, no, &PlantingRec::cropName),
-        productField({"companyId", no, "company_id"}, tag::CompanyID, &PlantingRec::companyId),
-        productField({"companyName", no, "company"}, no, &PlantingRec::companyName),
-        productField({"varietyId", no, "variety_id"}, tag::VarietyID, &PlantingRec::varietyId),
-        productField({"varietyName", no, "variety"}, no, &PlantingRec::varietyName),
-        productField({"uomId", no, "product_unit_id"}, tag::UOMID, &Fertilizer::uomId,
-                     &Blend::uomId, &PlantingRec::uomId, &PesticideRec::uomId),
-        productField({"uom", no, "product_unit"}, no, &Fertilizer::uom, &Blend::uom,
-                     &PlantingRec::uom, &PesticideRec::uom),
-        productField({"sFertT_ID", no, "sfertt_id"}, tag::SFertT_ID, &Blend::sFertT_ID),
-        productField({"spGravity", no, "specific_gravity"}, tag::SpGravity, &Blend::spGravity),
-        nutrient({"pct_N", no, "pct_n"}, tag::Pct_N, &Blend::pct_N),
-        nutrient({"pct_P", no, "pct_p"}, tag::Pct_P, &Blend::pct_P),
-        nutrient({"pct_K", no, "pct_k"}, tag::Pct_K, &Blend::pct_K),
-        nutrient({"pct_Ca", no, "pct_ca"}, tag::Pct_Ca, &Blend::pct_Ca),
-        nutrient({"pct_Mg", no, "pct_mg"}, tag::Pct_Mg, &Blend::pct_Mg),
-        nutrient({"pct_S", no, "pct_s"}, tag::Pct_S, &Blend::pct_S),
-        nutrient({"pct_Fe", no, "pct_fe"}, tag::Pct_Fe, &Blend::pct_Fe),
-        nutrient({"pct_Mn", no, "pct_mn"}, tag::Pct_Mn, &Blend::pct_Mn),
-        nutrient({"pct_Zn", no, "pct_zn"}, tag::Pct_Zn, &Blend::pct_Zn),
-        nutrient({"pct_Cu", no, "pct_cu"}, tag::Pct_Cu, &Blend::pct_Cu),
-        nutrient({"pct_B", no, "pct_b"}, tag::Pct_B, &Blend::pct_B),
-        nutrient({"pct_Mo", no, "pct_mo"}, tag::Pct_Mo, &Blend::pct_Mo),
-        nutrient({"pct_Cl", no, "pct_cl"}, tag::Pct_Cl, &Blend::pct_Cl),
+        productField({"productId", no}, tag::ProductID, &Fertilizer::productId, &Blend::productId),
+        productField({"productName", no}, no, &Fertilizer::productName, &Blend::productName),
+        // A column has values of one type, and that of a blend is a UUID.
+        asText(productField({no, "product_id"}, tag::ProductID, &Fertilizer::productId,
+                            &Blend::productId)),
+        anyProductField({no, "product"},
+                        [](QenRecData& data) { return OutputValue(productTitle(&data)); }),
+        productField({"pesticideMixName", no}, no, &PesticideRec::pesticideMixName),
+        productField({"cropId", "crop_id"}, tag::CropID, &PlantingRec::cropId),
+        productField({"cropName", "crop"}, no, &PlantingRec::cropName),
+        productField({"companyId", "company_id"}, tag::CompanyID, &PlantingRec::companyId),
+        productField({"companyName", "company"}, no, &PlantingRec::companyName),
+        productField({"varietyId", "variety_id"}, tag::VarietyID, &PlantingRec::varietyId),
+        productField({"varietyName", "variety"}, no, &PlantingRec::varietyName),
+        productField({"uomId", "product_unit_id"}, tag::UOMID, &Fertilizer::uomId, &Blend::uomId,
+                     &PlantingRec::uomId, &PesticideRec::uomId),
+        productField({"uom", "product_unit"}, no, &Fertilizer::uom, &Blend::uom, &PlantingRec::uom,
+                     &PesticideRec::uom),
+        productField({"sFertT_ID", "sfertt_id"}, tag::SFertT_ID, &Blend::sFertT_ID),
+        productField({"spGravity", "specific_gravity"}, tag::SpGravity, &Blend::spGravity),
+        nutrient({"pct_N", "pct_n"}, tag::Pct_N, &Blend::pct_N),
+        nutrient({"pct_P", "pct_p"}, tag::Pct_P, &Blend::pct_P),
+        nutrient({"pct_K", "pct_k"}, tag::Pct_K, &Blend::pct_K),
+        nutrient({"pct_Ca", "pct_ca"}, tag::Pct_Ca, &Blend::pct_Ca),
+        nutrient({"pct_Mg", "pct_mg"}, tag::Pct_Mg, &Blend::pct_Mg),
+        nutrient({"pct_S", "pct_s"}, tag::Pct_S, &Blend::pct_S),
+        nutrient({"pct_Fe", "pct_fe"}, tag::Pct_Fe, &Blend::pct_Fe),
+        nutrient({"pct_Mn", "pct_mn"}, tag::Pct_Mn, &Blend::pct_Mn),
+        nutrient({"pct_Zn", "pct_zn"}, tag::Pct_Zn, &Blend::pct_Zn),
+        nutrient({"pct_Cu", "pct_cu"}, tag::Pct_Cu, &Blend::pct_Cu),
+        nutrient({"pct_B", "pct_b"}, tag::Pct_B, &Blend::pct_B),
+        nutrient({"pct_Mo", "pct_mo"}, tag::Pct_Mo, &Blend::pct_Mo),
+        nutrient({"pct_Cl", "pct_cl"}, tag::Pct_Cl, &Blend::pct_Cl),
         anyProductField(
-            {"recType", no, no},
+            {"recType", no},
             [](QenRecData& data) { return OutputValue(static_cast<int>(data.recType())); }),
-        anyProductField({"recId", no, no}, [](QenRecData& data) { return toValue(data.recId()); }),
+        anyProductField({"recId", no}, [](QenRecData& data) { return toValue(data.recId()); }),
         inUnit("rateUom",
-               field({"minimumRate", no, "minimum_rate"}, &QenRec::minimumRate, tag::MinimumRate)),
+               field({"minimumRate", "minimum_rate"}, &QenRec::minimumRate, tag::MinimumRate)),
         inUnit("rateUom",
-               field({"averageRate", no, "average_rate"}, &QenRec::averageRate, tag::AverageRate)),
+               field({"averageRate", "average_rate"}, &QenRec::averageRate, tag::AverageRate)),
         inUnit("rateUom",
-               field({"maximumRate", no, "maximum_rate"}, &QenRec::maximumRate, tag::MaximumRate)),
-        field({"rateUomId", no, "rate_unit_id"}, &QenRec::rateUomId, tag::RateUOMID),
-        field({"rateUom", no, "rate_unit"}, &QenRec::rateUom),
-        inUnit("totalUom", field({"total", no, "total"}, &QenRec::total, tag::Total)),
-        field({"totalUomId", no, "total_unit_id"}, &QenRec::totalUomId, tag::TotalUOMID),
-        field({"totalUom", no, "total_unit"}, &QenRec::totalUom),
-        inUnit("areaUom", field({"area", no, "area"}, &QenRec::area, tag::Area)),
-        field({"areaUomId", no, "area_unit_id"}, &QenRec::areaUomId, tag::AreaUOMID),
-        field({"areaUom", no, "area_unit"}, &QenRec::areaUom),
-        centroidField({"latitude", no, "latitude"}, &LLA::latitude, tag::Latitude),
-        centroidField({"longitude", no, "longitude"}, &LLA::longitude, tag::Longitude),
+               field({"maximumRate", "maximum_rate"}, &QenRec::maximumRate, tag::MaximumRate)),
+        field({"rateUomId", "rate_unit_id"}, &QenRec::rateUomId, tag::RateUOMID),
+        field({"rateUom", "rate_unit"}, &QenRec::rateUom),
+        inUnit("totalUom", field({"total", "total"}, &QenRec::total, tag::Total)),
+        field({"totalUomId", "total_unit_id"}, &QenRec::totalUomId, tag::TotalUOMID),
+        field({"totalUom", "total_unit"}, &QenRec::totalUom),
+        inUnit("areaUom", field({"area", "area"}, &QenRec::area, tag::Area)),
+        field({"areaUomId", "area_unit_id"}, &QenRec::areaUomId, tag::AreaUOMID),
+        field({"areaUom", "area_unit"}, &QenRec::areaUom),
+        centroidField({"latitude", "latitude"}, &LLA::latitude, tag::Latitude),
+        centroidField({"longitude", "longitude"}, &LLA::longitude, tag::Longitude),
         {Owner::Centroid,
-         {"altitude", no, no},
+         {"altitude", no},
          no,
          [](const OutputContext& /*context*/) {
              return std::optional(OutputValue()); // No package gives one.
          }},
-        field({"recDbfCol", no, "dbf_column"}, &QenRec::recDbfCol),
-        field({"id", "growerId", "grower_id"}, &QenGrower::id),
-        field({"id", "farmId", "farm_id"}, &QenFarm::id),
-        field({"growerId", no, no}, &QenFarm::growerId),
-        field({"id", "fieldId", "field_id"}, &QenField::id),
-        field({"growerId", no, no}, &QenField::growerId),
-        field({"farmId", no, no}, &QenField::farmId),
-        field({"id", no, "rec_id"}, &QenRec::id),
-        field({"fieldId", no, no}, &QenRec::fieldId),
-        field({"fieldGeometryId", no, "boundary_id"}, &QenRec::fieldGeometryId),
-        field({"recGeometry", no, "rec_geometry"}, &QenRec::recGeometry),
-        recField({"operationId", no, "operation_id"},
+        field({"recDbfCol", "dbf_column"}, &QenRec::recDbfCol),
+        field({"id", "grower_id"}, &QenGrower::id),
+        field({"id", "farm_id"}, &QenFarm::id),
+        field({"growerId", no}, &QenFarm::growerId),
+        field({"id", "field_id"}, &QenField::id),
+        field({"growerId", no}, &QenField::growerId),
+        field({"farmId", no}, &QenField::farmId),
+        field({"id", "rec_id"}, &QenRec::id),
+        field({"fieldId", no}, &QenRec::fieldId),
+        field({"fieldGeometryId", no}, &QenRec::fieldGeometryId),
+        field({"geometryId", "boundary_id"}, &QenFieldGeometry::geometryId),
+        field({"geometryDate", "boundary_date"}, &QenFieldGeometry::geometryDate),
+        field({"geometry", "boundary_file_id"}, &QenFieldGeometry::geometry),
+        field({"recGeometry", "rec_geometry"}, &QenRec::recGeometry),
+        recField({"operationId", "operation_id"},
                  [](QenRec& rec) { return optionalIdentifier(rec.operationId()); }),
-        recField({"mgmtZoneId", no, "zone_id"},
+        recField({"mgmtZoneId", "zone_id"},
                  [](QenRec& rec) { return optionalIdentifier(rec.mgmtZoneId()); }),
-        field({"isUsed", no, no}, &QenRec::isUsed),
-        field({"geometryId", "geometryId", no}, &QenFieldGeometry::geometryId),
-        field({"geometryDate", "geometryDate", no}, &QenFieldGeometry::geometryDate),
-        // A property "geometry" would be a second column of that name where properties and shapes
-        // become one table.
-        field({"geometry", "geometryFileId", no}, &QenFieldGeometry::geometry),
+        field({"isUsed", no}, &QenRec::isUsed),
     };
 }
 
 } // namespace
 
 std::optional<OutputValue> OutputField::value(const OutputContext& context) const {
+    if (!isAtHand(owner, context))
+        return std::nullopt;
     std::optional<OutputValue> value = read(context);
     if (value && number != nullptr && context.missing.contains(number))
         return OutputValue();
     return value;
 }
 
+OutputValue OutputField::cell(const OutputContext& context) const {
+    std::optional<OutputValue> value = this->value(context);
+    const auto* const text = value ? std::get_if<std::string>(&*value) : nullptr;
+    if (!value || (text != nullptr && text->empty()))
+        return {};
+    return *std::move(value);
+}
+
 const std::vector<OutputField>& outputFields() {
     static const std::vector<OutputField> fields = makeFields();
     return fields;
+}
+
+const std::vector<OutputField>& outputColumns() {
+    static const std::vector<OutputField> columns = [] {
+        std::vector<OutputField> result;
+        for (const OutputField& field : outputFields()) {
+            if (field.names.column != nullptr)
+                result.push_back(field);
+        }
+        return result;
+    }();
+    return columns;
 }

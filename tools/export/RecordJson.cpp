@@ -18,13 +18,12 @@ Json jsonValue(const OutputValue& value) {
     return std::visit(ToJson(), value);
 }
 
-void writeMembers(JsonWriter& writer, Owner owner, const OutputContext& context,
-                  const char* OutputNames::*name) {
+void writeMembers(JsonWriter& writer, Owner owner, const OutputContext& context) {
     for (const OutputField& field : outputFields()) {
-        if (field.owner != owner || field.names.*name == nullptr)
+        if (field.owner != owner || field.names.key == nullptr)
             continue;
         if (const std::optional<OutputValue> value = field.value(context))
-            writer.member(field.names.*name, jsonValue(*value));
+            writer.member(field.names.key, jsonValue(*value));
     }
 }
 

@@ -9,12 +9,8 @@
 
 nlohmann::ordered_json jsonValue(const OutputValue& value);
 
-/// Writes the fields of an owner as members of the object that is being written: in a tree, or of a
-/// feature.
-///
-/// @param name the name that they have there
-void writeMembers(JsonWriter& writer, Owner owner, const OutputContext& context,
-                  const char* OutputNames::*name = &OutputNames::key);
+/// Writes the fields of an owner as members of the object that is being written.
+void writeMembers(JsonWriter& writer, Owner owner, const OutputContext& context);
 
 /// Writes a centroid as such a member.
 void writeCentroid(JsonWriter& writer, const OutputContext& context);

@@ -1,5 +1,6 @@
 #include "tools/output/JsonWriter.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <iterator>
@@ -112,6 +113,16 @@ void JsonWriter::startLine() {
 void JsonWriter::flush() {
     sink_(text_);
     text_.clear();
+}
+
+void appendJson(std::string& json, std::string_view text) {
+    const bool isPlain = std::all_of(text.begin(), text.end(), [](char c) {
+        return c >= ' ' && c <= '~' && c != '"' && c != '\\';
+    });
+    if (isPlain)
+        json.append("\"").append(text).append("\"");
+    else
+        appendValue(json, jsonText(text));
 }
 
 nlohmann::ordered_json jsonText(std::string_view text) {

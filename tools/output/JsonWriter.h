@@ -46,6 +46,10 @@ private:
     bool empty_ = true; // the innermost object or array
 };
 
+/// Appends a text as a string of JSON in one line: with what is not seen escaped, and what is no
+/// valid UTF-8 replaced.
+void appendJson(std::string& json, std::string_view text);
+
 /// A text as JSON: what is no valid UTF-8 in it is replaced.
 nlohmann::ordered_json jsonText(std::string_view text);
 

@@ -1,6 +1,7 @@
 #include "tools/records/ProductText.h"
 
 #include <array>
+#include <initializer_list>
 
 #include <fmt/format.h>
 
@@ -33,16 +34,20 @@ KindName nameOf(PesticideRec& /*mix*/) {
     return {"pesticide mix", "pesticide"};
 }
 
-std::string productName(PlantingRec& planting) {
+std::string inOneName(std::initializer_list<std::string> parts) {
     std::string name;
-    for (const std::string& part : {textOrCode(planting.cropName(), planting.cropId()),
-                                    textOrCode(planting.companyName(), planting.companyId()),
-                                    textOrCode(planting.varietyName(), planting.varietyId())}) {
+    for (const std::string& part : parts) {
         if (!name.empty() && !part.empty())
             name += ", ";
         name += part;
     }
     return name;
+}
+
+std::string productName(PlantingRec& planting) {
+    return inOneName({textOrCode(planting.cropName(), planting.cropId()),
+                      textOrCode(planting.companyName(), planting.companyId()),
+                      textOrCode(planting.varietyName(), planting.varietyId())});
 }
 
 std::string productName(CommercialFertilizerRec& fertilizer) {
@@ -55,6 +60,19 @@ std::string productName(CustomFertilizerRec& blend) {
 
 std::string productName(PesticideRec& mix) {
     return mix.pesticideMixName();
+}
+
+std::string productTitle(PlantingRec& planting) {
+    return inOneName({planting.cropName(), planting.companyName(), planting.varietyName()});
+}
+
+std::string productTitle(CommercialFertilizerRec& fertilizer) {
+    return fertilizer.productName();
+}
+
+template <class Product>
+std::string productTitle(Product& product) {
+    return productName(product);
 }
 
 /// What is called with the product, if there is one.
@@ -85,6 +103,10 @@ std::string productKindKey(QenRecData* data) {
 
 std::string productName(QenRecData* data) {
     return visit<std::string>(data, [](auto& product) { return productName(product); });
+}
+
+std::string productTitle(QenRecData* data) {
+    return visit<std::string>(data, [](auto& product) { return productTitle(product); });
 }
 
 std::string blendContent(CustomFertilizerRec& blend, const MissingNumbers& missing) {

@@ -24,6 +24,9 @@ std::string productKindKey(QenRecData* data);
 /// What the product is called, such as "Corn, Quillmark Seed, QM 4417".
 std::string productName(QenRecData* data);
 
+/// As productName(), of names alone: "" rather than "code 7".
+std::string productTitle(QenRecData* data);
+
 /// "specific gravity 1.2; N 20%, K 5%"; of the numbers those that the package gives.
 std::string blendContent(CustomFertilizerRec& blend, const MissingNumbers& missing);
 

@@ -21,10 +21,10 @@ using test::RunResult;
 namespace {
 
 const std::string name = "aaaaaaaa-0000-4000-8000-000000000001.xml";
-const std::vector<std::vector<std::string>> commands = {{"export", "--format", "json"},
-                                                        {"export", "--format", "csv"},
-                                                        {"export", "--format", "geojson"},
-                                                        {"report"}};
+const std::vector<std::vector<std::string>> commands = {
+    {"export", "--format", "json"},    {"export", "--format", "csv"},
+    {"export", "--format", "geojson"}, {"report"},
+    {"export", "--format", "jsonl"},   {"export", "--format", "geojsonl"}};
 const std::vector<std::vector<std::string>> allCommands = {
     {"show"}, {"check"}, {"export", "--format", "json"}, {"report"}};
 
@@ -271,7 +271,8 @@ TEST_F(WritingCommand, LeavesNothingBehindWhenTheOutputIsTooLarge) {
     folder_.write("out", "old");
     RunOptions options;
     options.fileSize = 5000;
-    for (const std::vector<std::string>& command : {commands[0], commands[1], commands[3]}) {
+    for (const std::vector<std::string>& command :
+         {commands[0], commands[1], commands[3], commands[4]}) {
         const RunResult result = run(command, {"-o", "out", name}, options);
         EXPECT_EQ(result.errors, "qenxml: out: cannot be written: File too large\n");
         EXPECT_EQ(result.exitCode, 1);
@@ -282,7 +283,7 @@ TEST_F(WritingCommand, LeavesNothingBehindWhenTheOutputIsTooLarge) {
 
 TEST_F(WritingCommand, TakesTheNameOfAFormatInAnyCase) {
     folder_.write(name, package);
-    for (const std::string format : {"csv", "json", "geojson"}) {
+    for (const std::string format : {"csv", "json", "jsonl", "geojson", "geojsonl"}) {
         std::string capitals = format;
         std::transform(format.begin(), format.end(), capitals.begin(),
                        [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
