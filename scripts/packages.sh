@@ -1,7 +1,7 @@
 # Sourced by the other scripts: installs what they need from Debian.
 
 # Debian packages per purpose.
-libraries_run="libpugixml-dev libboost-dev libboost-system-dev libcli11-dev libexpat1-dev libfmt-dev nlohmann-json3-dev"
+libraries_run="libpugixml-dev libboost-dev libboost-system-dev libcli11-dev libexpat1-dev libfmt-dev libxlsxwriter-dev nlohmann-json3-dev"
 libraries_test="$libraries_run libgtest-dev librapidcheck-dev"
 packages_run="g++ cmake ninja-build $libraries_run"
 packages_test="$packages_run $libraries_test binutils libxml2-utils pkgconf python3-jsonschema tidy mandoc git xz-utils zsh fish"
@@ -10,6 +10,7 @@ packages_reference="$packages_run doxygen"
 packages_check="$packages_test $packages_reference clang clang-tidy clang-format libclang-rt-14-dev cppcheck valgrind gcovr"
 packages_full_check="$packages_test clang"
 packages_gis="$packages_run gdal-bin python3-geopandas"
+packages_xlsx="$packages_run libreoffice-calc-nogui"
 packages_sarif="$packages_run python3-jsonschema"
 packages_web="cmake ninja-build emscripten node-acorn dpkg-dev"
 headers_web="libboost-dev libcli11-dev nlohmann-json3-dev" # of libraries that need no compiling

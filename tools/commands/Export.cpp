@@ -23,16 +23,17 @@
 #include "tools/records/MergedGrowers.h"
 #include "tools/text/Escape.h"
 #include "tools/text/Words.h"
+#include "tools/workbook/ExportXlsx.h"
 
 namespace {
 
 constexpr const char* examples =
-    "  qenxml export --format csv -o recs.csv season/                for a spreadsheet\n"
-    "  qenxml export --format csv --delimiter \";\" --decimal \",\" season/   where 1.5 is 1,5\n"
-    "  qenxml export --format geojson --merge -o map.geojson season/  for a map\n"
+    "  qenxml export --format csv -o recs.csv season/         for a spreadsheet\n"
+    "  qenxml export --format geojson --merge -o map.geojson season/   for a map\n"
     "  qenxml export --format json 00112233-4455-6677-8899-aabbccddeeff.xml | jq .packages[0]\n";
 
 constexpr const char* csv = "csv";
+constexpr const char* xlsx = "xlsx";
 
 struct Format {
     const char* name;
@@ -51,7 +52,8 @@ constexpr std::array formats = {Format{"json", "JSON", plain<makeJsonExport>},
                                 Format{"jsonl", nullptr, plain<makeJsonLinesExport>},
                                 Format{csv, "CSV", makeCsvExport},
                                 Format{"geojson", "GeoJSON", plain<makeGeoJsonExport>},
-                                Format{"geojsonl", nullptr, plain<makeGeoJsonSequenceExport>}};
+                                Format{"geojsonl", nullptr, plain<makeGeoJsonSequenceExport>},
+                                Format{xlsx, "XLSX", plain<makeXlsxExport>}};
 
 /// The characters between cells that people may want, and what they are called.
 constexpr std::array<std::pair<const char*, char>, 4> delimiters = {
@@ -102,6 +104,9 @@ TableLayout layoutOf(const ExportOptions& options) {
 ExitCode exportPackages(const ExportOptions& options, Console& console) {
     if (options.hasLayout && options.format != csv)
         throw CLI::ValidationError("--delimiter, --decimal and --no-bom are for the format csv");
+    if (options.format == xlsx && options.packages.output.empty() && console.isTerminal())
+        throw CLI::ValidationError("a workbook is nothing for a terminal; name a file for it, such "
+                                   "as \"-o recs.xlsx\"");
     PackageNames names(options.packages, console);
     Output output(options.packages.output, console);
     const auto format =
@@ -111,7 +116,8 @@ ExitCode exportPackages(const ExportOptions& options, Console& console) {
     bool anyRead = false;
     format->begin(options.merge);
     names.forEach([&](const PackageInput& input) {
-        PackageReading reading = readAndComplain(input, "exported", console);
+        PackageReading reading =
+            readAndComplain(input, "exported", console, format->findings(input.name()));
         anyRead = anyRead || !isLost(reading);
         exportPackage(reading, options.merge, *format, merged, console);
         return !reading.failure;
@@ -129,15 +135,17 @@ ExitCode exportPackages(const ExportOptions& options, Console& console) {
 
 void addLayoutOptions(CLI::App& parser, const std::shared_ptr<ExportOptions>& options) {
     std::vector<std::string> names;
-    names.reserve(delimiters.size());
-    for (const auto& delimiter : delimiters)
+    std::string list;
+    for (const auto& delimiter : delimiters) {
         names.emplace_back(delimiter.first);
+        list += " " + names.back();
+    }
     const std::vector<CLI::Option*> added = {
         addChoice(parser, "--delimiter", options->delimiter, names,
-                  "What separates the cells of CSV: \"" + joined(names, "\" or \"") + "\"")
+                  "What separates the cells of CSV, one of" + list)
             ->option_text("CHARACTER"),
         addChoice(parser, "--decimal", options->decimal, {".", ","},
-                  "What comes before the decimals of numbers in CSV: \".\" or \",\"")
+                  "What comes before the decimals of numbers in CSV: . or ,")
             ->option_text("CHARACTER"),
         parser.add_flag("--no-bom", options->withoutMark, "Begin CSV without a byte-order mark")
             ->option_text(" ")};

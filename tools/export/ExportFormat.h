@@ -18,6 +18,11 @@ public:
     /// @param merged whether the growers of all packages come together, after the packages
     virtual void begin(bool merged) = 0;
 
+    /// Takes what is wrong with the next package; null when the format has no place for that.
+    ///
+    /// @param file what the file of the package is called
+    virtual FindingSink* findings(const std::string& /*file*/) { return nullptr; }
+
     /// A package with its growers, or without them when they come later.
     ///
     /// @return what the reader should know about it, safe to print; mostly nothing

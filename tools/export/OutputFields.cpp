@@ -125,6 +125,11 @@ OutputField anyProductField(OutputNames names, OutputValue (*read)(QenRecData&))
             }};
 }
 
+OutputField date(OutputField field) {
+    field.isDate = true;
+    return field;
+}
+
 /// The field with its integers as texts.
 OutputField asText(OutputField field) {
     field.read = [read = field.read](const OutputContext& context) {
@@ -199,8 +204,8 @@ std::vector<OutputField> makeFields() {
                 return rec.seasonId() == -1 ? OutputValue() : OutputValue(rec.seasonId());
             },
             tag::SeasonID),
-        field({"creationDate", "created"}, &QenRec::creationDate),
-        field({"editDate", "edited"}, &QenRec::editDate),
+        date(field({"creationDate", "created"}, &QenRec::creationDate)),
+        date(field({"editDate", "edited"}, &QenRec::editDate)),
         anyProductField({"kind", no},
                         [](QenRecData& data) { return OutputValue(productKindKey(&data)); }),
         anyProductField({no, "product_kind"},
@@ -275,7 +280,7 @@ std::vector<OutputField> makeFields() {
         field({"fieldId", no}, &QenRec::fieldId),
         field({"fieldGeometryId", no}, &QenRec::fieldGeometryId),
         field({"geometryId", "boundary_id"}, &QenFieldGeometry::geometryId),
-        field({"geometryDate", "boundary_date"}, &QenFieldGeometry::geometryDate),
+        date(field({"geometryDate", "boundary_date"}, &QenFieldGeometry::geometryDate)),
         field({"geometry", "boundary_file_id"}, &QenFieldGeometry::geometry),
         field({"recGeometry", "rec_geometry"}, &QenRec::recGeometry),
         recField({"operationId", "operation_id"},

@@ -51,6 +51,7 @@ struct OutputField {
     /// Of the number: "%", or the key of the field of the same owner that says it in words, with
     /// "Id" that of its code; null where it has none.
     const char* unit = nullptr;
+    bool isDate = false; ///< Whether it is a text that mostly says a date.
 
     /// As @ref read, with nothing for a number that is missing, and none where the record is not at
     /// hand.

@@ -11,14 +11,10 @@
 #include <unistd.h>
 
 #include "tools/files/FileContent.h"
+#include "tools/files/TemporaryFolder.h"
 #include "tools/text/Escape.h"
 
 namespace {
-
-std::string temporaryFolder() {
-    const char* const folder = std::getenv("TMPDIR"); // NOLINT(concurrency-mt-unsafe): one thread
-    return folder == nullptr || *folder == '\0' ? "/tmp" : folder;
-}
 
 /// In words, why no copy could be made.
 std::string describeCopyError(int error) {

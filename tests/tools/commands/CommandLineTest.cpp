@@ -186,7 +186,7 @@ TEST_F(BracketedNames, AreShownAsTheyAreGivenInMessages) {
     EXPECT_EQ(run({"explain", "[x]"}).errors,
               "qenxml: CODE: \"[x]\" is no code of a finding; try \"qenxml explain --help\"\n");
     EXPECT_EQ(run({"export", "--format", "[csv]", "a"}).errors,
-              "qenxml: --format: [csv] not in {json,jsonl,csv,geojson,geojsonl}; "
+              "qenxml: --format: [csv] not in {json,jsonl,csv,geojson,geojsonl,xlsx}; "
               "try \"qenxml export --help\"\n");
 }
 

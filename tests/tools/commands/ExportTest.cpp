@@ -283,7 +283,7 @@ TEST_F(WritingCommand, LeavesNothingBehindWhenTheOutputIsTooLarge) {
 
 TEST_F(WritingCommand, TakesTheNameOfAFormatInAnyCase) {
     folder_.write(name, package);
-    for (const std::string format : {"csv", "json", "jsonl", "geojson", "geojsonl"}) {
+    for (const std::string format : {"csv", "json", "jsonl", "geojson", "geojsonl", "xlsx"}) {
         std::string capitals = format;
         std::transform(format.begin(), format.end(), capitals.begin(),
                        [](unsigned char c) { return static_cast<char>(std::toupper(c)); });

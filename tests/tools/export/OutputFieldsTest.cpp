@@ -351,7 +351,7 @@ TEST(OutputFields, AreThoseOfTheSchema) {
 
 TEST(OutputFields, AreThoseOfTheSchemaOfRows) {
     const auto schema =
-        nlohmann::json::parse(test::contentOf(QENXML_SOURCE_DIR "/docs/recs.schema.json"));
+        nlohmann::json::parse(test::contentOf(test::inSources("docs/recs.schema.json")));
     std::set<std::string> columns;
     for (const OutputField& column : outputColumns())
         columns.insert(column.names.column);

@@ -1,0 +1,198 @@
+#include "tools/workbook/Workbook.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <new>
+#include <optional>
+#include <stdexcept>
+#include <system_error>
+#include <utility>
+#include <variant>
+
+#include <fmt/format.h>
+#include <unistd.h>
+#include <xlsxwriter.h>
+
+#include "tools/files/Descriptor.h"
+#include "tools/files/TemporaryFolder.h"
+#include "tools/text/NumberText.h"
+#include "tools/text/Utf8.h"
+#include "tools/workbook/CellDate.h"
+
+namespace {
+
+/// Every workbook says when it was made. The same packages shall give the same file, so it says the
+/// first second that its archive can hold.
+constexpr time_t made = 315'532'800; // 1980-01-01
+
+[[noreturn]] void fail(const std::string& reason) {
+    throw std::runtime_error("the workbook cannot be made: " + reason);
+}
+
+/// Makes a file of another name than all others have.
+bool makeFile(std::string& name) {
+    return static_cast<bool>(Descriptor(mkstemp(name.data())));
+}
+
+bool isOfXml(const Utf8Character& character) {
+    const char32_t c = character.codePoint;
+    const bool isControl = (c < 0x20 && c != '\t' && c != '\n') || (c >= 0x7F && c <= 0x9F);
+    return character.valid && !isControl && (c & 0xFFFEU) != 0xFFFE;
+}
+
+/// Whether a text begins with what spreadsheets take for a character: "_x0041_".
+bool beginsAsEscape(std::string_view text) {
+    constexpr std::size_t length = 7;
+    const auto isDigit = [](char c) {
+        return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'F') || (c >= 'a' && c <= 'f');
+    };
+    return text.size() >= length && text.substr(0, 2) == "_x" && text[length - 1] == '_' &&
+           std::all_of(text.begin() + 2, text.begin() + length - 1, isDigit);
+}
+
+/// Writes a cell.
+struct WriteCell {
+    lxw_worksheet* sheet;
+    lxw_row_t row;
+    lxw_col_t column;
+    lxw_format* day; ///< Null for a text that says no date.
+    lxw_format* time;
+
+    void operator()(std::monostate /*none*/) const {}
+    void operator()(bool value) const {
+        worksheet_write_boolean(sheet, row, column, value ? 1 : 0, nullptr);
+    }
+    void operator()(int number) const {
+        worksheet_write_number(sheet, row, column, number, nullptr);
+    }
+    void operator()(double number) const {
+        if (std::isfinite(number))
+            worksheet_write_number(sheet, row, column, number, nullptr);
+        else
+            (*this)(numberText(number));
+    }
+    void operator()(const std::string& text) const {
+        const std::optional<CellDate> date = day == nullptr ? std::nullopt : cellDate(text);
+        if (!date) {
+            worksheet_write_string(sheet, row, column, workbookText(text).c_str(), nullptr);
+            return;
+        }
+        lxw_datetime value{date->day.year, date->day.month, date->day.day,
+                           date->hour,     date->minute,    static_cast<double>(date->second)};
+        worksheet_write_datetime(sheet, row, column, &value, date->hasTime ? time : day);
+    }
+};
+
+} // namespace
+
+void Workbook::Close::operator()(lxw_workbook* workbook) const {
+    lxw_workbook_free(workbook);
+}
+
+Workbook::Workbook(std::size_t rowsPerSheet)
+    : file_(temporaryFolder() + "/qenxml-XXXXXX"),
+      rowsPerSheet_(rowsPerSheet),
+      folder_(temporaryFolder()) {
+    if (!file_.make(makeFile))
+        fail(fmt::format("{}: {}", folder_, std::generic_category().message(errno)));
+    lxw_workbook_options options = {};
+    options.constant_memory = LXW_TRUE;
+    options.tmpdir = folder_.data();
+    workbook_.reset(workbook_new_opt(file_.name().c_str(), &options));
+    if (!workbook_)
+        throw std::bad_alloc();
+    lxw_doc_properties properties = {};
+    properties.created = made;
+    workbook_set_properties(workbook_.get(), &properties);
+    title_ = workbook_add_format(workbook_.get());
+    format_set_bold(title_);
+    day_ = workbook_add_format(workbook_.get());
+    format_set_num_format(day_, "yyyy-mm-dd");
+    time_ = workbook_add_format(workbook_.get());
+    format_set_num_format(time_, "yyyy-mm-dd hh:mm:ss");
+}
+
+std::size_t Workbook::addTable(std::string name, std::vector<std::string> titles) {
+    tables_.push_back({std::move(name), std::move(titles)});
+    addSheet(tables_.back());
+    return tables_.size() - 1;
+}
+
+void Workbook::addRow(std::size_t table, const std::vector<WorkbookCell>& cells) {
+    Table& rows = tables_.at(table);
+    if (rows.row == rowsPerSheet_) {
+        endSheet(rows);
+        addSheet(rows);
+    }
+    lxw_col_t column = 0;
+    for (const WorkbookCell& cell : cells)
+        std::visit(WriteCell{rows.sheet, static_cast<lxw_row_t>(rows.row), column++,
+                             cell.isDate ? day_ : nullptr, time_},
+                   cell.value);
+    ++rows.row;
+}
+
+void Workbook::addSheet(Table& table) {
+    ++table.sheets;
+    const std::string name =
+        table.name + (table.sheets == 1 ? "" : " " + std::to_string(table.sheets));
+    table.sheet = workbook_add_worksheet(workbook_.get(), name.c_str());
+    if (table.sheet == nullptr)
+        throw std::bad_alloc();
+    worksheet_freeze_panes(table.sheet, 1, 0);
+    constexpr double width = 14; // characters
+    worksheet_set_column(table.sheet, 0, static_cast<lxw_col_t>(table.titles.size() - 1), width,
+                         nullptr);
+    lxw_col_t column = 0;
+    for (const std::string& title : table.titles)
+        worksheet_write_string(table.sheet, 0, column++, title.c_str(), title_);
+    table.row = 1;
+}
+
+void Workbook::endSheet(Table& table) {
+    worksheet_autofilter(table.sheet, 0, 0, static_cast<lxw_row_t>(table.row - 1),
+                         static_cast<lxw_col_t>(table.titles.size() - 1));
+}
+
+void Workbook::finish(const TextSink& sink) {
+    for (Table& table : tables_)
+        endSheet(table);
+    const lxw_error error = workbook_close(workbook_.release());
+    if (error != LXW_NO_ERROR)
+        fail(lxw_strerror(error));
+    struct CloseFile {
+        void operator()(std::FILE* stream) const { std::fclose(stream); }
+    };
+    const std::unique_ptr<std::FILE, CloseFile> stream(std::fopen(file_.name().c_str(), "re"));
+    if (!stream)
+        fail(std::generic_category().message(errno));
+    constexpr std::size_t blockSize = 65536;
+    std::array<char, blockSize> block{};
+    while (const std::size_t size = std::fread(block.data(), 1, block.size(), stream.get()))
+        sink({block.data(), size});
+}
+
+std::string workbookText(std::string_view text) {
+    constexpr std::size_t mostUnits = 32'767; // of UTF-16
+    constexpr char32_t firstOfPairs = 0x10000;
+    std::string result;
+    std::size_t units = 0;
+    while (!text.empty()) {
+        const Utf8Character character = firstCharacter(text);
+        units += character.codePoint < firstOfPairs ? 1 : 2;
+        if (units > mostUnits)
+            break;
+        if (beginsAsEscape(text))
+            result += "_x005F";
+        if (isOfXml(character))
+            result += text.substr(0, character.length);
+        else
+            appendUtf8(result, 0xFFFD);
+        text.remove_prefix(character.length);
+    }
+    return result;
+}
