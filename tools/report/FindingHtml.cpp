@@ -15,6 +15,16 @@ std::string consequenceHtml(const Finding& finding) {
     return fmt::format("<p>Consequence: {}</p>\n", htmlOfEscaped(consequenceText(finding)));
 }
 
+std::string surroundingsHtml(const Finding& finding) {
+    std::string text;
+    if (const std::string records = recordsText(finding); !records.empty())
+        text += fmt::format("<p>In: <bdi>{}</bdi></p>\n", htmlOfEscaped(records));
+    if (!finding.path.empty())
+        text +=
+            fmt::format("<p class=\"quiet\"><code>{}</code></p>\n", htmlOfEscaped(finding.path));
+    return text;
+}
+
 std::string placeHtml(const ReportData& data, const ReportPackage& package,
                       const std::optional<Finding>& finding) {
     std::string file = fmt::format("<strong>{}</strong>", htmlName(data.fileName(package)));

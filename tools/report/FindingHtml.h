@@ -16,6 +16,9 @@ std::string cureHtml(FindingCode code);
 /// What comes of a finding.
 std::string consequenceHtml(const Finding& finding);
 
+/// The records that a finding stands in, and its path.
+std::string surroundingsHtml(const Finding& finding);
+
 /// The name of the file and the place in it; of a report about one package the place alone.
 ///
 /// @param finding its place; none for the file

@@ -73,7 +73,8 @@ void ReportFailures::writeGroup(const Packages& packages) const {
 void ReportFailures::write(const ReportPackage& package) const {
     const std::string reason =
         package.error ? htmlOfEscaped(package.error->found) : html(package.failure->reason);
-    sink_(fmt::format("<li class=\"error\"><p>{}: {}</p>\n{}</li>\n",
+    sink_(fmt::format("<li class=\"error\"><p>{}: {}</p>\n{}{}</li>\n",
                       placeHtml(data_, package, package.error), reason,
-                      package.error && !isLost(package) ? consequenceHtml(*package.error) : ""));
+                      package.error && !isLost(package) ? consequenceHtml(*package.error) : "",
+                      package.error ? surroundingsHtml(*package.error) : ""));
 }

@@ -1,6 +1,8 @@
 #ifndef QENXML_TOOLS_REPORT_REPORTFINDINGS_H
 #define QENXML_TOOLS_REPORT_REPORTFINDINGS_H
 
+#include <cstddef>
+
 #include "tools/output/Output.h"
 #include "tools/report/ReportData.h"
 
@@ -14,7 +16,9 @@ public:
 private:
     void write(FindingCode code) const;
     void write(const PackageFinding& found) const;
-    void writeMore(const FindingGroup& group) const;
+    /// @param more     how many there are besides
+    /// @param packages in how many packages; 0 where that is not known
+    void writeMore(std::size_t more, std::size_t packages) const;
 
     const ReportData& data_;
     const TextSink& sink_;

@@ -25,7 +25,8 @@ TEST(ReportFindings, StandByCodeTheWorstFirst) {
     ReportData data;
     test::add(data, readingOf("a.xml", {}),
               {{FindingCode::EmptyName, "third", Kept{}},
-               {FindingCode::RecId, "first", ReadingEnds{0}},
+               {FindingCode::GrowerId, "named elsewhere", ReadingEnds{0}},
+               {FindingCode::RecId, "first", NotReached{1, 1, true}},
                {FindingCode::NotANumber, "second", ReadAs{"0"}}});
     const std::string section = sectionOf(data);
     const auto first =
@@ -33,6 +34,9 @@ TEST(ReportFindings, StandByCodeTheWorstFirst) {
                      "readable identifier <span class=\"quiet\">[rec-id]</span></h3>");
     const auto second = section.find("<h3 class=\"warning\"><strong>Warning</strong>");
     const auto third = section.find("<h3 class=\"note\"><strong>Note</strong>");
+    EXPECT_FALSE(contains(section, "named elsewhere"));
+    EXPECT_FALSE(contains(section, "grower-id"));
+    EXPECT_TRUE(contains(section, "<a href=\"#failures\">"));
     EXPECT_LT(first, section.find("first</p>"));
     EXPECT_LT(section.find("first</p>"), second);
     EXPECT_LT(section.find("second</p>\n<p>Consequence: it is read as 0</p>"), third);
@@ -57,6 +61,17 @@ TEST(ReportFindings, HaveTheirPlaceAndWhatToDoOncePerCode) {
     const std::string two = sectionOf(data);
     EXPECT_TRUE(contains(two, "<p><strong><bdi>b.xml</bdi></strong>, line 34, column 11: "));
     EXPECT_EQ(occurrences(two, "What to do"), 1U);
+}
+
+TEST(ReportFindings, LeaveOutTheErrorThatEndsReadingAndCountTheOthers) {
+    ReportData data;
+    std::vector<Finding> errors(1, {FindingCode::RecId, "the first", ReadingEnds{0}});
+    errors.resize(15, {FindingCode::RecId, "another", NotReached{1, 1, true}});
+    test::add(data, readingOf("a.xml", {}), errors);
+    const std::string section = sectionOf(data);
+    EXPECT_FALSE(contains(section, "the first"));
+    EXPECT_EQ(occurrences(section, "<li"), 9U);
+    EXPECT_TRUE(contains(section, "<p>And 5 more; <code>"));
 }
 
 TEST(ReportFindings, AreCountedBeyondTheFirstTenOfACode) {
