@@ -3,25 +3,32 @@
 #include <cerrno>
 #include <cstddef>
 #include <system_error>
+#include <utility>
 
 #include <fcntl.h>
 #include <fmt/format.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "tools/files/Descriptor.h"
-
-FileContent readFileContent(const std::string& path) {
+OpenFile openRegularFile(const std::string& path) {
+    const auto failed = [](std::string why) { return OpenFile{Descriptor(), 0, std::move(why)}; };
     // Without O_NONBLOCK, opening a named pipe would wait for somebody to write to it.
-    const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status = {};
     if (!file || fstat(file.number(), &status) != 0)
-        return {"", describeFileError(errno)};
+        return failed(describeFileError(errno));
     if (S_ISDIR(status.st_mode))
-        return {"", describeFileError(EISDIR)};
+        return failed(describeFileError(EISDIR));
     if (!S_ISREG(status.st_mode))
-        return {"", "is not a regular file"};
-    return readDescriptor(file.number(), static_cast<std::size_t>(status.st_size));
+        return failed("is not a regular file");
+    return {std::move(file), static_cast<std::size_t>(status.st_size), ""};
+}
+
+FileContent readFileContent(const std::string& path) {
+    const OpenFile opened = openRegularFile(path);
+    if (!opened.failure.empty())
+        return {"", opened.failure};
+    return readDescriptor(opened.file.number(), opened.size);
 }
 
 FileContent readDescriptor(int file, std::size_t size) {

@@ -2,14 +2,14 @@
 
 #include <array>
 #include <charconv>
-#include <new>
+#include <istream>
 #include <stdexcept>
 #include <string_view>
 
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
 
-#include "tools/files/FileContent.h"
+#include "tools/files/FileStream.h"
 #include "tools/findings/Fingerprint.h"
 #include "tools/text/Escape.h"
 
@@ -103,11 +103,13 @@ private:
 } // namespace
 
 Baseline::Baseline(const std::string& path) {
-    const FileContent content = readFileContent(path);
-    if (!content.failure.empty())
-        throw std::invalid_argument(fmt::format("{}: {}", escape(path), content.failure));
+    FileStream file(path);
+    std::istream stream(&file);
     FingerprintReader reader(counts_);
-    if (!nlohmann::json::sax_parse(content.bytes, &reader))
+    const bool isJson = file.failure().empty() && nlohmann::json::sax_parse(stream, &reader);
+    if (!file.failure().empty())
+        throw std::invalid_argument(fmt::format("{}: {}", escape(path), file.failure()));
+    if (!isJson)
         throw std::invalid_argument(fmt::format("{} is no JSON", escape(path)));
     if (!reader.isComplete())
         throw std::invalid_argument(

@@ -7,6 +7,7 @@
 
 #include "tools/findings/FindingJson.h"
 #include "tools/findings/FindingStatistics.h"
+#include "tools/findings/Fingerprint.h"
 #include "tools/text/Escape.h"
 
 namespace {
@@ -18,9 +19,12 @@ public:
 
     bool wants(FindingCode) const override { return true; }
     void add(const Finding& finding) override {
-        console_.print(fmt::format("{}\n    {}", counts_.sum() == 0 ? "" : ",", toJson(finding)));
+        console_.print(fmt::format("{}\n    {}", counts_.sum() == 0 ? "" : ",",
+                                   toJson(finding, fingerprints_.next(finding))));
         counts_.add(finding.code);
     }
+
+    void begin(const std::string& path) { fingerprints_ = FingerprintTexts(path); }
 
     /// Of those since the last call.
     FindingCounts takeCounts() { return std::exchange(counts_, {}); }
@@ -28,6 +32,7 @@ public:
 private:
     Console& console_;
     FindingCounts counts_;
+    FingerprintTexts fingerprints_;
 };
 
 std::string countsJson(const FindingCounts& counts) {
@@ -54,6 +59,7 @@ public:
 
     FindingSink& beginFile(const std::string& path) override {
         path_ = escape(path);
+        file_.begin(path);
         console_.print(fmt::format("{}\n  {{\"file\": {}, \"findings\": [",
                                    statistics_.files() == 0 ? "" : ",", toJson(path_)));
         return file_;
@@ -80,6 +86,6 @@ private:
 
 } // namespace
 
-std::unique_ptr<CheckWriter> makeCheckJson(Console& console, const CheckExtent& /*extent*/) {
+std::unique_ptr<CheckWriter> makeCheckJson(Console& console, const CheckScope& /*scope*/) {
     return std::make_unique<CheckJson>(console);
 }

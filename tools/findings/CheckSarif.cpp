@@ -1,8 +1,6 @@
 #include "tools/findings/CheckSarif.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <map>
 #include <string>
 #include <vector>
 
@@ -30,9 +28,8 @@ public:
     }
 
     FindingSink& beginFile(const std::string& path) override {
-        path_ = path;
         uri_ = uriOfPath(path);
-        equal_.clear();
+        fingerprints_ = FingerprintTexts(path);
         return *this;
     }
 
@@ -54,15 +51,12 @@ public:
     bool wants(FindingCode) const override { return true; }
     void add(const Finding& finding) override {
         console_.print(rules_.empty() ? "\n  " : ",\n  ");
-        const SarifPlace place{ruleOf(finding.code), uri_, fingerprint(finding)};
+        const SarifPlace place{ruleOf(finding.code), uri_, fingerprints_.next(finding)};
         console_.print(toSarif(finding, place));
         allRead_ = allRead_ && finding.code != FindingCode::Unreadable;
     }
 
 private:
-    /// Of how many different findings of a file equal ones are counted; the others are number 1.
-    static constexpr std::size_t mostCounted = 100000;
-
     std::size_t ruleOf(FindingCode code) {
         const auto rule = std::find(rules_.begin(), rules_.end(), code);
         const auto index = static_cast<std::size_t>(rule - rules_.begin());
@@ -71,24 +65,15 @@ private:
         return index;
     }
 
-    std::string fingerprint(const Finding& finding) {
-        const std::uint64_t fingerprint = fingerprintOf(finding, path_);
-        std::size_t number = 1;
-        if (equal_.size() < mostCounted || equal_.count(fingerprint) > 0)
-            number = ++equal_[fingerprint];
-        return fmt::format("{:016x}:{}", fingerprint, number);
-    }
-
     Console& console_;
-    std::string path_;
     std::string uri_;
-    std::map<std::uint64_t, std::size_t> equal_; ///< Findings of the file, by fingerprint.
-    std::vector<FindingCode> rules_;             ///< Those of the findings so far.
+    FingerprintTexts fingerprints_;
+    std::vector<FindingCode> rules_; ///< Those of the findings so far.
     bool allRead_ = true;
 };
 
 } // namespace
 
-std::unique_ptr<CheckWriter> makeCheckSarif(Console& console, const CheckExtent& /*extent*/) {
+std::unique_ptr<CheckWriter> makeCheckSarif(Console& console, const CheckScope& /*scope*/) {
     return std::make_unique<CheckSarif>(console);
 }

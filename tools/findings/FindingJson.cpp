@@ -66,7 +66,7 @@ std::string recordJson(const RecordName& record) {
 
 } // namespace
 
-std::string toJson(const Finding& finding) {
+std::string toJson(const Finding& finding, const std::string& fingerprint) {
     std::string json = fmt::format(R"({{"code":"{}","severity":"{}")", kindOf(finding.code).code,
                                    wordFor(finding.severity()));
     if (finding.location)
@@ -74,9 +74,10 @@ std::string toJson(const Finding& finding) {
     json += fmt::format(R"(,"path":{},"records":[)", toJson(finding.path));
     for (const RecordName& record : finding.records)
         json += (&record == &finding.records.front() ? "" : ",") + recordJson(record);
-    json += fmt::format(R"(],"found":{},"consequence":{{"kind":{},"text":{}}}}})",
-                        toJson(finding.found), std::visit(Members(), finding.consequence),
-                        toJson(consequenceText(finding)));
+    json +=
+        fmt::format(R"(],"found":{},"consequence":{{"kind":{},"text":{}}},"fingerprint":"{}"}})",
+                    toJson(finding.found), std::visit(Members(), finding.consequence),
+                    toJson(consequenceText(finding)), fingerprint);
     return json;
 }
 

@@ -6,7 +6,9 @@
 #include "tools/check/Finding.h"
 
 /// A finding as a JSON object, as docs/findings.schema.json describes it.
-std::string toJson(const Finding& finding);
+///
+/// @param fingerprint as FingerprintTexts gives it
+std::string toJson(const Finding& finding, const std::string& fingerprint);
 
 /// A text as a JSON string.
 ///

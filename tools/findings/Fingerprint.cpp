@@ -4,6 +4,7 @@
 #include <array>
 
 #include <boost/uuid/uuid_io.hpp>
+#include <fmt/format.h>
 
 #include "tools/text/Fnv1a.h"
 
@@ -41,4 +42,12 @@ std::uint64_t fingerprintOf(const Finding& finding, std::string_view path) {
     addWithoutPlaces(hash, finding.path);
     addWithoutPlaces(hash, finding.found);
     return hash.value();
+}
+
+std::string FingerprintTexts::next(const Finding& finding) {
+    const std::uint64_t fingerprint = fingerprintOf(finding, path_);
+    std::size_t number = 1;
+    if (equal_.size() < mostCounted || equal_.count(fingerprint) > 0)
+        number = ++equal_[fingerprint];
+    return fmt::format("{:016x}:{}", fingerprint, number);
 }

@@ -37,7 +37,7 @@ const std::vector<CommandWithConsequence> commands = {
     {{"check", "--json"},
      "\"found\":\"",
      "\",\"consequence\":{\"kind\":\"nothing-read\",\"text\":\"nothing of the file is "
-     "read\"}}],\n   \"errors\": 1, "},
+     "read\"},\"fingerprint\":\""},
 };
 
 class StandardInput : public testing::Test {
