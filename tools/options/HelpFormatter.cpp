@@ -3,6 +3,21 @@
 #include <cstddef>
 #include <utility>
 
+namespace {
+
+/// An option whose name fills its column leaves blanks behind it.
+std::string withoutBlanksAtEnds(const std::string& text) {
+    std::string result;
+    for (const char c : text) {
+        if (c == '\n')
+            result.erase(result.find_last_not_of(' ') + 1);
+        result += c;
+    }
+    return result;
+}
+
+} // namespace
+
 HelpFormatter::HelpFormatter(std::string examples) : examples_(std::move(examples)) {
     constexpr std::size_t columnWidth = 16;
     column_width(columnWidth);
@@ -21,5 +36,6 @@ std::string HelpFormatter::make_usage(const CLI::App* app, std::string name) con
 
 std::string HelpFormatter::make_help(const CLI::App* app, std::string name,
                                      CLI::AppFormatMode mode) const {
-    return "Examples:\n" + examples_ + "\n" + CLI::Formatter::make_help(app, std::move(name), mode);
+    return withoutBlanksAtEnds("Examples:\n" + examples_ + "\n" +
+                               CLI::Formatter::make_help(app, std::move(name), mode));
 }
