@@ -1,27 +1,18 @@
 #include "tools/files/PackageUuid.h"
 
+#include <cstddef>
 #include <locale>
-#include <new>
-#include <stdexcept>
 
 #include <boost/algorithm/string/predicate.hpp>
 #include <boost/uuid/uuid_io.hpp>
-#include <pugixml.hpp>
 
-#include "parser/QenXmlParser.h"
-#include "parser/internal/TagConstants.h"
+#include "parser/internal/Identifier.h"
 
 std::optional<boost::uuids::uuid> uuidOf(const std::string& text) {
-    // The library converts identifiers only while it reads an element, so it gets one to read.
-    pugi::xml_document document;
-    pugi::xml_node grower = document.append_child(qenxml::tag::Grower);
-    if (!grower.append_attribute(qenxml::tag::GrowerID).set_value(text.c_str()))
-        throw std::bad_alloc(); // Nothing else fails here.
-    try {
-        return QenXmlParser().parseGrowerNode(grower).id();
-    } catch (const std::runtime_error&) {
-        return std::nullopt;
-    }
+    const auto identifier = qenxml::explainIdentifier(text, [](std::size_t) {});
+    return identifier.fault == qenxml::ExplainedIdentifier::Fault::None
+               ? std::optional(identifier.value)
+               : std::nullopt;
 }
 
 namespace {
