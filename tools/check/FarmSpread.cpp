@@ -55,7 +55,8 @@ double kilometres(const Point& a, const Point& b) {
 /// Whether all places lie so close together that none is far from others. Most farms are like that,
 /// and cost no more.
 bool areTogether(const std::vector<Place>& places) {
-    constexpr double degrees = 1.2; // both ways, which is less than 200 km from corner to corner
+    // Both ways, which is less from corner to corner than any distance that is far.
+    constexpr double degrees = plausible::farFromCluster / 160;
     const auto isBelow = [](double Place::*coordinate) {
         return
             [coordinate](const Place& a, const Place& b) { return a.*coordinate < b.*coordinate; };
@@ -162,6 +163,11 @@ std::optional<FarmSpread::Stray> FarmSpread::strayOf(pugi::xml_node fieldCentroi
     }
     const bool ofTwo = count_ == 2;
     const double distance = kilometres(pointOf(place), others_);
+    const bool ofCluster = count_ >= plausible::fewestInCluster &&
+                           distance > plausible::farFromCluster &&
+                           usual_ <= plausible::clusterPart * distance;
+    if (const auto slip = ofCluster ? slipOf(place, others_, amongOthers) : std::nullopt)
+        return Stray{distance, slip};
     const double far =
         count_ < plausible::manyFields ? plausible::farBySlip : plausible::farBySlipAmongMany;
     if (count_ == 1 || distance <= far || (ofTwo && fieldCentroid != last_) ||

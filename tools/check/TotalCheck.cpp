@@ -76,12 +76,28 @@ struct Product {
         return expected() > 0 && std::abs(total.value() - expected()) <=
                                      expected() * plausible::totalTolerance + lastDigit;
     }
+
+    /// Whether it is so by three digits or more.
+    bool isSameNumber() const {
+        constexpr double coarsest = 0.01;
+        const double lastDigit = total.most() - total.value();
+        return lastDigit <= coarsest * total.value() &&
+               std::abs(total.value() - expected()) <= lastDigit + coarsest * expected();
+    }
 };
 
 /// Whether numbers that fit as written cannot fit by their units.
 bool differsFromOne(const UnitRatio& ratio) {
     constexpr double tolerance = 2 * plausible::totalTolerance;
     return ratio.least > 1 + tolerance || ratio.most < 1 - tolerance;
+}
+
+/// Whether a weight and a volume have the same number although their units are exact. Slurry and
+/// the like, as heavy as water, is given in m3 and in t, which stands for several units.
+bool isSameNumberOfOtherKind(const Product& product, const UnitRatio& ratio,
+                             const StatisticsUnits& units) {
+    return !ratio.sameKind && ratio.least > 0 && !isAmbiguousUnit(units.rate) &&
+           !isAmbiguousUnit(units.total) && product.isSameNumber();
 }
 
 /// "135.5 kg/ha", with six digits at most.
@@ -114,10 +130,13 @@ std::string factors(const Product& product, const StatisticsUnits& units) {
 
 void checkProduct(CheckReport& report, const Product& product, const StatisticsUnits& units) {
     const std::optional<UnitRatio> ratio = ratioOf(units);
-    if (!ratio || product.mayFit(*ratio))
+    if (!ratio)
+        return;
+    const bool otherKind = isSameNumberOfOtherKind(product, *ratio, units);
+    if (product.mayFit(*ratio) && !otherKind)
         return;
     const std::string_view total = units.total;
-    if (product.fitsAsWritten() && differsFromOne(*ratio))
+    if (otherKind || (product.fitsAsWritten() && differsFromOne(*ratio)))
         report.add(FindingCode::UnitsDisagree, product.total.node(), tag::Total, [&] {
             return Details{fmt::format("{} is {} {} by the numbers, but not by the units",
                                        factors(product, units), tag::Total,

@@ -76,6 +76,21 @@ TEST(FarmSpread, FindsNothingWhereFieldsAreSpreadOverALine) {
     EXPECT_EQ(found({{"-17", "179.9"}, {"-17", "179.95"}, {"-17", "-179.9"}}), "");
 }
 
+TEST(FarmSpread, FindsFieldsNearALineThatASlipWouldPutAmongACloseGroup) {
+    const auto withFifth = [](const std::string& latitude) {
+        return found({{"0.30", "30.1"},
+                      {"0.31", "30.1"},
+                      {"0.30", "30.11"},
+                      {"0.31", "30.11"},
+                      {latitude, "30.1"}});
+    };
+    EXPECT_EQ(withFifth("-0.3"),
+              "Field[5]the centroid (-0.3, 30.1) is 67 km from the other fields of the farm; with "
+              "the other sign of its latitude it would be near");
+    EXPECT_EQ(withFifth("-0.35"), "");
+    EXPECT_EQ(withFifth("0.9"), "");
+}
+
 TEST(FarmSpread, TakesNoSideWhereHalfOfTheFieldsAreElsewhere) {
     EXPECT_EQ(found({{lat, "18.61"}, {lat, "18.62"}, {lat, "-18.61"}, {lat, "-18.62"}}), "");
 }

@@ -62,10 +62,12 @@ struct Kind {
     double expected;             ///< What part of them at least.
     std::size_t planted = 0;
     std::size_t found = 0;
-    std::size_t hidden = 0; ///< Not counted in either.
+    std::size_t near = 0; ///< Those that move a field by less than the width of a farm.
+    std::size_t foundNear = 0;
 };
 
-/// A field that a slip moves by less than the width of a farm is where a field may be.
+/// A field that a slip moves by less than the width of a farm is where a field may be: only where
+/// the others lie close together can it be found.
 constexpr double widthOfFarms = 300;
 
 bool isOneOf(const std::set<FindingCode>& some, const std::set<FindingCode>& codes) {
@@ -96,25 +98,29 @@ TEST(Plausibility, IsDoubtedInPackagesWithASlip) {
         const double moved = test::plant(kind.slip, package, random);
         const Codes codes = codesIn(package);
         const bool movesField = kind.slip == PlantedSlip::Sign || kind.slip == PlantedSlip::Swap;
+        const bool isFound = isOneOf(kind.codes, codes.all);
         if (movesField && moved < widthOfFarms) {
-            ++kind.hidden;
-            continue;
+            ++kind.near;
+            kind.foundNear += isFound ? 1 : 0;
+        } else {
+            ++kind.planted;
+            kind.found += isFound ? 1 : 0;
         }
-        ++kind.planted;
-        kind.found += isOneOf(kind.codes, codes.all) ? 1 : 0;
     }
     std::size_t planted = 0;
     std::size_t found = 0;
     for (const Kind& kind : kinds) {
-        planted += kind.planted;
-        found += kind.found;
+        planted += kind.planted + kind.near;
+        found += kind.found + kind.foundNear;
         std::cout << kind.name << ": " << kind.found << " of " << kind.planted << ", and "
-                  << kind.hidden << " that nobody can find\n";
+                  << kind.foundNear << " of " << kind.near << " that move a field a little\n";
         EXPECT_GE(static_cast<double>(kind.found),
                   kind.expected * static_cast<double>(kind.planted))
             << kind.name;
     }
-    EXPECT_GE(static_cast<double>(found), 0.95 * static_cast<double>(planted));
+    std::cout << "all: " << found << " of " << planted << "\n";
+    const double expected = packages() < 4000 ? 0.93 : 0.95;
+    EXPECT_GE(static_cast<double>(found), expected * static_cast<double>(planted));
 }
 
 TEST(Plausibility, IsNotDoubtedInPackagesWithoutASlip) {
