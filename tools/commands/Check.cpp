@@ -37,7 +37,7 @@ constexpr const char* examples =
 
 struct Format {
     const char* name;
-    std::unique_ptr<CheckWriter> (*make)(Console&, const CheckExtent&);
+    std::unique_ptr<CheckWriter> (*make)(Console&, const CheckScope&);
 };
 
 /// All formats. The manual, the completions and the help follow.

@@ -7,6 +7,6 @@
 #include "tools/output/Console.h"
 
 /// All findings as one JSON document, as docs/findings.schema.json describes it.
-std::unique_ptr<CheckWriter> makeCheckJson(Console& console, const CheckExtent& extent);
+std::unique_ptr<CheckWriter> makeCheckJson(Console& console, const CheckScope& scope);
 
 #endif

@@ -7,6 +7,6 @@
 #include "tools/output/Console.h"
 
 /// All findings as a log in SARIF 2.1.0, for what shows results of checks beside a change.
-std::unique_ptr<CheckWriter> makeCheckSarif(Console& console, const CheckExtent& extent);
+std::unique_ptr<CheckWriter> makeCheckSarif(Console& console, const CheckScope& scope);
 
 #endif

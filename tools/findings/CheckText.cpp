@@ -13,10 +13,10 @@ namespace {
 
 class CheckText : public CheckWriter {
 public:
-    CheckText(Console& console, const CheckExtent& extent)
+    CheckText(Console& console, const CheckScope& scope)
         : console_(console),
-          detail_(extent.detail),
-          isOne_(extent.isOne),
+          detail_(scope.detail),
+          isOne_(scope.isOne),
           shownPerCode_(detail_ >= Detail::Findings ? mostShown : 0) {}
 
     FindingSink& beginFile(const std::string& path) override {
@@ -89,6 +89,6 @@ private:
 
 } // namespace
 
-std::unique_ptr<CheckWriter> makeCheckText(Console& console, const CheckExtent& extent) {
-    return std::make_unique<CheckText>(console, extent);
+std::unique_ptr<CheckWriter> makeCheckText(Console& console, const CheckScope& scope) {
+    return std::make_unique<CheckText>(console, scope);
 }

@@ -8,6 +8,6 @@
 
 /// The findings for people: those of each file when it is checked, the first ten of each code; and
 /// of several files statistics at the end.
-std::unique_ptr<CheckWriter> makeCheckText(Console& console, const CheckExtent& extent);
+std::unique_ptr<CheckWriter> makeCheckText(Console& console, const CheckScope& scope);
 
 #endif

@@ -14,7 +14,7 @@ enum class Detail {
 };
 
 /// What a check will write.
-struct CheckExtent {
+struct CheckScope {
     bool isOne = true; ///< There is only one file.
     Detail detail = Detail::Findings;
 };
