@@ -59,6 +59,7 @@ const std::vector<BrokenPackage>& brokenPackages() {
          "etva",
          "proljetna sjetva", ana},
         {"encoding-ignored", "true", ana, "windows-1252", "UTF-8", ana},
+        {"encoding-mistaken", "true", ana, "ISO-8859-1", "UTF-8", ana},
         {"doctype-ignored", "true", ana,
          " [\n  <!ATTLIST Rec MgmtZoneID CDATA \"6fa8d0c2-2ef4-4c4f-9a5a-8a1d1a3cf0e7\">\n]>", ">",
          ana},
@@ -169,6 +170,18 @@ const std::vector<BrokenPackage>& brokenPackages() {
          "<RateUOMID>12</RateUOMID>\n"
          "              <RateUOM>kg/ha</RateUOM>",
          ana},
+        {"total-without-unit", "true", ana,
+         "<TotalUOMID>0</TotalUOMID>\n"
+         "              <TotalUOM/>",
+         "<TotalUOMID>11</TotalUOMID>\n"
+         "              <TotalUOM>kg</TotalUOM>",
+         ana},
+        {"area-without-unit", "true", ana,
+         "<AreaUOMID>0</AreaUOMID>\n"
+         "              <AreaUOM/>",
+         "<AreaUOMID>2</AreaUOMID>\n"
+         "              <AreaUOM>ha</AreaUOM>",
+         ana},
         {"total-mismatch", "true", ana, "<Total>22764</Total>", "<Total>2276.4</Total>", ana},
         {"units-disagree", "true", ana, "<TotalUOM>t</TotalUOM>", "<TotalUOM>kg</TotalUOM>", ana},
         {"rates-zero", "true", ana,
@@ -199,6 +212,8 @@ const std::vector<BrokenPackage>& brokenPackages() {
         {"date-order", "true", ana, "2026-01-20", "2026-02-20", ana},
         {"dbf-column", "true", ana, "TARGET_RATE", "TARGET_RAT", ana},
         {"empty-name", "true", ana, "<FarmName/>", "<FarmName>Horvatov salaš</FarmName>", ana},
+        {"product-without-name", "true", ana, "<ProductName> </ProductName>",
+         "<ProductName>KAN 27</ProductName>", ana},
         {"nil-identifier", "true", ana, "FarmID=\"00000000-0000-0000-0000-000000000000\"",
          "FarmID=\"0e853b3d-0878-42f1-ba82-d5e02fc65f07\"", ana},
         {"number-empty", "true", ana, "<TotalUOMID/>", "<TotalUOMID>11</TotalUOMID>", ana},

@@ -51,10 +51,13 @@ const DatumFormat* find(const std::vector<DatumFormat>& formats, const char* nam
     return nullptr;
 }
 
-/// Whether a value has nothing that its characters could be odd by.
+/// Whether a value has nothing that its characters could be odd by: no control characters, of one
+/// byte or of two, and no references.
 bool isPlain(std::string_view written) {
-    return std::none_of(written.begin(), written.end(),
-                        [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '&'; });
+    return std::none_of(written.begin(), written.end(), [](char c) {
+        const auto byte = static_cast<unsigned char>(c);
+        return byte < ' ' || byte == '&' || byte == 0x7F || byte == 0xC2;
+    });
 }
 
 /// Numbers the children of an element among those of the same name.
@@ -198,12 +201,14 @@ void ElementCheck::attributes(const std::vector<DatumFormat>& known, pugi::xml_n
 void ElementCheck::read(const DatumFormat& datum, const char* value, Extent extent,
                         std::string_view step, bool markup) {
     const std::string_view written = report_.source().text().substr(extent.offset, extent.length);
-    if (!markup || isPlain(written)) {
+    if (isPlain(written)) {
         values_.check(datum, value, extent, step);
         return;
     }
     report_.inOrder([&] {
-        checkCharacters(report_, extent, value, step);
+        if (markup)
+            checkReferences(report_, extent, value, step);
+        checkCharacters(report_, extent, step);
         values_.check(datum, value, extent, step);
     });
 }
@@ -275,15 +280,14 @@ void ElementCheck::strayText(const ElementFormat& format, pugi::xml_node text) {
 void ElementCheck::value(const DatumFormat& datum, pugi::xml_node node) {
     const CheckReport::Inside inside(report_, node.name());
     const pugi::xml_node held = node.text().data(); // the first text
+    const SourceText& source = report_.source();
     const auto readHeld = [&] {
-        const SourceText& source = report_.source();
         // In a CDATA section, "&" is a letter.
-        read(datum, held.value(), held ? source.wholeText(held) : source.extent(node), "",
-             held.type() == pugi::node_pcdata);
+        read(datum, held.value(), source.wholeText(held), "", held.type() == pugi::node_pcdata);
     };
     // In the order of the file: what is said of a text that is not there, is said of the element.
     if (!held)
-        readHeld();
+        values_.check(datum, "", source.extent(node), "");
     attributes({}, node);
     if (held && held == node.first_child())
         readHeld();

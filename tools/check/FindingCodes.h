@@ -54,6 +54,9 @@ constexpr std::string_view wordFor(Severity severity) {
             "this and the like are passed on as they are; hosts may not show them")                \
     FINDING(EncodingIgnored, "encoding-ignored", Warning, "the declared encoding is ignored",      \
             "programs that follow the declaration read other letters")                             \
+    FINDING(EncodingMistaken, "encoding-mistaken", Warning,                                        \
+            "the declared encoding is another than that of the file",                              \
+            "each letter that is not of ASCII is read as two or more others")                      \
     FINDING(DoctypeIgnored, "doctype-ignored", Warning, "what a DOCTYPE declares is ignored",      \
             "programs that follow it may read other values")                                       \
     FINDING(RefusedByOthers, "refused-by-others", Warning, "other programs cannot read the file",  \
@@ -120,6 +123,10 @@ constexpr std::string_view wordFor(Severity severity) {
             "the rates are kept as they are")                                                      \
     FINDING(RateWithoutUnit, "rate-without-unit", Note, "a rate has no unit",                      \
             "nobody can tell what the rates mean")                                                 \
+    FINDING(TotalWithoutUnit, "total-without-unit", Note, "a total has no unit",                   \
+            "nobody can tell what the total means")                                                \
+    FINDING(AreaWithoutUnit, "area-without-unit", Note, "an area has no unit",                     \
+            "nobody can tell what the area means")                                                 \
     FINDING(TotalMismatch, "total-mismatch", Note, "a total is not rate times area",               \
             "the total is passed on as it is, and so are rate and area")                           \
     FINDING(UnitsDisagree, "units-disagree", Note,                                                 \
@@ -142,6 +149,8 @@ constexpr std::string_view wordFor(Severity severity) {
     FINDING(DbfColumn, "dbf-column", Note, "no DBF file can have such a column",                   \
             "hosts will not find the rates of the rec in its DBF file")                            \
     FINDING(EmptyName, "empty-name", Note, "a record has no name", "hosts can show no name")       \
+    FINDING(ProductWithoutName, "product-without-name", Note, "a product has no name",             \
+            "hosts can only show its number")                                                      \
     FINDING(NilIdentifier, "nil-identifier", Note, "an identifier is nil",                         \
             "hosts cannot tell it from an identifier that is not there")                           \
     FINDING(NumberEmpty, "number-empty", Note, "an element for a number is empty")

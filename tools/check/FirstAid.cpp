@@ -7,8 +7,10 @@
 
 #include "tools/check/OpenElement.h"
 #include "tools/check/OtherFormat.h"
+#include "tools/text/Encoding.h"
 #include "tools/text/Escape.h"
 #include "tools/text/Utf8.h"
+#include "tools/text/Words.h"
 
 namespace {
 
@@ -46,15 +48,41 @@ bool isOfSingleBytes(std::string_view text) {
     return pair > 0xFFU && pair <= 0xFFFFU && (pair >> 8U == sign || (pair & 0xFFU) == sign);
 }
 
+/// A text of which two bytes each were taken for one character, taken apart again.
+std::string inSingleBytes(std::string_view text, bool bigEndian) {
+    std::string bytes;
+    for (text.remove_prefix(byteOrderMark.size()); !text.empty();) {
+        const Utf8Character pair = firstCharacter(text);
+        const auto high = static_cast<char>(pair.codePoint >> 8U & 0xFFU);
+        const auto low = static_cast<char>(pair.codePoint & 0xFFU);
+        bytes += {bigEndian ? high : low, bigEndian ? low : high};
+        text.remove_prefix(pair.length);
+    }
+    return bytes;
+}
+
+/// What a declaration says that is not where it is looked for.
+std::string describeDeclaration(std::string text) {
+    text.erase(std::remove(text.begin(), text.end(), '\0'), text.end());
+    const std::string_view name =
+        declaredEncoding(std::string_view(text).substr(std::min(text.find('<'), text.size())));
+    return name.empty() ? "" : fmt::format(", and declares {}", quoted(name));
+}
+
 /// Says that a file is in another encoding than its first bytes say, which are all that counts.
 std::optional<FirstAid> wrongMark(std::string_view text) {
+    constexpr std::size_t longestDeclaration = 400;
+    const std::string_view first = text.substr(0, longestDeclaration);
     if (isUtf16(text))
         return FirstAid{"the file is in UTF-16, but it does not begin with the byte-order mark "
-                        "that says so",
+                        "that says so" +
+                            describeDeclaration(std::string(first)),
                         writeUtf8};
     if (isOfSingleBytes(text))
         return FirstAid{"the file begins with the byte-order mark of UTF-16, but the text behind "
-                        "it is in another encoding",
+                        "it is in another encoding" +
+                            describeDeclaration(inSingleBytes(first, false)) +
+                            describeDeclaration(inSingleBytes(first, true)),
                         writeUtf8};
     return std::nullopt;
 }

@@ -211,10 +211,14 @@ private:
 
     /// @param name what nameOf() says of the record
     void emptyName(pugi::xml_node child, pugi::xml_node name) {
-        if (child != name || *child.child_value() != '\0')
+        const char* const text = child.child_value();
+        if (child != name || !isBlank(text))
             return;
         report_.add(FindingCode::EmptyName, child, child.name(), [&] {
-            return Details{fmt::format("{} is empty", child.name()), Kept{}};
+            return Details{*text == '\0'
+                               ? fmt::format("{} is empty", child.name())
+                               : fmt::format("{} {} shows nothing", child.name(), quoted(text)),
+                           Kept{}};
         });
     }
 
@@ -252,7 +256,7 @@ private:
     void partValue(const ElementFormat& format, const DatumFormat& datum, pugi::xml_node child,
                    pugi::xml_node name) {
         emptyName(child, name);
-        plausibility_.value(format, child);
+        plausibility_.value(format, datum, child);
         check_.value(datum, child);
     }
 

@@ -7,6 +7,7 @@
 #include "tools/check/DateCheck.h"
 #include "tools/check/RateCheck.h"
 #include "tools/check/TotalCheck.h"
+#include "tools/check/UnitCheck.h"
 
 namespace tag = qenxml::tag;
 
@@ -17,22 +18,29 @@ void PlausibilityCheck::element(const ElementFormat& format, pugi::xml_node node
     checkSpread(report_, farm_, node);
 }
 
-void PlausibilityCheck::value(const ElementFormat& format, pugi::xml_node child) {
+void PlausibilityCheck::value(const ElementFormat& format, const DatumFormat& datum,
+                              pugi::xml_node child) {
     if (&format == &format::recStats())
-        statistic(child);
+        statistic(datum, child);
     else if (&format == &format::fieldCentroid())
         checkCoordinate(report_, child);
-    else if (std::string_view(child.name()) == tag::RecDBFCol)
+    else if (datum.kind != qenxml::format::Kind::Text)
+        return;
+    else if (std::string_view(datum.name) == tag::RecDBFCol)
         checkColumn(report_, child);
     else
         checkDate(report_, child);
 }
 
-void PlausibilityCheck::statistic(pugi::xml_node child) {
-    if (std::string_view(child.name()) == tag::Total)
-        checkTotal(report_, child);
-    else
-        checkRate(report_, child);
-    for (UnitCodes& codes : unitCodes_)
-        codes.check(report_, child);
+void PlausibilityCheck::statistic(const DatumFormat& datum, pugi::xml_node child) {
+    if (datum.kind == qenxml::format::Kind::Text) {
+        for (UnitCodes& codes : unitCodes_)
+            codes.check(report_, child);
+    } else if (datum.kind == qenxml::format::Kind::Number) {
+        if (std::string_view(datum.name) == tag::Total)
+            checkTotal(report_, child);
+        else
+            checkRate(report_, child);
+        checkUnit(report_, child);
+    }
 }

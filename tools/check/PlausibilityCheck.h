@@ -26,10 +26,11 @@ public:
     /// Checks an element that holds a value, in whose parent the report is.
     ///
     /// @param format of the parent
-    void value(const ElementFormat& format, pugi::xml_node child);
+    /// @param datum  of the child
+    void value(const ElementFormat& format, const DatumFormat& datum, pugi::xml_node child);
 
 private:
-    void statistic(pugi::xml_node child);
+    void statistic(const DatumFormat& datum, pugi::xml_node child);
 
     CheckReport& report_;
     FarmSpread farm_;

@@ -40,6 +40,23 @@ std::string unreadIdentifier(const ElementFormat& format, pugi::xml_node node) {
     return "";
 }
 
+/// Finds that nothing says to people what a product is.
+void productName(CheckReport& report, const ElementFormat& format, pugi::xml_node node) {
+    std::vector<std::string> blank;
+    for (const char* const name : {tag::ProductName, tag::CropName, tag::VarietyName}) {
+        const pugi::xml_node child = node.child(name);
+        if (child && !isBlank(child.text().as_string()))
+            return;
+        if (child)
+            blank.emplace_back(name);
+    }
+    report.add(FindingCode::ProductWithoutName, node, "", [&] {
+        return Details{fmt::format("{} of {} {} blank", joined(blank), format.name,
+                                   blank.size() == 1 ? "is" : "are"),
+                       Kept{}};
+    });
+}
+
 void checkProduct(ElementCheck& check, const ElementFormat& format, pugi::xml_node node) {
     CheckReport& report = check.report();
     const CheckReport::Inside inside(report, node.name());
@@ -49,6 +66,8 @@ void checkProduct(ElementCheck& check, const ElementFormat& format, pugi::xml_no
             return Details{fmt::format("{} has no {}", format.name, joined(missing)),
                            Without{RecPart::Product, "", unreadIdentifier(format, node)}};
         });
+    } else {
+        productName(report, format, node);
     }
     check.values().setIncomplete(!missing.empty());
     check.attributes(format.attributes, node);

@@ -7,11 +7,14 @@
 #include <memory>
 #include <new>
 #include <string_view>
+#include <utility>
 
 #include <boost/algorithm/string/predicate.hpp>
 #include <expat.h>
+#include <fmt/format.h>
 
 #include "tools/text/Encoding.h"
+#include "tools/text/Words.h"
 
 namespace {
 
@@ -64,7 +67,8 @@ int describeEncoding(void* /*data*/, const XML_Char* name, XML_Encoding* encodin
     return XML_STATUS_OK;
 }
 
-/// What is wrong, in the words of those who know nothing of parsers.
+/// What is wrong, in the words of those who know nothing of parsers. The first {} in it stands for
+/// the encoding that is declared, the second for the one in which the file is read.
 struct Reason {
     XML_Error error;
     const char* text;
@@ -84,10 +88,9 @@ constexpr std::array reasons = {
     Reason{XML_ERROR_MISPLACED_XML_PI,
            "the declaration \"<?xml\" is not at the very beginning of the file"},
     Reason{XML_ERROR_UNKNOWN_ENCODING,
-           "the declaration names an encoding that many programs do not know; what follows is not "
-           "checked"},
-    Reason{XML_ERROR_INCORRECT_ENCODING,
-           "the declaration names another encoding than the file is in"},
+           "the declaration says {}, which many programs do not know; the file is read as {}, and "
+           "what follows is not checked"},
+    Reason{XML_ERROR_INCORRECT_ENCODING, "the declaration says {}, but the file is in {}"},
     Reason{XML_ERROR_UNCLOSED_CDATA_SECTION, "a CDATA section does not end"},
     Reason{XML_ERROR_XML_DECL, "the declaration \"<?xml ...?>\" is not as XML asks for"},
 };
@@ -118,13 +121,16 @@ Refusal refusalOf(char character, std::string_view before) {
     return {before.size(), otherReason};
 }
 
-/// @param before the text before the place of an error
-/// @param after  that behind it
-Refusal refusalOf(XML_Error error, std::string_view before, std::string_view after) {
+/// @param before    the text before the place of an error
+/// @param after     that behind it
+/// @param encodings the one that is declared, and the one in which the file is read
+Refusal refusalOf(XML_Error error, std::string_view before, std::string_view after,
+                  const std::pair<std::string, std::string>& encodings) {
     const auto* const reason = std::find_if(
         reasons.begin(), reasons.end(), [&](const Reason& other) { return other.error == error; });
     if (reason != reasons.end())
-        return {before.size(), reason->text};
+        return {before.size(),
+                fmt::format(fmt::runtime(reason->text), encodings.first, encodings.second)};
     if (error == XML_ERROR_INVALID_TOKEN && !after.empty())
         return refusalOf(after.front(), before);
     return {before.size(), otherReason};
@@ -145,16 +151,21 @@ public:
 
     /// @return why the file is refused, if it is
     std::optional<XML_Error> read() {
-        // A call takes as many bytes as an int can count.
-        constexpr std::size_t most = std::size_t{1} << 30U;
+        // The parser keeps what a call gives it: less memory is needed for small parts. What does
+        // not end in a part is looked at again with the next one, which is larger then, so that it
+        // is looked at a few times and not a thousand.
+        constexpr std::size_t first = std::size_t{1} << 16U;
+        constexpr std::size_t most = std::size_t{1} << 30U; // an int counts them
         XML_Status status = XML_STATUS_OK;
+        std::size_t part = first;
         std::size_t begin = 0;
         do {
-            const std::size_t size = std::min(most, bytes_.size() - begin);
+            const std::size_t size = std::min(part, bytes_.size() - begin);
             const bool last = begin + size == bytes_.size();
             status = XML_Parse(parser_.get(), bytes_.data() + begin, static_cast<int>(size),
                                last ? XML_TRUE : XML_FALSE);
             begin += size;
+            part = begin - std::min(place(), begin) > part / 2 ? std::min(2 * part, most) : first;
         } while (status == XML_STATUS_OK && begin < bytes_.size());
         const XML_Error error = XML_GetErrorCode(parser_.get());
         if (error == XML_ERROR_NO_MEMORY)
@@ -208,9 +219,12 @@ SecondReading readAgain(const std::string& bytes, pugi::xml_encoding encoding) {
     SecondReading result;
     if (const auto error = reading.read()) {
         constexpr std::size_t longestCharacter = 4;
+        constexpr std::size_t longestDeclaration = 400;
         const std::size_t place = reading.place();
+        const std::string declared = quoted(declaredEncoding(textBefore(longestDeclaration)));
         result.refusal = refusalOf(*error, textBefore(place),
-                                   toUtf8(bytes.substr(place, longestCharacter), encoding));
+                                   toUtf8(bytes.substr(place, longestCharacter), encoding),
+                                   {declared, encodingName(encoding)});
     }
     if (reading.doctype())
         result.doctype = textBefore(*reading.doctype()).size();

@@ -44,26 +44,39 @@ Details describe(const OddReference& reference, std::string_view value) {
     return details;
 }
 
-bool isControl(char c) {
-    return static_cast<unsigned char>(c) < ' ' && c != '\t' && c != '\n' && c != '\r';
+/// The first control character of a text, of one byte or two; empty when there is none.
+std::string_view firstControl(std::string_view text) {
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        const bool isWhiteSpace = byte == '\t' || byte == '\n' || byte == '\r';
+        if ((byte < ' ' && !isWhiteSpace) || byte == 0x7F)
+            return text.substr(i, 1);
+        const auto next = i + 1 < text.size() ? static_cast<unsigned char>(text[i + 1]) : 0U;
+        if (byte == 0xC2 && next >= 0x80 && next < 0xA0)
+            return text.substr(i, 2);
+    }
+    return {};
 }
 
 } // namespace
 
-void checkCharacters(CheckReport& report, Extent extent, std::string_view value,
+void checkCharacters(CheckReport& report, Extent extent, std::string_view step) {
+    const std::string_view text = report.source().text();
+    const std::string_view control = firstControl(text.substr(extent.offset, extent.length));
+    if (control.empty())
+        return;
+    const auto offset = static_cast<std::size_t>(control.data() - text.data());
+    report.add(FindingCode::ControlCharacter, Extent{offset, control.size()}, step, [&] {
+        return Details{fmt::format("the value holds the control character {}", escape(control)),
+                       Kept{}};
+    });
+}
+
+void checkReferences(CheckReport& report, Extent extent, std::string_view value,
                      std::string_view step) {
     const std::string_view written = report.source().text().substr(extent.offset, extent.length);
     for (const OddReference& reference : oddReferences(written))
         report.add(fateOf(reference).code,
                    Extent{extent.offset + reference.offset, reference.text.size()}, step,
                    [&] { return describe(reference, value); });
-    const auto* const control = std::find_if(written.begin(), written.end(), isControl);
-    if (control == written.end())
-        return;
-    const auto offset = static_cast<std::size_t>(control - written.begin());
-    report.add(FindingCode::ControlCharacter, Extent{extent.offset + offset, 1}, step, [&] {
-        return Details{fmt::format("the value holds the control character {}",
-                                   escape(written.substr(offset, 1))),
-                       Kept{}};
-    });
 }

@@ -67,6 +67,36 @@ pugi::xml_encoding encodingOf(const std::string& bytes) {
     return loaded.encoding;
 }
 
+const char* encodingName(pugi::xml_encoding encoding) {
+    switch (encoding) {
+    case pugi::encoding_utf16_le:
+    case pugi::encoding_utf16_be:
+        return "UTF-16";
+    case pugi::encoding_utf32_le:
+    case pugi::encoding_utf32_be:
+        return "UTF-32";
+    case pugi::encoding_latin1:
+        return "ISO-8859-1";
+    default:
+        return "UTF-8";
+    }
+}
+
+std::string_view declaredEncoding(std::string_view text) {
+    constexpr std::string_view attribute = "encoding";
+    if (text.substr(0, byteOrderMark.size()) == byteOrderMark)
+        text.remove_prefix(byteOrderMark.size());
+    if (text.substr(0, 5) != "<?xml")
+        return {};
+    text = text.substr(0, text.find("?>"));
+    const std::size_t name = text.find(attribute);
+    const std::size_t begin = text.find_first_of("\"'", name);
+    if (name == std::string_view::npos || begin == std::string_view::npos)
+        return {};
+    text.remove_prefix(begin + 1);
+    return text.substr(0, text.find_first_of("\"'"));
+}
+
 std::string toUtf8(std::string bytes, pugi::xml_encoding encoding) {
     switch (encoding) {
     case pugi::encoding_utf16_le:

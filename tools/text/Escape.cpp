@@ -42,6 +42,26 @@ constexpr std::array unseen = {
     Range{0xE0000, 0xE0FFF}, // tags and the like
 };
 
+/// Beside those: blanks, and what shows only with a character beside it.
+constexpr std::array blank = {
+    Range{0x20, 0x20},     // space
+    Range{0xA0, 0xA0},     // no-break space
+    Range{0x1680, 0x1680}, // Ogham space
+    Range{0x180B, 0x180F}, // Mongolian selectors of variants
+    Range{0x2000, 0x200F}, // spaces of all widths, joiners
+    Range{0x202F, 0x202F}, // narrow no-break space
+    Range{0x205F, 0x205F}, // mathematical space
+    Range{0x2800, 0x2800}, // Braille without dots
+    Range{0x3000, 0x3000}, // ideographic space
+    Range{0xFE00, 0xFE0F}, // selectors of variants
+};
+
+template <std::size_t size>
+bool isIn(const std::array<Range, size>& ranges, char32_t c) {
+    return std::any_of(ranges.begin(), ranges.end(),
+                       [c](const Range& range) { return c >= range.first && c <= range.last; });
+}
+
 void appendEscaped(std::string& result, std::string_view bytes, const Utf8Character& character) {
     const char32_t c = character.codePoint;
     const auto number = static_cast<unsigned>(c);
@@ -82,8 +102,18 @@ std::string escapeUpTo(std::size_t maximum, std::string_view text) {
 bool isUnseen(char32_t c) {
     if (c >= 0x20 && c < 0x7F) // most there are
         return false;
-    return std::any_of(unseen.begin(), unseen.end(),
-                       [c](const Range& range) { return range.first <= c && c <= range.last; });
+    return isIn(unseen, c);
+}
+
+bool isBlank(std::string_view text) {
+    while (!text.empty()) {
+        const Utf8Character character = firstCharacter(text);
+        if (!character.valid ||
+            !(isIn(blank, character.codePoint) || isUnseen(character.codePoint)))
+            return false;
+        text.remove_prefix(character.length);
+    }
+    return true;
 }
 
 std::string escape(std::string_view text) {

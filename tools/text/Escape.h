@@ -14,6 +14,10 @@
 /// emoji are written with them.
 bool isUnseen(char32_t c);
 
+/// Whether nothing is seen of a text: it is empty, or holds only blanks of all widths, characters
+/// that isUnseen() names, and joiners and selectors with nothing to work on.
+bool isBlank(std::string_view text);
+
 /// The text with everything escaped that a terminal might act on or hide, so that what is left is
 /// one line of valid UTF-8:
 ///

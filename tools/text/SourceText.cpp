@@ -64,20 +64,6 @@ void SourceText::setMarksUpTo(std::size_t offset) const {
     }
 }
 
-std::string_view SourceText::declaredEncoding() const {
-    constexpr std::string_view attribute = "encoding";
-    std::string_view text = std::string_view(utf8_).substr(startOf(utf8_));
-    if (text.substr(0, 5) != "<?xml")
-        return {};
-    text = text.substr(0, text.find("?>"));
-    const std::size_t name = text.find(attribute);
-    const std::size_t begin = text.find_first_of("\"'", name);
-    if (name == std::string_view::npos || begin == std::string_view::npos)
-        return {};
-    text.remove_prefix(begin + 1);
-    return text.substr(0, text.find_first_of("\"'"));
-}
-
 pugi::xml_parse_result SourceText::load(pugi::xml_document& document) const {
     return document.load_buffer(utf8_.data(), utf8_.size(), pugi::parse_default,
                                 pugi::encoding_utf8);

@@ -45,9 +45,8 @@ public:
     /// The text in UTF-8, with the byte-order mark if there is one.
     std::string_view text() const { return utf8_; }
 
-    /// The encoding that the XML declaration names; empty when it names none. pugixml does not know
-    /// each of them, and takes the text for UTF-8 then.
-    std::string_view declaredEncoding() const;
+    /// The encoding that pugixml takes the file for.
+    pugi::xml_encoding encoding() const { return encoding_; }
 
     /// Loads the text as the library loads package files, so that offsets in the document are
     /// offsets into this text.

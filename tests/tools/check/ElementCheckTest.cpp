@@ -153,8 +153,8 @@ TEST(ElementCheck, ReadsTheFirstPieceOfATextThatIsInSeveral) {
 TEST(ElementCheck, ReadsANumberFromTheFirstPieceOfItsText) {
     const auto texts = [](const std::string& value) {
         std::string codes;
-        for (const Finding& finding : test::findingsIn(
-                 test::packageWithRec("<RecStats><Total>" + value + "</Total></RecStats>"))) {
+        for (const Finding& finding : test::findingsIn(test::packageWithRec(
+                 "<RecStats><Total>" + value + "</Total><TotalUOM>kg</TotalUOM></RecStats>"))) {
             if (finding.path.find("/Total") != std::string::npos)
                 codes += std::string(kindOf(finding.code).code) + ": " +
                          test::toText(finding.consequence) + "\n";

@@ -78,6 +78,13 @@ TEST(FirstAid, NamesAnEncodingThatTheFileDoesNotBeginWith) {
               "the file is in UTF-16, but it does not begin with the byte-order mark that says so");
     EXPECT_EQ(whatIs("\0\n\0<\0R\0e"s),
               "the file is in UTF-16, but it does not begin with the byte-order mark that says so");
+    EXPECT_EQ(whatIs("\n\0<\0?\0x\0m\0l\0 \0e\0n\0c\0o\0d\0i\0n\0g\0=\0'\0U\0'\0?\0>\0"s),
+              "the file is in UTF-16, but it does not begin with the byte-order mark that says so, "
+              "and declares \"U\"");
+    // "<?xml encoding='U'?>" taken for characters of UTF-16.
+    EXPECT_EQ(whatIs("\xEF\xBB\xBF\u3F3C\u6D78\u206C\u6E65\u6F63\u6964\u676E\u273D\u2755\u3E3F"),
+              "the file begins with the byte-order mark of UTF-16, but the text behind it is in "
+              "another encoding, and declares \"U\"");
     // "<R" taken for one character of UTF-16.
     EXPECT_EQ(whatIs("\xEF\xBB\xBF\u523C"),
               "the file begins with the byte-order mark of UTF-16, but the text behind it is in "

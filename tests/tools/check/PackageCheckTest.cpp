@@ -146,11 +146,34 @@ TEST_F(PackageCheck, NamesTheDeclaredEncodingAsTheCauseOfBytesThatAreNotUtf8) {
         EXPECT_EQ(findings.size(), 1U);
         return findings.front().found;
     };
-    const std::string byte = "the byte \\xE9 is not UTF-8, in which the file is read";
-    EXPECT_EQ(found(""), byte);
-    EXPECT_EQ(found("<?xml version='1.0' encoding='utf-8'?>"), byte);
+    const std::string byte = "the byte \\xE9 is not UTF-8, in which the file is read ";
+    const std::string seeming = "; it seems to be in an encoding such as windows-1252";
+    EXPECT_EQ(found(""), byte + "because it declares no encoding" + seeming);
+    EXPECT_EQ(found("<?xml version='1.0' encoding='utf-8'?>"),
+              byte + "as its declaration says" + seeming);
+    EXPECT_EQ(found("<?xml version='1.0' encoding='utf-8'?><!-- \u00e9 -->"),
+              byte + "as its declaration says");
     EXPECT_EQ(found("<?xml version='1.0' encoding='windows-1252'?>"),
-              byte + " although its declaration says \"windows-1252\"");
+              byte + "although its declaration says \"windows-1252\"");
+}
+
+TEST_F(PackageCheck, NamesBothEncodingsWhereTheDeclaredOneIsAnother) {
+    const auto found = [&](const std::string& encoding, const std::string& name) {
+        std::string all;
+        for (const Finding& finding : checkPackage(folder_.writePackage(
+                 "<?xml version='1.0' encoding='" + encoding + "'?>" +
+                 test::package(test::grower(1, test::element("GrowerName", name))))))
+            all += std::string(kindOf(finding.code).code) + ": " + finding.found;
+        return all;
+    };
+    EXPECT_EQ(found("ISO-8859-1", "Jos\u00e9"),
+              "encoding-mistaken: the declaration says \"ISO-8859-1\", but the file is in UTF-8: "
+              "\"\u00e9\" is read as \"\u00c3\u00a9\"");
+    EXPECT_EQ(found("ISO-8859-1", "Jos\xE9"), "");
+    EXPECT_EQ(found("ISO-8859-1", "Jose"), "");
+    EXPECT_EQ(found("windows-1252", "Jos\u00e9"),
+              "encoding-ignored: the declaration says \"windows-1252\", but the file is in UTF-8, "
+              "and read as that");
 }
 
 TEST_F(PackageCheck, FindsEveryByteThatIsNoCharacterByItself) {

@@ -96,6 +96,23 @@ TEST(PackageWalk, FindsAnEmptyNameWhereItStands) {
               "empty-name empty-name element-after-list");
 }
 
+TEST(PackageWalk, FindsNamesOfWhichNothingIsSeen) {
+    const auto found = [](const std::string& name) {
+        const std::string text = test::packageWithRec("<RecName>" + name + "</RecName><RecData/>");
+        for (const Finding& finding : test::findingsOf(text, FindingCode::EmptyName)) {
+            if (finding.path.find("/RecName") != std::string::npos)
+                return finding.found;
+        }
+        return std::string();
+    };
+    EXPECT_EQ(found(" "), "RecName is empty");
+    EXPECT_EQ(found("<![CDATA[ ]]>"), "RecName \" \" shows nothing");
+    EXPECT_EQ(found("&#32;&#9;"), "RecName \" \\t\" shows nothing");
+    EXPECT_EQ(found("\u00a0"), "RecName \"\u00a0\" shows nothing");
+    EXPECT_EQ(found("&#xAD;&#x200B;"), "RecName \"\\u{00AD}\\u{200B}\" shows nothing");
+    EXPECT_EQ(found("\u00a0-"), "");
+}
+
 TEST(PackageWalk, FindsWhatAnIdentifierMeansWhereItStands) {
     const std::string id = test::uuidText(3);
     const std::string field = test::element("FieldGeometryID", id) +

@@ -58,20 +58,4 @@ TEST(RateCheck, PointsAtTheRateThatIsAboveAnother) {
     EXPECT_EQ(test::toText(finding.consequence), "kept");
 }
 
-TEST(RateCheck, MissesTheUnitOfRatesOnce) {
-    const auto unitless = [](const std::string& content) {
-        return test::findingsOf(packageWithRates(content), FindingCode::RateWithoutUnit).size();
-    };
-    EXPECT_EQ(
-        test::findingOf(packageWithRates(rates("0", "2", "3")), FindingCode::RateWithoutUnit).found,
-        "AverageRate is 2, without a RateUOM or RateUOMID");
-    EXPECT_EQ(
-        test::findingOf(packageWithRates(rates("1", "2", "3")), FindingCode::RateWithoutUnit).found,
-        "MinimumRate is 1, without a RateUOM or RateUOMID");
-    EXPECT_EQ(unitless(rates("0", "0", "0")), 0U);
-    EXPECT_EQ(unitless(rates("1", "2", "3") + "<RateUOM>kg/ha</RateUOM>"), 0U);
-    EXPECT_EQ(unitless(rates("1", "2", "3") + "<RateUOMID>11</RateUOMID>"), 0U);
-    EXPECT_EQ(unitless(rates("1", "2", "3") + "<RateUOMID>0</RateUOMID>"), 1U);
-}
-
 } // namespace

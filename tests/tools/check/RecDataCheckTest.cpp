@@ -34,6 +34,36 @@ TEST(RecDataCheck, SaysWhichProductASecondOneFollowsThatATextComesBefore) {
     EXPECT_EQ(second.found, "Pesticide follows Planting; a rec has one product");
 }
 
+TEST(RecDataCheck, FindsProductsThatHaveNoName) {
+    const auto found = [](const std::string& product) {
+        std::string all;
+        for (const Finding& finding :
+             test::findingsOf(packageWithRecData(product), FindingCode::ProductWithoutName))
+            all += finding.found + "\n";
+        return all;
+    };
+    const auto fertilizer = [](const std::string& name) {
+        return test::element("CommercialFertilizer",
+                             "<ProductID>1</ProductID><UOMID>1</UOMID><UOM>kg</UOM>" + name);
+    };
+    EXPECT_EQ(found(fertilizer("<ProductName/>")),
+              "ProductName of CommercialFertilizer is blank\n");
+    EXPECT_EQ(found(fertilizer("<ProductName>&#160;</ProductName>")),
+              "ProductName of CommercialFertilizer is blank\n");
+    EXPECT_EQ(found(fertilizer("<ProductName>KAN</ProductName>")), "");
+    EXPECT_EQ(found(fertilizer("")), ""); // incomplete, which is worse
+    const auto planting = [](const std::string& crop, const std::string& variety) {
+        return test::element("Planting", "<CropID>1</CropID>" + test::element("CropName", crop) +
+                                             "<CompanyID>1</CompanyID><CompanyName>a</CompanyName>"
+                                             "<VarietyID>1</VarietyID>" +
+                                             test::element("VarietyName", variety) +
+                                             "<UOMID>1</UOMID><UOM>kg</UOM>");
+    };
+    EXPECT_EQ(found(planting("", "")), "CropName and VarietyName of Planting are blank\n");
+    EXPECT_EQ(found(planting("Maize", "")), "");
+    EXPECT_EQ(found(planting("", "P9911")), "");
+}
+
 TEST(RecDataCheck, QuotesATextOfWhiteSpaceOnly) {
     const Finding text =
         test::findingOf(packageWithRecData("&#32;<Planting/>"), FindingCode::TextBeforeProduct);

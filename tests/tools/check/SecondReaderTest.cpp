@@ -76,6 +76,12 @@ TEST(SecondReader, ReadsEncodingsInWhichAsciiIsAscii) {
 TEST(SecondReader, RefusesEncodingsThatItDoesNotKnow) {
     for (const std::string name : {"utf8", "UTF-7", "EBCDIC-CP-US", "IBM037", "UTF-16"})
         EXPECT_EQ(refusal(declared(name, "<a/>")).substr(0, 3), "30:") << name;
+    EXPECT_EQ(
+        refusal(declared("EBCDIC-CP-US", "<a/>")),
+        "30: the declaration says \"EBCDIC-CP-US\", which many programs do not know; the file "
+        "is read as UTF-8, and what follows is not checked");
+    EXPECT_EQ(refusal(declared("UTF-16", "<a/>")),
+              "30: the declaration says \"UTF-16\", but the file is in UTF-8");
     EXPECT_EQ(refusal("\xFF\xFE\0\0<\0\0\0a\0\0\0/\0\0\0>\0\0\0"s).substr(0, 14), "0: the file is");
 }
 

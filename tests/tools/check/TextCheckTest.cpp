@@ -38,13 +38,18 @@ TEST(TextCheck, FindsReferencesThatStand) {
 }
 
 TEST(TextCheck, FindsControlCharactersAsTheyAreAndAsReferences) {
-    for (const std::string text : {"\x01", "&#1;", "&#x7F;"})
+    for (const std::string text :
+         {"\x01", "\x7F", "\u0080", "\u009F", "&#1;", "&#x7F;", "&#x9F;", "\xC2\x85"})
         EXPECT_EQ(consequenceOf(packageWithRec("<RecName>a" + text + "</RecName>"),
                                 FindingCode::ControlCharacter),
                   "kept");
     EXPECT_EQ(
         findingOf(packageWithRec("<RecName>a\x1b</RecName>"), FindingCode::ControlCharacter).found,
         "the value holds the control character \\x1B");
+    const Finding dash =
+        findingOf(packageWithRec("<RecName>a\u0096</RecName>"), FindingCode::ControlCharacter);
+    EXPECT_EQ(dash.found, "the value holds the control character \\u{0096}");
+    EXPECT_EQ(dash.location->extent.length, 2U);
 }
 
 TEST(TextCheck, LooksAtAttributes) {
@@ -54,8 +59,8 @@ TEST(TextCheck, LooksAtAttributes) {
 }
 
 TEST(TextCheck, FindsNothingInReferencesThatEveryReaderFollows) {
-    const std::string findings =
-        findingTexts(packageWithRec("<RecName>a &amp; b &#233;\t\r\n&#x1F33E;</RecName>"));
+    const std::string findings = findingTexts(
+        packageWithRec("<RecName>a &amp; b &#233;\u00A0\u00BF\t\r\n&#x1F33E;</RecName>"));
     for (const std::string word : {"reference", "control"})
         EXPECT_EQ(findings.find(word), std::string::npos) << findings;
 }
@@ -64,6 +69,13 @@ TEST(TextCheck, FindsNoReferencesWhereThereAreNone) {
     const std::string findings =
         findingTexts(packageWithRec("<RecName><![CDATA[a &ha; &#0;]]></RecName>"));
     EXPECT_EQ(findings.find("reference"), std::string::npos) << findings;
+}
+
+TEST(TextCheck, LooksForControlCharactersInCdataSections) {
+    EXPECT_EQ(findingOf(packageWithRec("<RecName><![CDATA[a\u0085]]></RecName>"),
+                        FindingCode::ControlCharacter)
+                  .found,
+              "the value holds the control character \\u{0085}");
 }
 
 } // namespace

@@ -28,7 +28,7 @@ std::string found(const Statistics& of) {
                              element("Total", of.total) + element("TotalUOM", of.totalUnit) +
                              element("Area", of.area) + element("AreaUOM", of.areaUnit))))) {
         const std::string step = finding.path.substr(finding.path.rfind('/') + 1);
-        if (step == "Total" && finding.severity() == Severity::Note)
+        if (step == "Total" && finding.code != FindingCode::TotalWithoutUnit)
             text += std::string(kindOf(finding.code).code) + ": " + finding.found;
     }
     return text;
@@ -95,8 +95,11 @@ TEST(TotalCheck, FindsNumbersThatFitWhenTheirUnitsDoNot) {
 
 TEST(TotalCheck, SaysNothingOfAWeightAndAVolumeThatMayBeTheSame) {
     EXPECT_EQ(found({"25.0", "10.0", "250", "m3/ha", "ha", "t"}), "");
-    EXPECT_EQ(found({"25.0", "10.0", "250", "L/ha", "ha", "kg"}), "");
+    EXPECT_EQ(found({"25.0", "10.0", "255", "L/ha", "ha", "kg"}), "");
+    EXPECT_EQ(found({"2.5", "1.0", "2.5", "L/ha", "ha", "kg"}), "");
+    EXPECT_EQ(found({"25.0", "10.0", "250", "oz/ha", "ha", "fl oz"}), "");
     EXPECT_NE(found({"25.0", "10.0", "250", "L/ha", "ha", "t"}), "");
+    EXPECT_EQ(found({"25.0", "10.0", "250", "L/ha", "ha", "kg"}).substr(0, 14), "units-disagree");
 }
 
 TEST(TotalCheck, FindsATotalOfRatesThatAreAll0) {

@@ -121,6 +121,15 @@ TEST(Escape, CutsAnExcerptAfterSixtyCharacters) {
     EXPECT_EQ(escapeExcerpt(sixty.substr(1) + "\xC3\xA9\xC3\xA9"), sixty.substr(1) + "\xC3\xA9...");
 }
 
+TEST(Escape, TellsTextsOfWhichNothingIsSeen) {
+    for (const char* const text : {"", " ", "\t\n", "\u00A0", "\u00AD\u2009", "\u200B\uFEFF",
+                                   "\u2800", "\u3000 \u200D", "\uFE0F", "\u0085"})
+        EXPECT_TRUE(isBlank(text)) << escape(text);
+    for (const char* const text :
+         {"a", " a", "\u00A0-", "\u200Ba", "\U0001F33E\uFE0F", "\xA0", "\xFF"})
+        EXPECT_FALSE(isBlank(text)) << escape(text);
+}
+
 /// Undoes escape(): what cannot be undone would be ambiguous on the screen.
 std::string unescape(const std::string& text) {
     std::string result;

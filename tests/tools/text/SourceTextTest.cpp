@@ -200,19 +200,6 @@ TEST(SourceText, TakesAPlaceInACharacterForItsBeginning) {
     EXPECT_EQ(text.excerpt(11).caret, 5U);
 }
 
-TEST(SourceText, KnowsWhichEncodingIsDeclared) {
-    const auto declared = [](const std::string& bytes) {
-        return std::string(SourceText(bytes).declaredEncoding());
-    };
-    EXPECT_EQ(declared("<?xml version=\"1.0\" encoding=\"windows-1252\"?><a/>"), "windows-1252");
-    EXPECT_EQ(declared("\xEF\xBB\xBF<?xml version='1.0' encoding = 'UTF-8' ?><a/>"), "UTF-8");
-    EXPECT_EQ(declared(utf16(u"<?xml version='1.0' encoding='UTF-16'?><a/>", true)), "UTF-16");
-    EXPECT_EQ(declared("<?xml version='1.0'?><a encoding='x'/>"), "");
-    EXPECT_EQ(declared("<a encoding='x'/>"), "");
-    EXPECT_EQ(declared("<?xml encoding=x"), "");
-    EXPECT_EQ(declared(""), "");
-}
-
 TEST(SourceText, ShowsALineWithItsPlace) {
     const SourceText text("\xEF\xBB\xBF<a>\r\n\t<b\x1b>\n</a>");
     EXPECT_EQ(text.excerpt(0).line, "<a>");
