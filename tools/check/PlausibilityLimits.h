@@ -21,12 +21,10 @@ constexpr double farBySlip = 300;
 constexpr double farBySlipAmongMany = 200;
 constexpr std::size_t manyFields = 10;
 
-/// The same where the fields of the farm lie so close together that the slip would explain it
-/// exactly: most of them are within this part of its distance from their centre, and without the
-/// slip it would be as near to there as they are, or twice as far.
-constexpr double farFromCluster = 20;
-constexpr double clusterPart = 1.0 / 20;
-constexpr std::size_t fewestInCluster = 5;
+/// The same in a farm of three fields or more, beside the distance within which two thirds of them
+/// lie, where that is less: in a farm that is small but for one field, this is how far that may be.
+constexpr double farFromSmallFarm = 155;
+constexpr std::size_t fewestInSmallFarm = 3;
 
 /// How many times as far it lies from their centre as most of them do.
 constexpr double farBeyondOthers = 4;

@@ -76,19 +76,13 @@ TEST(FarmSpread, FindsNothingWhereFieldsAreSpreadOverALine) {
     EXPECT_EQ(found({{"-17", "179.9"}, {"-17", "179.95"}, {"-17", "-179.9"}}), "");
 }
 
-TEST(FarmSpread, FindsFieldsNearALineThatASlipWouldPutAmongACloseGroup) {
-    const auto withFifth = [](const std::string& latitude) {
-        return found({{"0.30", "30.1"},
-                      {"0.31", "30.1"},
-                      {"0.30", "30.11"},
-                      {"0.31", "30.11"},
-                      {latitude, "30.1"}});
-    };
-    EXPECT_EQ(withFifth("-0.3"),
-              "Field[5]the centroid (-0.3, 30.1) is 67 km from the other fields of the farm; with "
+TEST(FarmSpread, FindsASlipNearALineWhereTheFarmIsSmall) {
+    EXPECT_EQ(found({{"0.80", "30.1"}, {"0.81", "30.1"}, {"-0.8", "30.1"}}),
+              "Field[3]the centroid (-0.8, 30.1) is 178 km from the other fields of the farm; with "
               "the other sign of its latitude it would be near");
-    EXPECT_EQ(withFifth("-0.35"), "");
-    EXPECT_EQ(withFifth("0.9"), "");
+    EXPECT_EQ(found({{"0.80", "30.1"}, {"-0.8", "30.1"}}), "");
+    EXPECT_EQ(found({{"0.80", "30.1"}, {"0.81", "30.1"}, {"2.4", "30.1"}}), "");
+    EXPECT_EQ(found({{"0.60", "30.1"}, {"1.00", "30.1"}, {"-0.8", "30.1"}}), "");
 }
 
 TEST(FarmSpread, TakesNoSideWhereHalfOfTheFieldsAreElsewhere) {
