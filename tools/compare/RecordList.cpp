@@ -17,6 +17,7 @@ boost::uuids::uuid RecordView::id() const {
         return context.geometry->geometryId();
     case Owner::Rec:
     case Owner::Product:
+    case Owner::Package: // no record, so never of a view
         break;
     }
     return context.rec->id();
@@ -48,6 +49,7 @@ std::string RecordView::name() const {
         return context.geometry->geometryDate();
     case Owner::Rec:
     case Owner::Product:
+    case Owner::Package: // no record, so never of a view
         break;
     }
     return context.rec->name();

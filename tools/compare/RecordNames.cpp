@@ -5,7 +5,8 @@
 #include "tools/text/Escape.h"
 
 const char* kindWord(Owner owner) {
-    constexpr std::array words = {"grower", "farm", "field", "boundary", "boundary", "rec", "rec"};
+    constexpr std::array words = {"package",  "grower",   "farm", "field",
+                                  "boundary", "boundary", "rec",  "rec"};
     return words.at(static_cast<std::size_t>(owner));
 }
 

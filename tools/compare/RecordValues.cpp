@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <string_view>
 
 #include <boost/uuid/uuid_io.hpp>
@@ -37,11 +38,14 @@ std::vector<const OutputField*> fieldsOf(Owner owner) {
 
 /// The fields that are compared of the records of an owner.
 const std::vector<const OutputField*>& comparedFields(Owner owner) {
-    static const std::array fields = {fieldsOf(Owner::Grower),   fieldsOf(Owner::Farm),
-                                      fieldsOf(Owner::Field),    fieldsOf(Owner::Geometry),
-                                      fieldsOf(Owner::Centroid), fieldsOf(Owner::Rec),
-                                      fieldsOf(Owner::Product)};
-    return fields.at(static_cast<std::size_t>(owner));
+    static const std::map<Owner, std::vector<const OutputField*>> fields = [] {
+        std::map<Owner, std::vector<const OutputField*>> byOwner;
+        for (const Owner each :
+             {Owner::Grower, Owner::Farm, Owner::Field, Owner::Geometry, Owner::Rec})
+            byOwner[each] = fieldsOf(each);
+        return byOwner;
+    }();
+    return fields.at(owner);
 }
 
 const char* parentName(Owner owner) {
