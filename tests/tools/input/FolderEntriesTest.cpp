@@ -43,7 +43,7 @@ TEST(FolderEntries, AreTheSameHoweverFewAreKeptAtATime) {
     FolderEntries whole(folder.path(""));
     const std::vector<std::string> expected = entriesOf(whole, passedOver);
     ASSERT_EQ(expected.size(), 46U);
-    for (const std::size_t atATime : {1, 2, 45, 46, 47}) {
+    for (const std::size_t atATime : {1U, 2U, 45U, 46U, 47U}) {
         FolderEntries entries(folder.path(""), atATime);
         PassedOver again;
         EXPECT_EQ(entriesOf(entries, again), expected) << atATime;
