@@ -31,8 +31,3 @@ TEST(CommercialFertilizerRec, ReturnsEveryValueThatItWasBuiltWith) {
     EXPECT_EQ(test::valueOf<int>(data, &CommercialFertilizerRec::uomId), 3);
     EXPECT_EQ(test::valueOf<string>(data, &CommercialFertilizerRec::uom), "unit");
 }
-
-TEST(CommercialFertilizerRec, IsOfTheKindCommercialFertilizer) {
-    CommercialFertilizerRec data(test::uuid(1), 2, "product", 3, "unit");
-    EXPECT_EQ(data.recType(), RecTypeCommercialFertilizer);
-}

@@ -86,10 +86,6 @@ TEST(CustomFertilizerRec, ReturnsEveryValueThatItWasBuiltWith) {
     EXPECT_EQ(data.uom(), "unit");
 }
 
-TEST(CustomFertilizerRec, IsOfTheKindCustomFertilizerWhenBuiltWhole) {
-    EXPECT_EQ(blend().recType(), RecTypeCustomFertilizer);
-}
-
 TEST(CustomFertilizerRec, EachSetterReplacesItsOwnValueAndNoOther) {
     for (const test::Property<Rec>& property : properties()) {
         SCOPED_TRACE(property.name);

@@ -80,10 +80,6 @@ TEST(PesticideRec, ReturnsEveryValueThatItWasBuiltWith) {
     EXPECT_EQ(data.uom(), "unit");
 }
 
-TEST(PesticideRec, IsOfTheKindPesticideWhenBuiltWhole) {
-    EXPECT_EQ(mix().recType(), RecTypePesticide);
-}
-
 TEST(PesticideRec, KeepsWholeLines) {
     PesticideRec data = mix();
     PesticideByPercent first = data.pesticidesByPercent().at(0);

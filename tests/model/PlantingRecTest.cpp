@@ -33,11 +33,6 @@ TEST(PlantingRec, ReturnsEveryValueThatItWasBuiltWith) {
     EXPECT_EQ(test::valueOf<string>(data, &PlantingRec::uom), "unit");
 }
 
-TEST(PlantingRec, IsOfTheKindPlanting) {
-    PlantingRec data(test::uuid(1), 2, "crop", 3, "company", 4, "variety", 5, "unit");
-    EXPECT_EQ(data.recType(), RecTypePlanting);
-}
-
 TEST(PlantingRec, KeepsValuesThatLookWrong) {
     const string bytes("\xff\0 x ", 5);
     PlantingRec data(uuid{}, -2147483647 - 1, bytes, 2147483647, "", -1, " ", 0, "\n");
