@@ -55,7 +55,7 @@ double kilometres(const Point& a, const Point& b) {
 /// Whether all places lie so close together that none is far from others. Most farms are like that,
 /// and cost no more.
 bool areTogether(const std::vector<Place>& places) {
-    constexpr double degrees = 0.95; // both ways, which is less than 150 km from corner to corner
+    constexpr double degrees = 1.2; // both ways, which is less than 200 km from corner to corner
     const auto isBelow = [](double Place::*coordinate) {
         return
             [coordinate](const Place& a, const Place& b) { return a.*coordinate < b.*coordinate; };
@@ -127,15 +127,6 @@ std::optional<Slip> slipOf(const Place& place, const Point& point, double reach)
     return nearest;
 }
 
-/// From where on a field is far that a slip would bring to the others.
-double farFor(std::size_t count, double usual) {
-    const double far =
-        count < plausible::manyFields ? plausible::farBySlip : plausible::farBySlipAmongMany;
-    return count < plausible::fewestInSmallFarm
-               ? far
-               : std::min(far, plausible::farFromSmallFarm + usual);
-}
-
 } // namespace
 
 FarmSpread::FarmSpread(pugi::xml_node farm) {
@@ -171,7 +162,8 @@ std::optional<FarmSpread::Stray> FarmSpread::strayOf(pugi::xml_node fieldCentroi
     }
     const bool ofTwo = count_ == 2;
     const double distance = kilometres(pointOf(place), others_);
-    const double far = farFor(count_, usual_);
+    const double far =
+        count_ < plausible::manyFields ? plausible::farBySlip : plausible::farBySlipAmongMany;
     if (count_ == 1 || distance <= far || (ofTwo && fieldCentroid != last_) ||
         (!ofTwo && distance <= plausible::farBeyondOthers * usual_))
         return std::nullopt;

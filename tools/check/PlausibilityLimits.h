@@ -21,11 +21,6 @@ constexpr double farBySlip = 300;
 constexpr double farBySlipAmongMany = 200;
 constexpr std::size_t manyFields = 10;
 
-/// The same in a farm of six fields or more, beside the distance within which two thirds of them
-/// lie, where that is less: in a farm that is small but for one field, this is how far that may be.
-constexpr double farFromSmallFarm = 155;
-constexpr std::size_t fewestInSmallFarm = 6;
-
 /// How many times as far it lies from their centre as most of them do.
 constexpr double farBeyondOthers = 4;
 

@@ -76,23 +76,6 @@ TEST(FarmSpread, FindsNothingWhereFieldsAreSpreadOverALine) {
     EXPECT_EQ(found({{"-17", "179.9"}, {"-17", "179.95"}, {"-17", "-179.9"}}), "");
 }
 
-TEST(FarmSpread, FindsASlipNearALineWhereTheFarmIsSmall) {
-    const auto withSixth = [](const std::string& latitude) {
-        return found({{"0.80", "30.1"},
-                      {"0.81", "30.1"},
-                      {"0.80", "30.11"},
-                      {"0.81", "30.11"},
-                      {"0.81", "30.12"},
-                      {latitude, "30.1"}});
-    };
-    EXPECT_EQ(withSixth("-0.8"),
-              "Field[6]the centroid (-0.8, 30.1) is 179 km from the other fields of the farm; with "
-              "the other sign of its latitude it would be near");
-    EXPECT_EQ(withSixth("2.4"), "");
-    EXPECT_EQ(found({{"0.80", "30.1"}, {"0.81", "30.1"}, {"-0.8", "30.1"}}), "");
-    EXPECT_EQ(found({{"0.60", "30.1"}, {"1.00", "30.1"}, {"-0.8", "30.1"}}), "");
-}
-
 TEST(FarmSpread, TakesNoSideWhereHalfOfTheFieldsAreElsewhere) {
     EXPECT_EQ(found({{lat, "18.61"}, {lat, "18.62"}, {lat, "-18.61"}, {lat, "-18.62"}}), "");
 }
