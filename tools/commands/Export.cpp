@@ -159,7 +159,7 @@ std::vector<ExportFormatName> exportFormats() {
     std::vector<ExportFormatName> names;
     names.reserve(formats.size());
     for (const Format& format : formats)
-        names.push_back({format.name, format.title});
+        names.push_back({format.name, format.title == nullptr ? format.name : format.title});
     return names;
 }
 

@@ -5,7 +5,8 @@
 
 #include "tools/commands/Command.h"
 
-/// What a format of `qenxml export` is called: on the command line, and by people.
+/// What a format of `qenxml export` is called: on the command line, and by people, who may have no
+/// other name for it.
 struct ExportFormatName {
     const char* name;
     const char* title;

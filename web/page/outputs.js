@@ -57,7 +57,7 @@ class Outputs {
                 ["export", "--format", name, ...(merge.checked ? ["--merge"] : [])],
                 `packages.${name}`,
             );
-        return element("button", { type: "button", onclick: download }, title);
+        return element("button", { type: "button", "data-format": name, onclick: download }, title);
     }
 
     #comparisonButton({ title, args }) {
