@@ -5,8 +5,11 @@
 #define QENXML_TOOLS_CHECK_CONSEQUENCE_H
 
 #include <cstddef>
+#include <optional>
 #include <string>
+#include <utility>
 #include <variant>
+#include <vector>
 
 /// Everything is read as it is written.
 struct Kept {};
@@ -58,7 +61,22 @@ struct NotReached {
 /// What comes after it is not checked.
 struct CheckEnds {};
 
+/// One of the versions of a record. Texts are safe to print.
+struct MergedVersion {
+    std::string file;         ///< The first package that has it; of a farm the last.
+    std::size_t packages = 1; ///< How many have it.
+    bool canCount = true;     ///< Whether it is shown in some order of the packages.
+    std::vector<std::pair<std::string, std::string>> values; ///< Those that differ, by name.
+};
+
+/// Of several versions of a record merging shows one, which depends on the order of the packages.
+struct Merges {
+    std::vector<MergedVersion> versions;   ///< That which is shown in this order first.
+    std::size_t more = 0;                  ///< Versions that are none of those.
+    std::optional<std::size_t> editedLast; ///< The number of the one that was, if that is known.
+};
+
 using Consequence = std::variant<Kept, Dropped, ReadAs, Replaces, Without, NothingRead, ReadingEnds,
-                                 NotReached, CheckEnds>;
+                                 NotReached, CheckEnds, Merges>;
 
 #endif

@@ -153,7 +153,18 @@ constexpr std::string_view wordFor(Severity severity) {
             "hosts can only show its number")                                                      \
     FINDING(NilIdentifier, "nil-identifier", Note, "an identifier is nil",                         \
             "hosts cannot tell it from an identifier that is not there")                           \
-    FINDING(NumberEmpty, "number-empty", Note, "an element for a number is empty")
+    FINDING(NumberEmpty, "number-empty", Note, "an element for a number is empty")                 \
+    FINDING(PackageTwice, "package-twice", Warning, "two packages have the same UUID",             \
+            "recs of both name the same package")                                                  \
+    FINDING(PackageRenamed, "package-renamed", Warning, "a package is there under two names",      \
+            "what it holds counts once; each rec names the package that is read first")            \
+    FINDING(NameDiffers, "name-differs", Warning, "a record has two names")                        \
+    FINDING(BoundaryDiffers, "boundary-differs", Warning, "a boundary has two versions")           \
+    FINDING(RecDiffers, "rec-differs", Warning, "a rec has two versions")                          \
+    FINDING(InTwoPlaces, "in-two-places", Warning, "a record stands in two places",                \
+            "merging keeps it in each of them, as if there were two")                              \
+    FINDING(BoundaryAdded, "boundary-added", Note, "a field has two boundaries",                   \
+            "merging keeps them all; each rec names its own")
 
 /// What can be found.
 enum class FindingCode : std::size_t {
@@ -161,6 +172,11 @@ enum class FindingCode : std::size_t {
     QENXML_FINDINGS(QENXML_FINDING_CONSTANT)
 #undef QENXML_FINDING_CONSTANT
 };
+
+/// Whether it is about several packages, of which `qenxml check --together` tells.
+constexpr bool isAboutSeveral(FindingCode code) {
+    return code >= FindingCode::PackageTwice;
+}
 
 /// What is the same for all findings of a code.
 struct FindingKind {

@@ -4,6 +4,7 @@
 #include <array>
 #include <chrono>
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -25,6 +26,7 @@
 #include "tools/options/HelpFormatter.h"
 #include "tools/output/ProgressLine.h"
 #include "tools/text/Words.h"
+#include "tools/together/TogetherCheck.h"
 
 namespace {
 
@@ -32,6 +34,7 @@ constexpr const char* examples =
     "  qenxml check 00112233-4455-6677-8899-aabbccddeeff.xml\n"
     "  qenxml check --strict outgoing/            all packages in a folder; warnings fail, too\n"
     "  qenxml check --ignore empty-name *.xml     leave a kind of findings out\n"
+    "  qenxml check --together stick/             what a terminal shows of two versions of a rec\n"
     "  qenxml check --format json *.xml           for other programs\n"
     "  unzip -p all.zip a.xml | qenxml check --uuid 00112233-4455-6677-8899-aabbccddeeff -\n";
 
@@ -67,6 +70,7 @@ const Format& formatNamed(const std::string& name) {
 struct CheckOptions {
     std::string format = formats.front().name;
     Detail detail = Detail::Findings;
+    bool together = false;
     std::string failOn = "error";
     std::vector<std::string> ignored;
     std::string baseline; ///< A file; empty for none.
@@ -94,34 +98,65 @@ Baseline baselineIn(const std::string& path) {
     }
 }
 
-/// Checks the files one by one.
-///
-/// @return what was found in all of them, beyond what the baseline has
-FindingCounts checkFiles(PackageNames& names, const WantedCodes& wanted, Baseline& baseline,
-                         CheckWriter& writer, Console& console) {
-    FindingCounts sum;
-    std::size_t known = 0;
-    ProgressLine progress(console, untilProgress);
-    writer.begin();
-    names.forEach([&](const PackageInput& input) {
-        WantedFindings findings(wanted, progress, writer.beginFile(input.name()));
-        progress.beginFile(input.name());
-        NewFindings unknown(baseline, wanted, input.name(), findings);
-        if (baseline.isEmpty())
-            checkInput(input, findings);
+/// Writes what is found of one file after the other.
+class FileChecks {
+public:
+    FileChecks(const WantedCodes& wanted, Baseline& baseline, CheckWriter& writer,
+               ProgressLine& progress)
+        : wanted_(wanted), baseline_(baseline), writer_(writer), progress_(progress) {
+        writer_.begin();
+    }
+
+    /// @param find gives what is found to a sink
+    void add(const std::string& name, const std::function<void(FindingSink&)>& find) {
+        WantedFindings findings(wanted_, progress_, writer_.beginFile(name));
+        NewFindings unknown(baseline_, wanted_, name, findings);
+        if (baseline_.isEmpty())
+            find(findings);
         else
-            checkInput(input, unknown);
-        writer.endFile();
-        sum += findings.counts();
-        known += unknown.known();
+            find(unknown);
+        writer_.endFile();
+        sum_ += findings.counts();
+        known_ += unknown.known();
+    }
+
+    /// @return what was found in all of them, beyond what the baseline has
+    FindingCounts end(Console& console) {
+        writer_.end();
+        console.clearProgress();
+        if (known_ > 0)
+            console.complain(
+                fmt::format("{} left out, which the baseline has", quantity(known_, "finding")));
+        return sum_;
+    }
+
+private:
+    const WantedCodes& wanted_;
+    Baseline& baseline_;
+    CheckWriter& writer_;
+    ProgressLine& progress_;
+    FindingCounts sum_;
+    std::size_t known_ = 0;
+};
+
+void checkOneByOne(PackageNames& names, ProgressLine& progress, FileChecks& checks) {
+    names.forEach([&](const PackageInput& input) {
+        progress.beginFile(input.name());
+        checks.add(input.name(), [&](FindingSink& sink) { checkInput(input, sink); });
         return true; // What cannot be read is among the findings.
     });
-    writer.end();
-    console.clearProgress();
-    if (known > 0)
-        console.complain(
-            fmt::format("{} left out, which the baseline has", quantity(known, "finding")));
-    return sum;
+}
+
+void checkTogether(PackageNames& names, ProgressLine& progress, FileChecks& checks) {
+    TogetherCheck together;
+    names.forEach([&](const PackageInput& input) {
+        progress.beginFile(input.name());
+        together.add(input);
+        return true;
+    });
+    for (std::size_t package = 0; package < together.size(); ++package)
+        checks.add(together.name(package),
+                   [&](FindingSink& sink) { together.check(package, sink); });
 }
 
 /// Whether anything was found that is as grave as @p least.
@@ -143,8 +178,14 @@ ExitCode check(const CheckOptions& options, Console& console) {
         throw CLI::ValidationError("--quiet, --statistics and --verbose are for the format text");
     Baseline baseline = baselineIn(options.baseline);
     const auto writer = formatNamed(options.format).make(console, {names.isOne(), options.detail});
-    const FindingCounts counts =
-        checkFiles(names, wantedCodes(options.ignored), baseline, *writer, console);
+    const WantedCodes wanted = wantedCodes(options.ignored);
+    ProgressLine progress(console, untilProgress);
+    FileChecks checks(wanted, baseline, *writer, progress);
+    if (options.together)
+        checkTogether(names, progress, checks);
+    else
+        checkOneByOne(names, progress, checks);
+    const FindingCounts counts = checks.end(console);
     const bool failed = !names.finish() || isFailure(counts, options.failOn);
     return failed ? ExitCode::Failure : ExitCode::Success;
 }
@@ -212,6 +253,8 @@ Command addCheck(CLI::App& application) {
     const auto options = std::make_shared<CheckOptions>();
     parser->formatter(std::make_shared<HelpFormatter>(examples));
     parser->footer(checkExitCodeHelp);
+    parser->add_flag("--together", options->together,
+                     "Find what merging the packages in this order loses or changes");
     addFormatOptions(*parser, *options);
     addDetailOptions(*parser, *options);
     addFailureOptions(*parser, *options);

@@ -48,6 +48,24 @@ struct Members {
                            end.errors, end.sameGrower);
     }
     std::string operator()(const CheckEnds&) const { return R"("check-ends")"; }
+    std::string operator()(const Merges& merges) const {
+        std::string versions;
+        for (const MergedVersion& version : merges.versions)
+            versions += (versions.empty() ? "" : ",") + versionJson(version);
+        return fmt::format(
+            R"("merges","versions":[{}],"more":{}{})", versions, merges.more,
+            merges.editedLast ? fmt::format(R"(,"editedLast":{})", *merges.editedLast) : "");
+    }
+
+private:
+    static std::string versionJson(const MergedVersion& version) {
+        std::string values;
+        for (const auto& [name, text] : version.values)
+            values += fmt::format(R"({}{{"name":{},"text":{}}})", values.empty() ? "" : ",",
+                                  toJson(name), toJson(text));
+        return fmt::format(R"({{"file":{},"packages":{},"canCount":{},"values":[{}]}})",
+                           toJson(version.file), version.packages, version.canCount, values);
+    }
 };
 
 std::string locationMembers(const Location& location) {

@@ -1,5 +1,9 @@
 #include "tools/findings/FindingSummary.h"
 
+#include <string>
+#include <variant>
+#include <vector>
+
 #include <fmt/format.h>
 
 #include "tools/findings/FindingText.h"
@@ -18,6 +22,29 @@ std::string excerptText(const Location& location, const Style& style) {
                        "", location.excerpt.caret, style.error("^"));
 }
 
+/// The versions, and below them side by side the values that differ.
+std::string versionsText(const Merges& merges, const Style& style) {
+    std::string text;
+    for (std::size_t i = 0; i < merges.versions.size(); ++i) {
+        const MergedVersion& version = merges.versions[i];
+        text +=
+            fmt::format("  {}    {}{}{}{}\n", style.label(fmt::format("({})", i + 1)), version.file,
+                        version.packages > 1
+                            ? fmt::format(" and {}", quantity(version.packages - 1, "more file"))
+                            : "",
+                        i == 0 ? ", shown" : "", merges.editedLast == i ? ", edited last" : "");
+    }
+    for (std::size_t value = 0; value < merges.versions.front().values.size(); ++value) {
+        std::vector<std::string> texts;
+        for (std::size_t i = 0; i < merges.versions.size(); ++i)
+            texts.push_back(fmt::format("({}) {}", i + 1, merges.versions[i].values[value].second));
+        text += fmt::format("         {}: {}\n",
+                            style.label(merges.versions.front().values[value].first),
+                            joined(texts, ", "));
+    }
+    return text;
+}
+
 /// The form that compilers use, with a place for those too that are about none.
 std::string findingText(const Finding& finding, const std::string& file, const Style& style) {
     const Position begin = finding.location ? finding.location->begin : Position{1, 1};
@@ -30,8 +57,10 @@ std::string findingText(const Finding& finding, const std::string& file, const S
         text += fmt::format("  where: {}\n", finding.path);
     if (const std::string records = recordsText(finding); !records.empty())
         text += fmt::format("  of:    {}\n", records);
-    text += fmt::format("  so:    {}\n\n", consequenceText(finding));
-    return text;
+    text += fmt::format("  so:    {}\n", consequenceText(finding));
+    if (const auto* const merges = std::get_if<Merges>(&finding.consequence))
+        text += versionsText(*merges, style);
+    return text + '\n';
 }
 
 std::string groupText(const FindingCollection& findings, FindingCode code, const std::string& file,

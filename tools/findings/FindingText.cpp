@@ -57,6 +57,23 @@ public:
                            end.errors == 1 ? "that is" : thoseBefore(end.errors, "error"));
     }
     std::string operator()(const CheckEnds&) const { return "the check ends here"; }
+    std::string operator()(const Merges& merges) const {
+        std::vector<std::string> others;
+        std::vector<std::string> never;
+        for (std::size_t i = 1; i < merges.versions.size(); ++i)
+            (merges.versions[i].canCount ? others : never).push_back(merges.versions[i].file);
+        if (merges.more > 0)
+            others.push_back(fmt::format("{} more", merges.more));
+        std::string text = "in this order a terminal shows that of " + merges.versions.front().file;
+        text +=
+            others.empty() ? ", and so in any" : ", in others that of " + joined(others, " or ");
+        if (!never.empty())
+            text += fmt::format("; never that of {}", joined(never, " or "));
+        if (merges.editedLast)
+            text += fmt::format("; that of {} was edited last",
+                                merges.versions.at(*merges.editedLast).file);
+        return text;
+    }
 
 private:
     /// @param usual the sentence about most consequences of a kind

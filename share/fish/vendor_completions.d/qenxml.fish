@@ -29,6 +29,7 @@ complete -c qenxml -n '__fish_seen_subcommand_from check' -l format -x -a '(__qe
 complete -c qenxml -n '__fish_seen_subcommand_from export' -l delimiter -x -a '"," ";" "|" tab' -d 'What separates the cells of CSV'
 complete -c qenxml -n '__fish_seen_subcommand_from export' -l decimal -x -a '"." ","' -d 'What comes before decimals in CSV'
 complete -c qenxml -n '__fish_seen_subcommand_from export' -l no-bom -d 'Begin CSV without a byte-order mark'
+complete -c qenxml -n '__fish_seen_subcommand_from check' -l together -d 'Find what merging the packages loses or changes'
 complete -c qenxml -n '__fish_seen_subcommand_from check' -l json -d 'As --format json'
 complete -c qenxml -n '__fish_seen_subcommand_from check' -l verbose -d 'List the files without findings, too'
 complete -c qenxml -n '__fish_seen_subcommand_from check' -l statistics -d 'Print only what cannot be read, and counts by code'

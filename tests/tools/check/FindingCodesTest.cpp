@@ -18,6 +18,7 @@
 #include "tests/support/TemporaryFolder.h"
 #include "tests/tools/RunCommand.h"
 #include "tools/check/PackageCheck.h"
+#include "tools/findings/Explanation.h"
 
 namespace fs = std::filesystem;
 
@@ -53,6 +54,10 @@ std::string word(Severity severity) {
                                            : "Note";
 }
 
+bool isTogether(const std::string& code) {
+    return isAboutSeveral(codeNamed(code).value());
+}
+
 TEST(FindingCodes, AreLowerCaseWordsAndUnique) {
     std::set<std::string> codes;
     for (const FindingKind& kind : findingKinds) {
@@ -86,29 +91,45 @@ TEST(FindingCodes, AreDocumentedWithCauseExampleAndCure) {
         EXPECT_LT(cause, example);
         EXPECT_LT(example, cure);
         const std::string code = entry.substr(0, entry.find('`'));
+        const std::string folder = isTogether(code) ? "together/" : "broken/";
         const bool linked =
-            entry.find("(../examples/packages/broken/" + code + "/)") != std::string::npos;
+            entry.find("(../examples/packages/" + folder + code + "/)") != std::string::npos;
         EXPECT_EQ(linked, code != "unreadable"); // a file that is not there cannot be a sample
     }
 }
 
-TEST(FindingCodes, HaveASampleEach) {
-    std::set<std::string> samples;
-    for (const fs::directory_entry& entry :
-         fs::directory_iterator(source / "examples/packages/broken"))
+std::set<std::string> foldersIn(const fs::path& folder) {
+    std::set<std::string> folders;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder))
         if (entry.is_directory())
-            samples.insert(entry.path().filename().string());
-    std::set<std::string> codes;
+            folders.insert(entry.path().filename().string());
+    return folders;
+}
+
+TEST(FindingCodes, HaveASampleEach) {
+    std::set<std::string> ofOne;
+    std::set<std::string> ofSeveral;
     for (const FindingKind& kind : findingKinds)
-        codes.insert(kind.code);
-    codes.erase("unreadable");
-    EXPECT_EQ(samples, codes);
+        (isTogether(kind.code) ? ofSeveral : ofOne).insert(kind.code);
+    ofOne.erase("unreadable");
+    EXPECT_EQ(foldersIn(source / "examples/packages/broken"), ofOne);
+    EXPECT_EQ(foldersIn(source / "examples/packages/together"), ofSeveral);
+}
+
+TEST(FindingCodes, OfSeveralPackagesStandInTheReadmeOfTheirSamples) {
+    const std::string readme = textOf(source / "examples/packages/together/README.md");
+    for (const FindingKind& kind : findingKinds) {
+        if (isTogether(kind.code)) {
+            EXPECT_NE(readme.find("\n| `" + std::string(kind.code) + "` |"), std::string::npos);
+        }
+    }
 }
 
 TEST(FindingCodes, HaveAGoldenFileForEverySample) {
     for (const FindingKind& kind : findingKinds) {
-        const std::string golden =
-            textOf(source / "tests/tools/golden" / ("check-" + std::string(kind.code) + ".txt"));
+        const std::string name =
+            (isTogether(kind.code) ? "together-" : "check-") + std::string(kind.code) + ".txt";
+        const std::string golden = textOf(source / "tests/tools/golden" / name);
         EXPECT_NE(golden.find("[" + std::string(kind.code) + "]\n"), std::string::npos)
             << kind.code;
     }

@@ -40,6 +40,9 @@ struct ConsequenceText {
                std::to_string(end.line) + (end.sameGrower ? " of this grower" : "");
     }
     std::string operator()(const CheckEnds&) const { return "check ends"; }
+    std::string operator()(const Merges& merges) const {
+        return "shows that of " + merges.versions.front().file;
+    }
 };
 
 } // namespace

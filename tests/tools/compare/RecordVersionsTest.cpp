@@ -6,7 +6,6 @@
 #include "tools/compare/RecordVersions.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <map>
 #include <numeric>
 #include <set>
@@ -16,40 +15,19 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/tools/records/RandomGrowers.h"
+#include "tests/tools/compare/RandomSets.h"
 
 namespace {
 
-using Growers = std::vector<QenGrower>;
+using test::Growers;
 /// The contents of the records, by their places.
 using Shown = std::map<std::uint64_t, std::uint64_t>;
 
-unsigned fromEnvironment(const char* name, unsigned usual) {
-    const char* const text = std::getenv(name); // NOLINT(concurrency-mt-unsafe): one thread
-    return text == nullptr ? usual : static_cast<unsigned>(std::stoul(text));
-}
-
-std::vector<RecordVersion> versions(const Growers& growers, std::size_t package) {
-    PackageReading reading;
-    reading.growers = growers;
-    return versionsOf(RecordList(std::move(reading)), package);
-}
-
-/// What a host shows that merges growers as the library does, in the order of the packages.
 Shown shownByTheLibrary(const std::vector<Growers>& packages,
                         const std::vector<std::size_t>& order) {
-    Growers merged;
-    for (const std::size_t package : order) {
-        for (const QenGrower& grower : packages[package]) {
-            const auto present = std::find(merged.begin(), merged.end(), grower);
-            if (present == merged.end())
-                merged.push_back(grower);
-            else
-                present->merge(grower);
-        }
-    }
     Shown shown;
-    for (const RecordVersion& version : versions(merged, 0))
+    for (const RecordVersion& version :
+         test::versionsOf(test::mergedByTheLibrary(packages, order), 0))
         EXPECT_TRUE(shown.emplace(version.place, version.content).second);
     return shown;
 }
@@ -71,27 +49,12 @@ Shown shownByVersions(const std::vector<std::vector<RecordVersion>>& packages,
     return shown;
 }
 
-/// Packages of few records with few contents, up to four; in some a grower comes twice.
-std::vector<Growers> randomSet(unsigned seed) {
-    const test::GrowerSizes sizes = {2, 2, 2, 1, 2, 3};
-    test::RandomGrowers random(seed, sizes);
-    std::vector<Growers> packages(2 + random.below(3));
-    for (Growers& package : packages) {
-        package = random.growers();
-        if (random.below(4) == 0) {
-            for (const QenGrower& again : random.growers())
-                package.push_back(again);
-        }
-    }
-    return packages;
-}
-
 /// Compares all orders of a set.
 void expectWhatTheLibraryMakes(const std::vector<Growers>& packages) {
     std::vector<std::vector<RecordVersion>> all;
     RecordVersions different(RecordVersions::Keep::Contents);
     for (std::size_t package = 0; package < packages.size(); ++package) {
-        all.push_back(versions(packages[package], package));
+        all.push_back(test::versionsOf(packages[package], package));
         different.add(all.back());
     }
     std::set<std::pair<std::uint64_t, std::uint64_t>> everShown;
@@ -111,11 +74,11 @@ void expectWhatTheLibraryMakes(const std::vector<Growers>& packages) {
 }
 
 TEST(RecordVersions, SayWhatTheLibraryMakesOfPackagesInEveryOrder) {
-    const unsigned sets = fromEnvironment("QENXML_MEETING_SETS", 150);
-    const unsigned first = fromEnvironment("QENXML_MEETING_SEED", 1);
+    const unsigned sets = test::fromEnvironment("QENXML_MEETING_SETS", 150);
+    const unsigned first = test::fromEnvironment("QENXML_MEETING_SEED", 1);
     for (unsigned seed = first; seed < first + sets && !testing::Test::HasFailure(); ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
-        expectWhatTheLibraryMakes(randomSet(seed));
+        expectWhatTheLibraryMakes(test::randomSet(seed));
     }
 }
 
@@ -128,7 +91,7 @@ Growers growerOfFarm(const std::string& farm) {
 TEST(RecordVersions, CountHowManyAreEqual) {
     RecordVersions different(RecordVersions::Keep::Contents);
     for (std::size_t package = 0; package < 40'000; ++package)
-        different.add(versions(growerOfFarm(package == 3 ? "other" : "farm"), package));
+        different.add(test::versionsOf(growerOfFarm(package == 3 ? "other" : "farm"), package));
     std::multiset<std::uint32_t> counts;
     for (const RecordVersion& version : different.all())
         counts.insert(version.count);
@@ -136,8 +99,8 @@ TEST(RecordVersions, CountHowManyAreEqual) {
 }
 
 TEST(RecordVersions, OutrankOthersInTheFirstPackageButFarmsInTheLast) {
-    const std::vector<RecordVersion> first = versions(growerOfFarm("a"), 0);
-    const std::vector<RecordVersion> second = versions(growerOfFarm("b"), 1);
+    const std::vector<RecordVersion> first = test::versionsOf(growerOfFarm("a"), 0);
+    const std::vector<RecordVersion> second = test::versionsOf(growerOfFarm("b"), 1);
     EXPECT_TRUE(outranks(first.at(0), second.at(0)));
     EXPECT_FALSE(outranks(second.at(0), first.at(0)));
     EXPECT_TRUE(outranks(second.at(1), first.at(1)));
