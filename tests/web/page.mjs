@@ -187,6 +187,20 @@ await step("a package that was mended is dropped again", async () => {
     assert.deepEqual((await test.list()).map(({ state }) => state), ["no problems found"]);
 });
 
+await step("packages are compared as the command does it", async () => {
+    await test.clear();
+    const names = packagesIn(samples).slice(0, 2);
+    await test.drop(...names.map((name) => join(samples, name)));
+    const { output } = nativeRun(command, ["diff", "--", ...names], samples);
+    await page.evaluate(() => [...document.querySelectorAll("#comparison-buttons button")]
+        .find((button) => button.textContent.includes("differ")).click());
+    await page.waitForSelector("#comparison-text pre");
+    assert.equal((await test.texts("#comparison-text pre"))[0], output.toString());
+    await test.filter(names[0], "");
+    await page.click("#comparison-buttons button:last-child");
+    assert.match((await test.texts("#output-text"))[0], /show 2 packages/);
+});
+
 await step("a large package, with a stop before", async () => {
     await test.clear();
     const path = join(work, "00112233-4455-6677-8899-aabbccddeeff.xml");

@@ -10,6 +10,7 @@ const comparisons = [
     {
         title: "Tell how two differ",
         args: ["diff"],
+        wanted: 2,
         isOffered: ({ help }) => /^ +diff /m.test(help),
     },
 ];
@@ -60,11 +61,17 @@ class Outputs {
         return element("button", { type: "button", "data-format": name, onclick: download }, title);
     }
 
-    #comparisonButton({ title, args }) {
-        return element("button", { type: "button", onclick: () => this.#compare(args) }, title);
+    #comparisonButton(comparison) {
+        const compare = () => this.#compare(comparison);
+        return element("button", { type: "button", onclick: compare }, comparison.title);
     }
 
-    async #compare(args) {
+    async #compare({ args, wanted }) {
+        if (wanted !== undefined && this.#shown().length !== wanted) {
+            this.clear();
+            byId("output-text").append(`Have the list show ${wanted} packages, by its filter.`);
+            return;
+        }
         const outcome = await this.#make(args);
         if (outcome === null) return;
         const text = new TextDecoder().decode(outcome.output);
