@@ -9,8 +9,11 @@
 
 /// A record with those around it.
 struct RecordView {
-    Owner owner; ///< What it is; a centroid belongs to its geometry, a product to its rec.
-    OutputContext context; ///< Itself and what it stands in.
+    /// What it is; a centroid belongs to its geometry, a product to its rec.
+    Owner owner = Owner::Grower;
+
+    /// Itself and what it stands in.
+    OutputContext context;
 
     boost::uuids::uuid id() const;
 
@@ -27,6 +30,7 @@ public:
     explicit RecordList(PackageReading reading);
     RecordList(const RecordList&) = delete;
     RecordList& operator=(const RecordList&) = delete;
+    ~RecordList() = default;
 
     const PackageReading& reading() const { return reading_; }
     const std::vector<RecordView>& records() const { return records_; }

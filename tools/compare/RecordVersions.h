@@ -11,15 +11,15 @@
 /// A record of a package, small enough that those of all packages fit into memory: what it is and
 /// holds only as hashes.
 struct RecordVersion {
-    std::uint64_t record;  ///< Of its kind and identifier.
-    std::uint64_t place;   ///< Of those of all records from the grower to itself.
-    std::uint64_t outer;   ///< The place of the record that it stands in.
-    std::uint64_t parent;  ///< Of the identifier of that record.
-    std::uint64_t content; ///< As contentHash() has it.
-    std::uint32_t package;
-    std::uint32_t number;    ///< In the package, as RecordList counts.
-    std::uint32_t count = 1; ///< How many records it stands for, which are the same but for where.
-    Owner owner;
+    std::uint64_t record = 0;  ///< Of its kind and identifier.
+    std::uint64_t place = 0;   ///< Of those of all records from the grower to itself.
+    std::uint64_t outer = 0;   ///< The place of the record that it stands in.
+    std::uint64_t parent = 0;  ///< Of the identifier of that record.
+    std::uint64_t content = 0; ///< As contentHash() has it.
+    std::uint32_t package = 0;
+    std::uint32_t number = 0; ///< In the package, as RecordList counts.
+    std::uint32_t count = 1;  ///< How many records it stands for, which are the same but for where.
+    Owner owner = Owner::Grower;
     bool canCount = true; ///< Whether merging shows it in some order of the packages.
 
     /// Whether it stands before another one in the order of the packages.
