@@ -67,6 +67,9 @@ for file in samples["files"]:
             assert end <= len(content), finding
             assert finding["line"] == content[:begin].count(b"\n") + 1, finding
             assert finding["endLine"] == content[:end].count(b"\n") + 1, finding
+together = check("--together", "together", code=0)
+kinds |= {finding["consequence"]["kind"] for file in together["files"]
+          for finding in file["findings"]}
 known = {kind["properties"]["kind"]["const"] for kind in schema["$defs"]["consequence"]["oneOf"]}
 assert known - kinds == {"check-ends"}, (known, kinds)  # Memory does not run out here.
 
