@@ -15,9 +15,8 @@ QenXmlParser::~QenXmlParser() = default;
 bool QenXmlParser::parseFile(std::string path) {
     // The first text of an element stands in the element itself: without a node of its own for
     // nearly every value the document takes half of the memory.
-    const pugi::xml_parse_result loaded =
-        document_.load_file(path.c_str(), pugi::parse_default | pugi::parse_embed_pcdata,
-                            pugi::encoding_auto);
+    const pugi::xml_parse_result loaded = document_.load_file(
+        path.c_str(), pugi::parse_default | pugi::parse_embed_pcdata, pugi::encoding_auto);
     // The name comes before the result of loading: callers rely on a failure of the name being
     // raised for any file, and on the package identifier being taken over for a broken one.
     xmlFileName_ = qenxml::uuidFromText(qenxml::packageIdentifier(path));

