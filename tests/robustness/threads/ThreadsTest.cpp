@@ -242,6 +242,6 @@ TEST(Threads, ReadOneUnchangingTreeThroughAllOtherGetters) {
         return text;
     };
     const std::string expected = read();
-    EXPECT_NE(std::string::npos, expected.find("\"mix\" 8"));
+    EXPECT_NE(std::string::npos, expected.find("\"mix\" \"8\""));
     expectEverywhere(expected, read);
 }
