@@ -47,6 +47,7 @@ private:
         const RecordName own = records.back();
         records.pop_back();
         std::vector<std::string> around;
+        around.reserve(records.size());
         for (const RecordName& record : records)
             around.push_back(fmt::format("{} \"{}\"", record.kind, record.name));
         return fmt::format(
