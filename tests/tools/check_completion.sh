@@ -52,8 +52,8 @@ given_to_zsh() { # WORD...
         _call_program() { shift; "$@" 2>/dev/null; }
         _describe() { print -l ${(P)4}; }
         _arguments() {
-            for spec; do
-                [[ $spec != *:format:* ]] || { eval "offered=${spec#*:format:}" && print -l $offered; }
+            for argument; do
+                [[ $argument != *:format:* ]] || { eval "offered=${argument#*:format:}" && print -l $offered; }
             done
         }
         fpath=("$1/zsh/site-functions") && autoload -U _qenxml
