@@ -1,6 +1,7 @@
 #include "tools/files/FileStream.h"
 
 #include <cerrno>
+#include <utility>
 
 #include <unistd.h>
 
