@@ -43,6 +43,9 @@ unpack_packages() {
     for package in "$folder"/apt/cache/archives/*.deb; do
         dpkg-deb -x "$package" "$folder"
     done
+    # shellcheck disable=SC2016
+    dpkg-deb --show --showformat='${Package} ${Version} ${source:Package} ${source:Version}\n' \
+        "$folder"/apt/cache/archives/*.deb >"$folder/versions"
     rm -rf "$folder/apt"
     echo "$*" >"$folder/unpacked"
 }
@@ -67,9 +70,11 @@ unpack_sources() {
         for version in $(private_apt "$architecture" "$folder/apt" \
             apt-cache "${from[@]}" showsrc --only-source "$package" |
             sed -n 's/^Version: //p' | sort -rVu) none; do
+            [ "$version" != none ] || { echo "No sources of $package can be fetched" >&2; return 1; }
             # A mirror may lack what it lists last; what is fetched is verified all the same.
             ! (cd "$folder" && private_apt "$architecture" "$folder/apt" apt-get "${from[@]}" \
                 source -qq --download-only "$package=$version" >&2) || break
+            echo "The sources of $package $version are not there; trying those before" >&2
         done
         dpkg-source --no-check -x "$folder/${package}_"*.dsc "$folder/$package" >&2
     done

@@ -116,3 +116,30 @@ endif()
 if(COMMAND)
     expect_linked_named(${COMMAND} qenxml)
 endif()
+
+# With the page, what that is made of is named, too: headers, sources and the compiler, as scripts/web
+# leaves them.
+file(REMOVE_RECURSE ${WORK_DIR})
+file(WRITE ${WORK_DIR}/libraries-web/versions
+    "libcli11-dev 2.0+a-1 cli11 2.0-1\nlibboost-dev 1 boost-defaults 1\n")
+file(WRITE ${WORK_DIR}/libraries-web/compiler "emscripten 3-1 emscripten 3-1\n")
+execute_process(COMMAND bash -c "set -eu; . scripts/packages.sh; echo $sources_web"
+    WORKING_DIRECTORY ${SOURCE_DIR} OUTPUT_VARIABLE sources
+    OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+separate_arguments(sources)
+set(expected "\"page:libcli11-dev\", \"page:emscripten\"")
+foreach(source IN LISTS sources)
+    file(WRITE ${WORK_DIR}/sources-web/${source}_1.dsc "Format: 3.0\nVersion: 1+${source}-2\n")
+    string(APPEND expected ", \"page:${source}\"")
+endforeach()
+execute_process(COMMAND ${SOURCE_DIR}/scripts/sbom --page ${WORK_DIR}
+    OUTPUT_VARIABLE with_page COMMAND_ERROR_IS_FATAL ANY)
+string(JSON version GET "${with_page}" metadata component components 1 version)
+expect_same("The version of the page" "${version}" "${VERSION}")
+foreach(text "\"qenxml.html\", \"dependsOn\": [${expected}]"
+        "libcli11-dev@2.0%2Ba-1?distro=" "upstream=cli11%402.0-1" "expat@1%2Bexpat-2?distro=")
+    string(FIND "${with_page}" "${text}" place)
+    if(place EQUAL -1)
+        message(FATAL_ERROR "The list with the page lacks ${text}:\n${with_page}")
+    endif()
+endforeach()
