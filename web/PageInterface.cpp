@@ -66,7 +66,7 @@ int qenxmlRun() {
     pointers.push_back(nullptr);
     const Stream output(outputFile);
     const Stream messages(messagesFile);
-    Console console(output.file(), messages.file(), Style());
+    Console console(output.file(), messages.file(), Style(), true); // The page shows progress.
     return static_cast<int>(runCommandLine(count, pointers.data(), console));
 }
 

@@ -1,12 +1,13 @@
-// Usage: node assemble.mjs PAGE-FOLDER ENGINE-SCRIPT OUTPUT
+// Usage: node assemble.mjs PAGE-FOLDER ENGINE-SCRIPT ENGINE-WASM OUTPUT
 // Puts the page together: one file with the style, the scripts, the script of the worker and, in
 // that, the WebAssembly. The policy in its head lets the browser run these scripts, by their hashes,
 // and nothing else, and load nothing from anywhere.
+import { execFileSync } from "node:child_process";
 import { createHash } from "node:crypto";
 import { readFileSync, writeFileSync } from "node:fs";
 import { join } from "node:path";
 
-const [folder, engine, output] = process.argv.slice(2);
+const [folder, engine, wasm, output] = process.argv.slice(2);
 const read = (name) => readFileSync(join(folder, name), "utf8");
 
 /** What a script may not have in it where it stands in a page. */
@@ -15,10 +16,23 @@ function embeddable(script) {
     return script;
 }
 
-const workerParts = [readFileSync(engine, "utf8")];
+function asText(text) {
+    return text.replaceAll("&", "&amp;").replaceAll("<", "&lt;");
+}
+
+/** By a program of its own: what node compresses depends on its version, and on the processor. */
+function compressed(path) {
+    return execFileSync("gzip", ["--best", "--no-name", "--stdout", path], { maxBuffer: 2 ** 26 });
+}
+
+const workerParts = [
+    readFileSync(engine, "utf8"),
+    `const engineText = "${compressed(wasm).toString("base64")}";`,
+];
 const hashes = [];
 let page = read("index.html")
     .replace(/<link rel="stylesheet" href="([^"]+)">/, (_, name) => `<style>\n${read(name)}</style>`)
+    .replace(/ data-text="([^"]+)">/, (_, name) => `>${asText(read(name))}`)
     .replace(/<script src="([^"]+)" data-for="worker"><\/script>\n/g, (_, name) => {
         workerParts.push(read(name));
         return "";

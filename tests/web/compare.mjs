@@ -65,7 +65,18 @@ for (const path of packages) compareAll(samples, [path], [path]);
 compareAll(samples, packages, packages);
 for (const format of formats)
     compareResult(samples, ["export", "--merge", "--format", format], packages, packages);
+compareResult(samples, ["export", "--format", "csv", "--delimiter", ";", "--decimal", ",", "--no-bom"],
+    packages, packages);
 compare(samples, ["check", "."], filesIn(samples));
+for (const format of ["text", "json", "sarif"])
+    compare(samples, ["check", "--together", "--format", format, "."], filesIn(samples));
+for (const merge of [[], ["--merge"]]) {
+    for (const names of [["broken", "together"], ["together", "broken"], ["together", "together"],
+        packages.slice(0, 2)]) {
+        compare(samples, ["diff", ...merge, "--", ...names], filesIn(samples));
+        compare(samples, ["diff", ...merge, "--json", "--", ...names], filesIn(samples));
+    }
+}
 for (const args of [["--help"], ["--version"], ["explain", "--all"], ["explain", "--json", "--all"], ["chek"],
     ["show"], ["check", "none.xml"], ["check", "-"]])
     compare(samples, args, []);

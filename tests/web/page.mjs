@@ -3,7 +3,7 @@
 // shown and taken along, as the command does it. Leaves pictures in WORK-DIR/pictures.
 import assert from "node:assert/strict";
 import { mkdirSync, readFileSync, rmSync, writeFileSync } from "node:fs";
-import { join, resolve } from "node:path";
+import { dirname, join, resolve } from "node:path";
 import { PageUnderTest } from "./browser.mjs";
 import { makeFolderOf, nativeRun, packagesIn } from "./support.mjs";
 import { largePackage, writeHostile } from "./hostile.mjs";
@@ -121,6 +121,11 @@ await step("every format and the report are what the command writes", async () =
     for (const format of formats)
         await compare(["export", "--format", format],
             `document.querySelector("#formats [data-format='${format}']").click()`);
+    await page.click("#merge");
+    for (const format of formats)
+        await compare(["export", "--merge", "--format", format],
+            `document.querySelector("#formats [data-format='${format}']").click()`);
+    await page.click("#merge");
     await compare(["report"], "document.getElementById('download-report').click()");
 });
 
@@ -137,7 +142,18 @@ await step("the report is shown", async () => {
     await pictureAt("report", "light", 1600);
     await pictureAt("report", "light", 360);
     await test.look("light", 1600);
+    await page.keyboard.press("Escape"); // The focus is on what was clicked in the frame.
+    await page.waitForSelector("#report-dialog:not([open])");
+    await page.click("#report");
+    await page.waitForSelector("#report-dialog[open]");
     await page.click("#close-report");
+    await page.waitForSelector("#report-dialog:not([open])");
+});
+
+await step("the licences of what is in the page", async () => {
+    const text = await page.$eval("footer pre", (licences) => licences.textContent);
+    for (const part of ["pugixml", "Jean-loup Gailly", "Permission is hereby granted"])
+        assert.ok(text.includes(part), `${part} is missing`);
 });
 
 await step("by the keyboard alone", async () => {
@@ -187,23 +203,88 @@ await step("a package that was mended is dropped again", async () => {
     assert.deepEqual((await test.list()).map(({ state }) => state), ["no problems found"]);
 });
 
-await step("packages are compared as the command does it", async () => {
-    await test.clear();
-    const names = packagesIn(samples).slice(0, 2);
-    await test.drop(...names.map((name) => join(samples, name)));
-    const { output } = nativeRun(command, ["diff", "--", ...names], samples);
-    await page.evaluate(() => [...document.querySelectorAll("#comparison-buttons button")]
-        .find((button) => button.textContent.includes("differ")).click());
+/** What the page shows of a comparison, once a button was clicked. */
+async function comparison(button) {
+    await page.click(button);
     await page.waitForSelector("#comparison-text pre");
-    assert.equal((await test.texts("#comparison-text pre"))[0], output.toString());
-    await test.filter(names[0], "");
-    await page.click("#comparison-buttons button:last-child");
-    assert.match((await test.texts("#output-text"))[0], /show 2 packages/);
+    return (await test.texts("#comparison-text pre"))[0];
+}
+
+const together = join(samples, "together");
+
+await step("packages that do not go together are checked as the command does it", async () => {
+    for (const name of ["rec-differs", "package-twice"]) {
+        await test.clear();
+        await test.drop(join(together, name));
+        assert.ok((await test.list()).length > 1);
+        const { output } = nativeRun(command, ["check", "--together", "--", name], together);
+        assert.match(output.toString(), new RegExp(name));
+        assert.equal(await comparison("#together"), output.toString());
+    }
+    assert.deepEqual(await test.violations(), []);
+    assert.equal(await page.evaluate(() => document.activeElement.id), "comparison");
+    for (const width of [360, 1600]) await pictureAt("together", "light", width);
 });
 
-await step("a large package, with a stop before", async () => {
+await step("folders and packages are compared as the command does it", async () => {
+    await test.clear();
+    const folders = ["old", "new"].map((name) => join(work, "compared", name));
+    for (const [index, folder] of folders.entries()) {
+        for (const name of packagesIn(samples).slice(0, 3)) {
+            const text = readFileSync(join(samples, name), "utf8");
+            makeFolderOf(join(folder, name));
+            writeFileSync(join(folder, name), index === 0 ? text : text.replace(/(<FarmName>)[^<]+/, "$1Other"));
+        }
+    }
+    await test.drop(...folders);
+    const sides = (id) => page.$$eval(`#${id} option`, (options) => options.map((option) => option.value));
+    const paths = (await test.list()).map(({ path }) => path);
+    assert.deepEqual((await sides("diff-from")).slice(0, 2), ["old", "new"]);
+    assert.deepEqual(await sides("diff-to"), await sides("diff-from"));
+    for (const names of [["old", "new"], ["new", "old"], [paths[0], "new"], [paths[0], paths.at(-1)]]) {
+        for (const merge of [[], ["--merge"]]) {
+            const { output } = nativeRun(command, ["diff", ...merge, "--", ...names], join(work, "compared"));
+            await page.select("#diff-from", names[0]);
+            await page.select("#diff-to", names[1]);
+            assert.equal(await comparison("#diff"), output.toString());
+            await page.click("#diff-merge");
+        }
+    }
+    await page.select("#diff-from", "new");
+    await page.select("#diff-to", "new");
+    await page.click("#diff");
+    await page.waitForFunction(() =>
+        document.getElementById("comparison-text").textContent === "There is no difference.");
+    assert.deepEqual(await test.violations(), []);
+});
+
+await step("a comparison that is too long for a page", async () => {
+    await test.clear();
+    const folder = join(work, "long");
+    const paths = ["one", "two"].map((name) => join(folder, name, packagesIn(samples)[0]));
+    for (const path of paths) makeFolderOf(path);
+    writeFileSync(paths[0], largePackage(join(samples, packagesIn(samples)[0]), 2e6));
+    writeFileSync(paths[1], readFileSync(join(samples, packagesIn(samples)[0])));
+    await test.drop(...paths.map((path) => dirname(path)));
+    const shown = await comparison("#diff");
+    const { output } = nativeRun(command, ["diff", "--", "one", "two"], folder);
+    assert.ok(output.length > shown.length && output.toString().startsWith(shown) && shown.endsWith("\n"));
+    const { bytes } = await test.download(() => page.click("#comparison-text a"));
+    assert.ok(output.equals(bytes));
+});
+
+await step("a large package: its progress, a stop, and the check of the rest", async () => {
     await test.clear();
     const path = join(work, "00112233-4455-6677-8899-aabbccddeeff.xml");
+    writeFileSync(path, largePackage(join(samples, packagesIn(samples)[0]), 150e6));
+    await test.letFall(path);
+    await page.waitForFunction(() =>
+        /^Checking 1 of 1, [1-9][0-9]? % of it: /.test(document.getElementById("work-text").textContent) &&
+            document.getElementById("work-bar").value > 0);
+    await page.click("#stop");
+    await test.settled();
+    assert.deepEqual((await test.list()).map(({ state }) => state), ["not checked yet"]);
+    await test.clear();
     const megabytes = 20;
     writeFileSync(path, largePackage(join(samples, packagesIn(samples)[0]), megabytes * 1e6));
     await test.letFall(path);
@@ -211,7 +292,6 @@ await step("a large package, with a stop before", async () => {
         document.getElementById("work-text").textContent.startsWith("Checking"));
     await page.click("#stop");
     await test.settled();
-    assert.deepEqual((await test.list()).map(({ state }) => state), ["not checked yet"]);
     await page.$eval("#status", (status) => { status.textContent = ""; });
     await page.click("#check-rest");
     await test.settled();

@@ -23,7 +23,7 @@ export async function engineOf(script, source) {
     const Command = vm.runInThisContext(
         `${readFileSync(join(source, "web/page/command.js"), "utf8")}; Command`,
     );
-    return new Command(await create());
+    return new Command(await create({ wasmBinary: readFileSync(script.replace(/js$/, "wasm")) }));
 }
 
 /** What the command does that people install: exit code, output and messages. */

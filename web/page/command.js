@@ -11,19 +11,25 @@ class Collected {
         this.#limit = limit;
     }
 
-    placeIn(FS, path) {
+    /** @param number of the device that it is; each has its own */
+    placeIn(FS, path, number) {
         const noSpace = 51;
-        const device = FS.makedev(64, 0);
+        const device = FS.makedev(64, number);
         FS.registerDevice(device, {
             write: (stream, buffer, offset, length) => {
-                this.isCut ||= this.#size + length > this.#limit;
+                this.add(buffer.slice(offset, offset + length));
                 if (this.isCut) throw new FS.ErrnoError(noSpace);
-                this.#chunks.push(buffer.slice(offset, offset + length));
-                this.#size += length;
                 return length;
             },
         });
         FS.mkdev(path, device);
+    }
+
+    add(bytes) {
+        this.isCut ||= this.#size + bytes.length > this.#limit;
+        if (this.isCut) return;
+        this.#chunks.push(bytes);
+        this.#size += bytes.length;
     }
 
     /** All that was written since the last call. */
@@ -41,6 +47,23 @@ class Collected {
     }
 }
 
+/** The messages of the command, but for lines about how far it is: those are told at once. */
+class Messages extends Collected {
+    #tell;
+
+    constructor(limit, tell) {
+        super(limit);
+        this.#tell = tell;
+    }
+
+    /** @param bytes a message, or a line that replaces what stands there, as on a terminal */
+    add(bytes) {
+        const carriageReturn = 13;
+        if (bytes[0] !== carriageReturn) super.add(bytes);
+        else this.#tell(new TextDecoder().decode(bytes).replace(/^\r|\x1b\[K$/g, ""));
+    }
+}
+
 /**
  * Calls the command, which is a module of WebAssembly with a file system of its own in memory. The
  * tests call it in the same way.
@@ -50,12 +73,18 @@ class Command {
     static mostOutput = 2 ** 26;
 
     #output = new Collected(Command.mostOutput);
+    #messages;
 
-    /** @param module what createQenxml() made */
-    constructor(module) {
+    /**
+     * @param module what createQenxml() made
+     * @param tell called with lines about how far the work is; the last one is empty
+     */
+    constructor(module, tell = () => {}) {
         this.module = module;
+        this.#messages = new Messages(Command.mostOutput, tell);
         module.FS.mkdir("/run");
-        this.#output.placeIn(module.FS, "/run/output");
+        this.#output.placeIn(module.FS, "/run/output", 0);
+        this.#messages.placeIn(module.FS, "/run/messages", 1);
     }
 
     /**
@@ -73,7 +102,7 @@ class Command {
                 code: this.#call("Run", args),
                 isCut: this.#output.isCut,
                 output: this.#output.take(),
-                messages: this.#take("/run/messages"),
+                messages: this.#messages.take(),
                 result: result === null ? null : this.#take(result),
             };
         } finally {

@@ -36,6 +36,12 @@ function quantity(number, noun) {
     return `${number.toLocaleString("en-US")} ${noun}${number === 1 ? "" : "s"}`;
 }
 
+/** The lines of a text that a page can show without being frozen; nobody reads more of them there. */
+function beginningOf(text) {
+    const limit = 200000;
+    return text.length > limit ? text.slice(0, text.lastIndexOf("\n", limit) + 1) : text;
+}
+
 /** Text that the command has written for a terminal, without what stands before each message. */
 function messageLines(messages) {
     return messages

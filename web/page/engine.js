@@ -16,11 +16,14 @@ class Engine {
         this.#start();
     }
 
-    /** @returns a promise of the answer, which Stopped or another error may take the place of */
-    ask(task, request = {}) {
+    /**
+     * @param tell called with what the command says about how far it is
+     * @returns a promise of the answer, which Stopped or another error may take the place of
+     */
+    ask(task, request = {}, tell = () => {}) {
         const id = this.#nextId++;
         return new Promise((resolve, reject) => {
-            this.#pending.set(id, { resolve, reject });
+            this.#pending.set(id, { resolve, reject, tell });
             this.#worker.postMessage({ id, task, request });
         });
     }
@@ -47,9 +50,13 @@ class Engine {
         for (const { reject } of pending) reject(error);
     }
 
-    #receive({ id, answer, error }) {
+    #receive({ id, answer, error, progress }) {
         const request = this.#pending.get(id);
         if (request === undefined) return;
+        if (progress !== undefined) {
+            request.tell(progress);
+            return;
+        }
         this.#pending.delete(id);
         if (error === undefined) {
             request.resolve(answer);

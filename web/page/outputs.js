@@ -1,53 +1,45 @@
 "use strict";
 
-/** What compares packages with each other, where the command can do that. */
-const comparisons = [
-    {
-        title: "Check them together",
-        args: ["check", "--together"],
-        isOffered: ({ checkHelp }) => checkHelp.includes("--together"),
-    },
-    {
-        title: "Tell how two differ",
-        args: ["diff"],
-        wanted: 2,
-        isOffered: ({ help }) => /^ +diff /m.test(help),
-    },
-];
-
-/** What can be taken along of the packages that the list shows: the report, and each export. */
+/** What can be had of the packages that the list shows: the report, each export, and comparisons. */
 class Outputs {
+    /** More names than anybody looks for in a choice; the filter of the list narrows it. */
+    static #mostSides = 1000;
     #run;
+    #packages;
     #shown;
+    #sides = "";
     #urls = [];
 
     /**
-     * @param about what the command can do
-     * @param run runs the command with arguments and packages, for a file; gives its outcome or
-     *     null
-     * @param shown gives the packages
+     * @param formats those of the export
+     * @param run runs the command with arguments, names and the packages behind them, for a file;
+     *     gives its outcome or null
+     * @param packages all that there are
+     * @param shown gives those of the list
      */
-    constructor(about, run, shown) {
+    constructor(formats, run, packages, shown) {
         this.#run = run;
+        this.#packages = packages;
         this.#shown = shown;
         byId("report").addEventListener("click", () => this.#showReport());
         byId("download-report").addEventListener("click", () =>
             this.#download(["report"], "report.html"),
         );
-        byId("close-report").addEventListener("click", () => byId("report-dialog").close());
-        byId("formats").append(...about.formats.map((format) => this.#exportButton(format)));
-        const offered = comparisons.filter(({ isOffered }) => isOffered(about));
-        byId("comparison-buttons").append(...offered.map((one) => this.#comparisonButton(one)));
-        byId("comparisons").hidden = offered.length === 0;
+        byId("formats").append(...formats.map((format) => this.#exportButton(format)));
+        byId("together").addEventListener("click", () => this.#together());
+        byId("diff").addEventListener("click", () => this.#diff());
+        this.#listenToDialog();
     }
 
     refresh() {
         byId("outputs-extent").textContent =
             `Of what the list shows: ${quantity(this.#shown().length, "package")}.`;
+        this.#writeSides();
     }
 
     clear() {
         for (const id of ["output-text", "comparison-text"]) byId(id).replaceChildren();
+        byId("comparison").hidden = true;
         for (const url of this.#urls.splice(0)) URL.revokeObjectURL(url);
     }
 
@@ -61,22 +53,71 @@ class Outputs {
         return element("button", { type: "button", "data-format": name, onclick: download }, title);
     }
 
-    #comparisonButton(comparison) {
-        const compare = () => this.#compare(comparison);
-        return element("button", { type: "button", onclick: compare }, comparison.title);
+    /** What may be compared: all folders, those outside first, and the packages of the list. */
+    #writeSides() {
+        const sides = [
+            ...this.#packages.folders,
+            ...this.#shown().map(({ path, shown }) => ({ name: path, shown })),
+        ].slice(0, Outputs.#mostSides);
+        const written = JSON.stringify(sides);
+        if (written === this.#sides) return; // Who is choosing shall not be disturbed.
+        this.#sides = written;
+        for (const [index, id] of ["diff-from", "diff-to"].entries()) {
+            const choice = byId(id);
+            const { value } = choice;
+            choice.replaceChildren(
+                ...sides.map(({ name, shown }) => element("option", { value: name, dir: "auto" }, shown)),
+            );
+            const isThere = sides.some(({ name }) => name === value);
+            choice.selectedIndex = Math.min(index, sides.length - 1);
+            if (isThere) choice.value = value;
+        }
     }
 
-    async #compare({ args, wanted }) {
-        if (wanted !== undefined && this.#shown().length !== wanted) {
-            this.clear();
-            byId("output-text").append(`Have the list show ${wanted} packages, by its filter.`);
-            return;
-        }
-        const outcome = await this.#make(args);
+    #together() {
+        this.#compare("Checked together", ["check", "--together"]);
+    }
+
+    #diff() {
+        const names = ["diff-from", "diff-to"].map((id) => byId(id).value);
+        const merge = byId("diff-merge").checked ? ["--merge"] : [];
+        const isIn = ({ path }, name) => path === name || path.startsWith(`${name}/`);
+        const entries = this.#packages.all.filter((entry) => names.some((name) => isIn(entry, name)));
+        this.#compare("How they differ", ["diff", ...merge], entries, names);
+    }
+
+    /** Shows what the command writes. */
+    async #compare(title, args, entries, names) {
+        const outcome = await this.#make(args, null, entries, names);
         if (outcome === null) return;
-        const text = new TextDecoder().decode(outcome.output);
-        byId("comparison-text").append(
-            element("pre", { tabindex: "0", dir: "auto", "aria-label": "Comparison" }, text),
+        const { output, messages } = outcome;
+        byId("comparison-title").textContent = title;
+        if (output.length > 0) this.#showText(title, output);
+        else if (messages === "") byId("comparison-text").append("There is no difference.");
+        byId("comparison").hidden = byId("comparison-text").textContent === "";
+        byId("comparison").focus();
+    }
+
+    /** Shows a text, and offers it as a download if it is too long to be shown as a whole. */
+    #showText(title, bytes) {
+        const text = new TextDecoder().decode(bytes);
+        const shown = beginningOf(text);
+        const attributes = { class: "contents", tabindex: "0", dir: "auto", "aria-label": title };
+        byId("comparison-text").append(element("pre", attributes, shown));
+        if (shown === text) return;
+        const link = this.#link(bytes, "comparison.txt");
+        byId("comparison-text").prepend(element("p", {}, "This is the beginning of ", link, "."));
+    }
+
+    /** Escape closes the report, wherever in it the focus is. */
+    #listenToDialog() {
+        const dialog = byId("report-dialog");
+        const frame = byId("report-frame");
+        byId("close-report").addEventListener("click", () => dialog.close());
+        frame.addEventListener("load", () =>
+            frame.contentDocument?.addEventListener("keydown", ({ key }) => {
+                if (key === "Escape") dialog.close();
+            }),
         );
     }
 
@@ -93,25 +134,32 @@ class Outputs {
     async #download(args, name) {
         const outcome = await this.#make(args, name);
         if (!outcome?.result) return;
-        const url = URL.createObjectURL(new Blob([outcome.result]));
-        this.#urls.push(url);
-        const link = element("a", { href: url, download: name }, name);
+        const link = this.#link(outcome.result, name);
         byId("output-text").prepend(
             element("p", {}, link, ` has ${quantity(outcome.result.length, "byte")}.`),
         );
         link.click();
     }
 
+    /** A link that downloads bytes. */
+    #link(bytes, name) {
+        const url = URL.createObjectURL(new Blob([bytes]));
+        this.#urls.push(url);
+        return element("a", { href: url, download: name }, name);
+    }
+
     /**
      * Runs the command, and says what it has to say.
      *
-     * @param name of the file that it is to write
+     * @param file the name of that which it is to write; null for none
+     * @param entries the packages, which are those of the list if nothing else is said
+     * @param names what they are called; a folder may stand for those in it
      */
-    async #make(args, name = null) {
+    async #make(args, file, entries = this.#shown(), names = entries.map(({ path }) => path)) {
         this.clear();
-        const result = name === null ? null : `/run/${name}`;
+        const result = file === null ? null : `/run/${file}`;
         const output = result === null ? [] : ["-o", result];
-        const outcome = await this.#run([...args, ...output], this.#shown(), result);
+        const outcome = await this.#run([...args, ...output, "--", ...names], entries, result);
         if (outcome === null) return null;
         const lines = messageLines(outcome.messages);
         byId("output-text").replaceChildren(

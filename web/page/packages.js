@@ -107,6 +107,21 @@ class Packages {
         return this.all.filter((entry) => entry.isWaiting);
     }
 
+    /** The folders in which packages are, those outside first: their names, and how they are shown. */
+    get folders() {
+        const found = new Map();
+        for (const { path, shown } of this.all) {
+            const names = path.split("/");
+            const texts = shown.split("/");
+            for (let depth = 1; depth < names.length; ++depth)
+                found.set(names.slice(0, depth).join("/"), { depth, shown: texts.slice(0, depth).join("/") });
+        }
+        found.delete("."); // That of a file that is called "-".
+        return [...found]
+            .map(([name, { depth, shown }]) => ({ name, depth, shown: `${shown}/` }))
+            .sort((one, other) => one.depth - other.depth);
+    }
+
     /** @param state the name of one; "" for all */
     filtered(text, state) {
         return this.all.filter(

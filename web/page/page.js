@@ -13,7 +13,8 @@ class Page {
         const about = await this.#engine.ask("describe");
         byId("version").textContent = `${about.version.trim()}.`;
         this.#findings = new FindingsView(about.explanations);
-        this.#outputs = new Outputs(about, (...run) => this.#run(...run), () => this.#list.shown);
+        const run = (...what) => this.#run(...what);
+        this.#outputs = new Outputs(about.formats, run, this.#packages, () => this.#list.shown);
         this.#listen();
         document.documentElement.dataset.ready = "";
     }
@@ -69,8 +70,13 @@ class Page {
         try {
             for (let waiting = this.#packages.waiting; waiting.length > 0; waiting = this.#packages.waiting) {
                 const all = done + waiting.length;
-                this.#show(`Checking ${done + 1} of ${all}: ${waiting[0].shown}`, done / all);
-                await this.#checkOne(waiting[0]);
+                const [entry] = waiting;
+                this.#show(`Checking ${done + 1} of ${all}: ${entry.shown}`, done / all);
+                await this.#checkOne(entry, (line) => {
+                    const percent = percentIn(line);
+                    const text = `Checking ${done + 1} of ${all}, ${percent} % of it: ${entry.shown}`;
+                    this.#show(text, (done + percent / 100) / all);
+                });
                 ++done;
                 this.#refreshSometimes();
             }
@@ -84,9 +90,11 @@ class Page {
         }
     }
 
-    async #checkOne(entry) {
+    /** @param tell called with what the command says about how far it is */
+    async #checkOne(entry, tell) {
         try {
-            const { checked, messages } = await this.#engine.ask("check", { path: entry.path, file: entry.file });
+            const request = { path: entry.path, file: entry.file };
+            const { checked, messages } = await this.#engine.ask("check", request, tell);
             if (checked === null) entry.fail(messageLines(messages).join("; ") || tooMuch);
             else entry.take(checked);
         } catch (error) {
@@ -95,13 +103,14 @@ class Page {
         }
     }
 
-    /** Runs the command with packages; what fails is said. */
+    /** Runs the command with arguments and the packages that they name; what fails is said. */
     async #run(args, entries, result) {
         const files = entries.map(({ path, file }) => ({ path, file }));
-        const paths = entries.map(({ path }) => path);
-        this.#show(`Reading ${quantity(files.length, "package")}`, null);
+        const text = `Reading ${quantity(files.length, "package")}`;
+        this.#show(text, null);
         try {
-            return await this.#engine.ask("run", { args: [...args, "--", ...paths], files, result });
+            const tell = (line) => this.#show(`${text}: ${line}`, null);
+            return await this.#engine.ask("run", { args, files, result }, tell);
         } catch (error) {
             byId("output-text").replaceChildren(element("p", { class: "problem" }, this.#reason(error)));
             return null;
@@ -119,10 +128,13 @@ class Page {
     }
 
     async #showContents(entry, button) {
-        const outcome = await this.#run(["show"], [entry], null);
+        const outcome = await this.#run(["show", "--", entry.path], [entry], null);
         if (outcome === null) return;
-        const text = new TextDecoder().decode(outcome.output) + messageLines(outcome.messages).join("\n");
-        const contents = element("pre", { class: "contents", dir: "auto", tabindex: "0" }, text);
+        const text = new TextDecoder().decode(outcome.output);
+        const shown = beginningOf(text);
+        const remarks = messageLines(outcome.messages);
+        if (shown !== text) remarks.push("This is the beginning; the exports have everything.");
+        const contents = element("pre", { class: "contents", dir: "auto", tabindex: "0" }, shown + remarks.join("\n"));
         contents.setAttribute("aria-label", "What the package holds");
         button.parentElement.after(contents);
         button.remove();
@@ -182,6 +194,11 @@ class Page {
     #remark(...texts) {
         byId("remarks").append(...texts.map((text) => element("li", {}, foreign(text))));
     }
+}
+
+/** How much of a file is done, where the command says "file 1, 40 % of it: ...". */
+function percentIn(line) {
+    return Number(/, (\d+) % of it: /.exec(line)?.[1] ?? 0);
 }
 
 const tooMuch =

@@ -8,7 +8,19 @@
 const mostFindings = 1000;
 
 const decoder = new TextDecoder();
-const command = createQenxml().then((module) => new Command(module));
+
+/** The WebAssembly, from engineText, which assemble.mjs writes before this script. */
+async function engineBytes() {
+    const bytes = Uint8Array.from(atob(engineText), (character) => character.charCodeAt(0));
+    const stream = new Blob([bytes]).stream().pipeThrough(new DecompressionStream("gzip"));
+    return new Response(stream).arrayBuffer();
+}
+
+let current = null; // The request that is being worked on.
+const tell = (line) => line !== "" && postMessage({ id: current, progress: line });
+const command = engineBytes()
+    .then((wasmBinary) => createQenxml({ wasmBinary }))
+    .then((module) => new Command(module, tell));
 
 async function bytesOf(file) {
     return file === null ? new Uint8Array() : new Uint8Array(await file.arrayBuffer());
@@ -34,8 +46,6 @@ const tasks = {
         const text = (args) => decoder.decode(ready.run(args).output);
         return {
             version: text(["--version"]),
-            help: text(["--help"]),
-            checkHelp: text(["check", "--help"]),
             explanations: JSON.parse(text(["explain", "--json", "--all"])).findings,
             formats: ready.formats(),
         };
@@ -76,6 +86,7 @@ let last = Promise.resolve();
 
 onmessage = ({ data: { id, task, request } }) => {
     last = last.then(async () => {
+        current = id;
         try {
             postMessage({ id, answer: await tasks[task](request) });
         } catch (error) {
