@@ -71,6 +71,24 @@ Result run(const std::vector<const char*>& words, std::size_t point, test::Faili
 
 class MemoryShortageOfExport : public testing::Test {
 protected:
+    void expectWholeOrOld(const char* format, test::Failing failing) const {
+        const test::WatchedXmlMemory watched;
+        const std::string out = folder_.path("out");
+        const std::vector<const char*> words = {"qenxml", "export",    "--format",   format,
+                                                "-o",     out.c_str(), path_.c_str()};
+        test::AllocationCounts all;
+        run(words, std::numeric_limits<std::size_t>::max(), test::Failing::Once, all);
+        const std::string whole = test::contentOf(out);
+        ASSERT_NE(whole, "");
+        for (std::size_t point = 1; point <= all.all && !HasFailure(); ++point) {
+            folder_.write("out", "old");
+            test::AllocationCounts counts;
+            const Result result = run(words, point, failing, counts);
+            EXPECT_TRUE(test::contentOf(out) == (result.code == ExitCode::Success ? whole : "old"))
+                << "allocation " << point << ": " << test::contentOf(out);
+        }
+    }
+
     const test::TemporaryFolder folder_;
     const std::string path_ = folder_.writePackage(test::package(
         test::grower(1, test::farm(2, test::field(3, "<FieldCentroid><Latitude>1</Latitude>"
@@ -109,20 +127,12 @@ TEST_P(MemoryShortage, IsToldAndNothingIsClaimedThatWasNotDone) {
 }
 
 TEST_F(MemoryShortageOfExport, ReplacesAFileByTheWholeOutputOnly) {
-    const test::WatchedXmlMemory watched;
-    const std::string out = folder_.path("out");
-    const std::vector<const char*> words = {"qenxml", "export",    "--format",   "json",
-                                            "-o",     out.c_str(), path_.c_str()};
-    test::AllocationCounts all;
-    run(words, std::numeric_limits<std::size_t>::max(), test::Failing::Once, all);
-    const std::string whole = test::contentOf(out);
-    for (std::size_t point = 1; point <= all.all && !HasFailure(); ++point) {
-        folder_.write("out", "old");
-        test::AllocationCounts counts;
-        const Result result = run(words, point, test::Failing::Once, counts);
-        EXPECT_TRUE(test::contentOf(out) == (result.code == ExitCode::Success ? whole : "old"))
-            << "allocation " << point << ": " << test::contentOf(out);
-    }
+    expectWholeOrOld("json", test::Failing::Once);
+}
+
+TEST_F(MemoryShortageOfExport, ReplacesAFileByAWholeWorkbookOnly) {
+    // Once is too little: what could not be checked then is said in the workbook.
+    expectWholeOrOld("xlsx", test::Failing::FromThenOn);
 }
 
 INSTANTIATE_TEST_SUITE_P(Commands, MemoryShortage,

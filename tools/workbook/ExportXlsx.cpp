@@ -37,15 +37,19 @@ std::vector<WorkbookCell> cellsOf(const Finding& finding, const std::string& fil
         line = static_cast<int>(finding.location->begin.line);
         column = static_cast<int>(finding.location->begin.column);
     }
-    return {{file},
-            {std::string(wordFor(kind.severity))},
-            {std::string(kind.code)},
-            {line},
-            {column},
-            {finding.found},
-            {consequenceText(finding)},
-            {finding.path},
-            {recordsText(finding)}};
+    // Not by a list in braces, which is copied: with the standard library of g++ 12, a program ends
+    // that runs out of memory while it copies such a value.
+    std::vector<WorkbookCell> cells;
+    cells.push_back({file});
+    cells.push_back({std::string(wordFor(kind.severity))});
+    cells.push_back({std::string(kind.code)});
+    cells.push_back({line});
+    cells.push_back({column});
+    cells.push_back({finding.found});
+    cells.push_back({consequenceText(finding)});
+    cells.push_back({finding.path});
+    cells.push_back({recordsText(finding)});
+    return cells;
 }
 
 class XlsxExport : public RowExport {

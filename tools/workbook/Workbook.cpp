@@ -13,6 +13,7 @@
 #include <utility>
 #include <variant>
 
+#include <fcntl.h>
 #include <fmt/format.h>
 #include <unistd.h>
 #include <xlsxwriter.h>
@@ -31,6 +32,37 @@ constexpr time_t made = 315'532'800; // 1980-01-01
 
 [[noreturn]] void fail(const std::string& reason) {
     throw std::runtime_error("the workbook cannot be made: " + reason);
+}
+
+/// @param error that of the system
+[[noreturn]] void failIn(const std::string& folder, int error) {
+    fail(fmt::format("its parts cannot be written in {}: {}; TMPDIR can name another folder",
+                     folder, std::generic_category().message(error)));
+}
+
+/// libxlsxwriter goes on where it finds no memory or no room, and leaves out what it could not
+/// keep. The system's last error tells: it has to be 0 before what is expected to be whole.
+void expectNothingLost(const std::string& folder) {
+    const int error = errno;
+    if (error == ENOMEM)
+        throw std::bad_alloc();
+    for (const int loss : {ENOSPC, EDQUOT, EFBIG, EIO, EROFS}) {
+        if (error == loss)
+            failIn(folder, error);
+    }
+}
+
+/// Closing a workbook copies each sheet and packs the copies, and says nothing of one that found no
+/// room. So it begins only when there is room for all of them.
+void expectRoom(const std::string& file, std::size_t size, const std::string& folder) {
+    constexpr std::size_t memory = 1U << 20U; // more than packing takes
+    constexpr std::size_t frames = 1U << 17U; // what is around the rows, and what is no sheet
+    const std::vector<char> whole(memory);
+    const Descriptor descriptor(open(file.c_str(), O_WRONLY | O_CLOEXEC));
+    errno = posix_fallocate(descriptor.number(), 0, static_cast<off_t>(size + frames));
+    expectNothingLost(folder);
+    if (ftruncate(descriptor.number(), 0) != 0)
+        failIn(folder, errno);
 }
 
 /// Makes a file of another name than all others have.
@@ -98,7 +130,8 @@ Workbook::Workbook(std::size_t rowsPerSheet)
       rowsPerSheet_(rowsPerSheet),
       folder_(temporaryFolder()) {
     if (!file_.make(makeFile))
-        fail(fmt::format("{}: {}", folder_, std::generic_category().message(errno)));
+        failIn(folder_, errno);
+    errno = 0;
     lxw_workbook_options options = {};
     options.constant_memory = LXW_TRUE;
     options.tmpdir = folder_.data();
@@ -114,16 +147,20 @@ Workbook::Workbook(std::size_t rowsPerSheet)
     format_set_num_format(day_, "yyyy-mm-dd");
     time_ = workbook_add_format(workbook_.get());
     format_set_num_format(time_, "yyyy-mm-dd hh:mm:ss");
+    expectNothingLost(folder_);
 }
 
 std::size_t Workbook::addTable(std::string name, std::vector<std::string> titles) {
     tables_.push_back({std::move(name), std::move(titles)});
+    errno = 0;
     addSheet(tables_.back());
+    expectNothingLost(folder_);
     return tables_.size() - 1;
 }
 
 void Workbook::addRow(std::size_t table, const std::vector<WorkbookCell>& cells) {
     Table& rows = tables_.at(table);
+    errno = 0;
     if (rows.row == rowsPerSheet_) {
         endSheet(rows);
         addSheet(rows);
@@ -133,6 +170,7 @@ void Workbook::addRow(std::size_t table, const std::vector<WorkbookCell>& cells)
         std::visit(WriteCell{rows.sheet, static_cast<lxw_row_t>(rows.row), column++,
                              cell.isDate ? day_ : nullptr, time_},
                    cell.value);
+    expectNothingLost(folder_);
     ++rows.row;
 }
 
@@ -154,14 +192,22 @@ void Workbook::addSheet(Table& table) {
 }
 
 void Workbook::endSheet(Table& table) {
+    lxw_worksheet_write_single_row(table.sheet); // the last one
+    std::fflush(table.sheet->optimize_tmpfile);
+    bytes_ += static_cast<std::size_t>(std::max(ftello(table.sheet->optimize_tmpfile), off_t{0}));
     worksheet_autofilter(table.sheet, 0, 0, static_cast<lxw_row_t>(table.row - 1),
                          static_cast<lxw_col_t>(table.titles.size() - 1));
 }
 
 void Workbook::finish(const TextSink& sink) {
+    errno = 0;
     for (Table& table : tables_)
         endSheet(table);
+    expectNothingLost(folder_);
+    expectRoom(file_.name(), bytes_, folder_);
+    errno = 0;
     const lxw_error error = workbook_close(workbook_.release());
+    expectNothingLost(folder_);
     if (error != LXW_NO_ERROR)
         fail(lxw_strerror(error));
     struct CloseFile {
@@ -169,11 +215,13 @@ void Workbook::finish(const TextSink& sink) {
     };
     const std::unique_ptr<std::FILE, CloseFile> stream(std::fopen(file_.name().c_str(), "re"));
     if (!stream)
-        fail(std::generic_category().message(errno));
+        failIn(folder_, errno);
     constexpr std::size_t blockSize = 65536;
     std::array<char, blockSize> block{};
     while (const std::size_t size = std::fread(block.data(), 1, block.size(), stream.get()))
         sink({block.data(), size});
+    if (std::ferror(stream.get()) != 0)
+        failIn(folder_, errno);
 }
 
 std::string workbookText(std::string_view text) {

@@ -42,7 +42,9 @@ public:
 
     /// Writes it. Nothing can be added any more.
     ///
-    /// @throws std::runtime_error when there is no room for temporary files
+    /// @throws std::bad_alloc, std::runtime_error as everything before it when there is no memory,
+    /// or
+    ///         no room for temporary files
     void finish(const TextSink& sink);
 
 private:
@@ -70,6 +72,7 @@ private:
     lxw_format* day_ = nullptr;
     lxw_format* time_ = nullptr;
     std::vector<Table> tables_;
+    std::size_t bytes_ = 0; ///< Of the rows of sheets that are complete.
 };
 
 /// A text as a cell can hold it.
