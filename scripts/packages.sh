@@ -11,6 +11,7 @@ packages_check="$packages_test $packages_reference clang clang-tidy clang-format
 packages_full_check="$packages_test clang"
 packages_gis="$packages_run gdal-bin python3-geopandas"
 packages_xlsx="$packages_run libreoffice-calc-nogui"
+packages_engines="$packages_run gdal-bin jq postgresql postgresql-15-postgis-3 sqlite3"
 packages_sarif="$packages_run python3-jsonschema"
 packages_web="cmake make ninja-build emscripten node-acorn dpkg-dev"
 headers_web="libboost-dev libcli11-dev nlohmann-json3-dev" # of libraries that need no compiling
