@@ -3,10 +3,12 @@
 
 #include <functional>
 
-#include <CLI/CLI.hpp>
-
 #include "tools/commands/ExitCode.h"
 #include "tools/output/Console.h"
+
+namespace CLI { // Its header takes longer to compile than most sources.
+class App;
+}
 
 /// A sub-command of qenxml.
 struct Command {

@@ -6,6 +6,8 @@
 #include <string>
 #include <utility>
 
+#include <CLI/CLI.hpp>
+
 #include "tools/diff/DiffJson.h"
 #include "tools/diff/DiffText.h"
 #include "tools/diff/PackageDiff.h"

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include "tools/findings/ExplanationText.h"

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include "tools/export/ExportCsv.h"

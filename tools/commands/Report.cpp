@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include <CLI/CLI.hpp>
+
 #include "tools/input/PackageNames.h"
 #include "tools/input/PackageReading.h"
 #include "tools/options/CommonOptions.h"

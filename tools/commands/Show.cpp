@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include <CLI/CLI.hpp>
 #include <boost/uuid/uuid_io.hpp>
 #include <fmt/format.h>
 

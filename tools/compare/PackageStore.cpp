@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "tools/compare/RecordValues.h"
-#include "tools/options/CommonOptions.h"
+#include "tools/input/PackageOptions.h"
 
 std::size_t PackageStore::add(const PackageInput& input) {
     const std::size_t package = names_.size();

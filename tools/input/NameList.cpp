@@ -9,7 +9,7 @@
 #include <fmt/format.h>
 
 #include "tools/files/FileContent.h"
-#include "tools/options/CommonOptions.h"
+#include "tools/input/PackageOptions.h"
 #include "tools/text/Escape.h"
 #include "tools/text/Utf8.h"
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "tools/input/InputCopy.h"
-#include "tools/options/CommonOptions.h"
+#include "tools/input/PackageOptions.h"
 
 /// One package to read: a file, or the standard input.
 ///

@@ -5,9 +5,11 @@
 #include <system_error>
 #include <utility>
 
+#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include "tools/files/FileContent.h"
+#include "tools/options/CommonOptions.h"
 #include "tools/text/Escape.h"
 #include "tools/text/Words.h"
 

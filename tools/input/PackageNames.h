@@ -12,8 +12,8 @@
 #include "tools/input/FolderEntries.h"
 #include "tools/input/NameList.h"
 #include "tools/input/PackageInput.h"
+#include "tools/input/PackageOptions.h"
 #include "tools/input/PassedOver.h"
-#include "tools/options/CommonOptions.h"
 #include "tools/output/Console.h"
 
 /// The names of the packages that a command line asks for, one by one, so that there may be any

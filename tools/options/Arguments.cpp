@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include <CLI/CLI.hpp>
+
 namespace {
 
 /// Ends an argument that the parser would take apart. No argument has such a character of its own.

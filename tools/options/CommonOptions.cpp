@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <CLI/CLI.hpp>
+
 #include "tools/files/PackageUuid.h"
 #include "tools/files/WrittenFile.h"
 #include "tools/options/Arguments.h"
@@ -40,10 +42,6 @@ void requireOneStandardInput(const PackageOptions& options) {
 }
 
 } // namespace
-
-bool isStandardInput(const std::string& file) {
-    return file == "-";
-}
 
 void addPackageOptions(CLI::App& parser, PackageOptions& options) {
     addNames(parser, "FILE", options.files,

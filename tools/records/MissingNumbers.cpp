@@ -6,6 +6,7 @@
 #include "parser/internal/TagConstants.h"
 #include "tools/check/IdentifierReading.h"
 #include "tools/check/NumberReading.h"
+#include "tools/check/PackageFormat.h"
 
 namespace tag = qenxml::tag;
 

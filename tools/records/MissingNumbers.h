@@ -13,7 +13,8 @@
 #include <pugixml.hpp>
 
 #include "model/QenField.h"
-#include "tools/check/PackageFormat.h"
+
+struct ElementFormat;
 
 /// Which numbers of a record its package does not give, because the element or attribute is not
 /// there or its text is no number. The library reads each of them as 0, so a record alone does not

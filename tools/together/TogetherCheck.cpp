@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "tools/input/InputCheck.h"
-#include "tools/options/CommonOptions.h"
+#include "tools/input/PackageOptions.h"
 #include "tools/together/MeetingFinding.h"
 
 namespace {

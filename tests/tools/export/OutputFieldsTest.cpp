@@ -19,6 +19,7 @@
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/Uuids.h"
 #include "tests/support/Xml.h"
+#include "tools/check/PackageFormat.h"
 #include "tools/input/PackageReading.h"
 #include "tools/records/RecordWalk.h"
 
