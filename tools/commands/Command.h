@@ -4,11 +4,8 @@
 #include <functional>
 
 #include "tools/commands/ExitCode.h"
+#include "tools/options/CommandLineTypes.h"
 #include "tools/output/Console.h"
-
-namespace CLI { // Its header takes longer to compile than most sources.
-class App;
-}
 
 /// A sub-command of qenxml.
 struct Command {

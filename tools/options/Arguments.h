@@ -4,10 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace CLI { // Its header takes longer to compile than most sources.
-class App;
-class Option;
-} // namespace CLI
+#include "tools/options/CommandLineTypes.h"
 
 /// The arguments of a command line, so that the parser takes each of them as it is given: it would
 /// take "[a,b]" for a list of two and "{}" for an empty one, wherever they stand. What takes a name

@@ -5,10 +5,7 @@
 #define QENXML_TOOLS_OPTIONS_COMMONOPTIONS_H
 
 #include "tools/input/PackageOptions.h"
-
-namespace CLI { // Its header takes longer to compile than most sources.
-class App;
-}
+#include "tools/options/CommandLineTypes.h"
 
 /// Adds FILE, `--files-from` with `--null`, and `--uuid`.
 void addPackageOptions(CLI::App& parser, PackageOptions& options);
