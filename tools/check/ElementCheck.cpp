@@ -54,10 +54,11 @@ const DatumFormat* find(const std::vector<DatumFormat>& formats, const char* nam
 /// Whether a value has nothing that its characters could be odd by: no control characters, of one
 /// byte or of two, and no references.
 bool isPlain(std::string_view written) {
-    return std::none_of(written.begin(), written.end(), [](char c) {
-        const auto byte = static_cast<unsigned char>(c);
-        return byte < ' ' || byte == '&' || byte == 0x7F || byte == 0xC2;
-    });
+    // All are counted, which processors do for many at a time.
+    return std::count_if(written.begin(), written.end(), [](char c) {
+               const auto byte = static_cast<unsigned char>(c);
+               return byte < ' ' || byte == '&' || byte == 0x7F || byte == 0xC2;
+           }) == 0;
 }
 
 /// Numbers the children of an element among those of the same name.

@@ -15,6 +15,7 @@
 #include "tools/check/OpenElement.h"
 #include "tools/check/PackageWalk.h"
 #include "tools/check/PlacedFindings.h"
+#include "tools/check/PlainXml.h"
 #include "tools/check/SecondReader.h"
 #include "tools/files/OriginalName.h"
 #include "tools/files/PackageUuid.h"
@@ -84,7 +85,7 @@ std::string describeFault(const SourceText& source, std::size_t fileSize,
 void checkContent(std::string bytes, FindingSink& sink) {
     const std::size_t fileSize = bytes.size();
     const pugi::xml_encoding encoding = encodingOf(bytes);
-    const SecondReading reading = readAgain(bytes, encoding);
+    const SecondReading reading = isPlainXml(bytes) ? SecondReading() : readAgain(bytes, encoding);
     const std::string letter = mistakenLetter(bytes, encoding);
     const SourceText source(std::move(bytes));
     pugi::xml_document document;

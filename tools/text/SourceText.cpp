@@ -84,7 +84,8 @@ Position SourceText::position(std::size_t offset) const {
 
 Extent SourceText::wholeText(pugi::xml_node text) const {
     const auto begin = static_cast<std::size_t>(text.offset_debug());
-    const std::size_t end = utf8_.find(text.type() == pugi::node_cdata ? "]]>" : "<", begin);
+    const std::size_t end =
+        text.type() == pugi::node_cdata ? utf8_.find("]]>", begin) : utf8_.find('<', begin);
     return {begin, std::min(end, utf8_.size()) - begin};
 }
 

@@ -16,6 +16,9 @@ public:
 
     bool atEnd() const { return rest_.empty(); }
     char front() const { return rest_.empty() ? '\0' : rest_.front(); }
+    std::string_view rest() const { return rest_; }
+
+    void skip(std::size_t bytes) { rest_.remove_prefix(bytes); }
 
     bool take(std::string_view oneOf) {
         if (rest_.empty() || oneOf.find(rest_.front()) == std::string_view::npos)
