@@ -92,12 +92,14 @@ bool differsFromOne(const UnitRatio& ratio) {
     return ratio.least > 1 + tolerance || ratio.most < 1 - tolerance;
 }
 
-/// Whether a weight and a volume have the same number although their units are exact. Slurry and
-/// the like, as heavy as water, is given in m3 and in t, which stands for several units.
-bool isSameNumberOfOtherKind(const Product& product, const UnitRatio& ratio,
+/// Whether a total in another unit than the rate has the number that it would have in that unit.
+bool isSameNumberOfOtherUnit(const Product& product, const UnitRatio& ratio,
                              const StatisticsUnits& units) {
-    return !ratio.sameKind && ratio.least > 0 && !isAmbiguousUnit(units.rate) &&
-           !isAmbiguousUnit(units.total) && product.isSameNumber();
+    const std::optional<RateUnit> rate = rateUnit(units.rate);
+    const bool mayBe = rate && isSameUnit(rate->area, units.area)
+                           ? maySayTheSame(rate->amount, units.total)
+                           : ratio.sameKind;
+    return !mayBe && ratio.least > 0 && product.isSameNumber();
 }
 
 /// "135.5 kg/ha", with six digits at most.
@@ -132,11 +134,14 @@ void checkProduct(CheckReport& report, const Product& product, const StatisticsU
     const std::optional<UnitRatio> ratio = ratioOf(units);
     if (!ratio)
         return;
-    const bool otherKind = isSameNumberOfOtherKind(product, *ratio, units);
-    if (product.mayFit(*ratio) && !otherKind)
+    // Seeds are no weight whatever the digits are that were rounded.
+    const bool fitsInOne =
+        ratio->most == 0 ? product.mayFit({1, 1, true}) : product.fitsAsWritten();
+    const bool otherUnit = isSameNumberOfOtherUnit(product, *ratio, units);
+    if (product.mayFit(*ratio) && !otherUnit)
         return;
     const std::string_view total = units.total;
-    if (otherKind || (product.fitsAsWritten() && differsFromOne(*ratio)))
+    if (otherUnit || (fitsInOne && differsFromOne(*ratio)))
         report.add(FindingCode::UnitsDisagree, product.total.node(), tag::Total, [&] {
             return Details{fmt::format("{} is {} {} by the numbers, but not by the units",
                                        factors(product, units), tag::Total,

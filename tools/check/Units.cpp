@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <string>
 
 #include "tools/text/Words.h"
@@ -134,6 +135,25 @@ bool isAmbiguousUnit(std::string_view text) {
     const std::optional<RateUnit> rate = rateUnit(text);
     const Unit* const unit = find(rate ? rate->amount : text);
     return unit != nullptr && unit->size.least < unit->size.most;
+}
+
+bool maySayTheSame(std::string_view a, std::string_view b) {
+    const Unit* const one = find(a);
+    const Unit* const other = find(b);
+    if (isSameUnit(a, b) || one == nullptr || other == nullptr)
+        return true;
+    const auto isClose = [](double x, double y) {
+        constexpr double tolerance = 0.04;
+        return std::abs(x / y - 1) <= tolerance;
+    };
+    const auto hasSize = [&](double x) {
+        return isClose(x, other->size.least) || isClose(x, other->size.most);
+    };
+    const auto isAnySize = [](const Unit& unit) { return unit.size.most > 2 * unit.size.least; };
+    if (one->measure == other->measure && (isAnySize(*one) || isAnySize(*other)))
+        return true;
+    return (one->measure == other->measure || isAmbiguousUnit(a) || isAmbiguousUnit(b)) &&
+           (hasSize(one->size.least) || hasSize(one->size.most));
 }
 
 std::optional<UnitRatio> unitRatio(std::string_view from, std::string_view to) {

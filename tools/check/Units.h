@@ -26,6 +26,11 @@ bool isSameUnit(std::string_view a, std::string_view b);
 /// Whether a text is known to stand for more than one unit, as "gal" and "oz" do.
 bool isAmbiguousUnit(std::string_view text);
 
+/// Whether an amount may have the same number in two units: they are of one size, or one of them is
+/// not known. Of a weight and a volume that is so where texts stand for several units: "t" and "m3"
+/// of slurry, "oz" and "fl oz".
+bool maySayTheSame(std::string_view a, std::string_view b);
+
 /// How many of one unit another one is. It is a range where texts stand for several units; between
 /// weights and volumes, it is that of water; seeds cannot be converted to either and are 0.
 struct UnitRatio {

@@ -102,6 +102,24 @@ TEST(TotalCheck, SaysNothingOfAWeightAndAVolumeThatMayBeTheSame) {
     EXPECT_EQ(found({"25.0", "10.0", "250", "L/ha", "ha", "kg"}).substr(0, 14), "units-disagree");
 }
 
+TEST(TotalCheck, FindsTheSameNumberInUnitsOfNoSizeThatIsTheSame) {
+    const auto code = [](const Statistics& statistics) { return found(statistics).substr(0, 14); };
+    EXPECT_EQ(code({"10.0", "10.0", "100", "qt/ac", "ac", "L"}), "units-disagree");
+    EXPECT_EQ(code({"10.0", "10.0", "100", "qt/ac", "ac", "kg"}), "units-disagree");
+    EXPECT_EQ(code({"10.0", "10.0", "100", "bags/ha", "ha", "gal"}), "units-disagree");
+    EXPECT_EQ(code({"10.0", "10.0", "100", "lb/ac", "ha", "L"}), "units-disagree");
+    EXPECT_EQ(code({"10.0", "10.0", "100", "bags/ha", "ha", "t"}), "");
+    EXPECT_EQ(code({"10.0", "10.0", "100", "t/ac", "ac", "ton"}), "");
+    EXPECT_EQ(code({"10.0", "10.0", "100", "sack/ha", "ha", "L"}), "");
+    EXPECT_EQ(code({"10.0", "10.0", "95", "qt/ac", "ac", "L"}), "");
+}
+
+TEST(TotalCheck, FindsSeedsInAnotherUnitWhateverWasRounded) {
+    EXPECT_EQ(found({"123377", "0.1", "13018", "seeds/ha", "ha", "kg"}).substr(0, 14),
+              "units-disagree");
+    EXPECT_EQ(found({"123377", "0.1", "130", "seeds/ha", "ha", "kg"}), "");
+}
+
 TEST(TotalCheck, FindsATotalOfRatesThatAreAll0) {
     const auto zero = [](const std::string& rates, const std::string& total) {
         return test::findingsOf(

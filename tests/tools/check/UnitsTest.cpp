@@ -50,6 +50,18 @@ TEST(Units, AreAmbiguousWhereTheirTextStandsForSeveral) {
     EXPECT_FALSE(isAmbiguousUnit("sack"));
 }
 
+TEST(Units, MaySayTheSameWhenTheyAreOfOneSize) {
+    EXPECT_TRUE(maySayTheSame("t", "m3"));
+    EXPECT_TRUE(maySayTheSame("oz", "fl oz"));
+    EXPECT_TRUE(maySayTheSame("bags", "t"));
+    EXPECT_TRUE(maySayTheSame("sack", "kg"));
+    EXPECT_FALSE(maySayTheSame("kg", "L"));
+    EXPECT_FALSE(maySayTheSame("qt", "L"));
+    EXPECT_FALSE(maySayTheSame("qt", "kg"));
+    EXPECT_FALSE(maySayTheSame("bags", "gal"));
+    EXPECT_FALSE(maySayTheSame("seeds", "kg"));
+}
+
 TEST(Units, OfOneKindAreConverted) {
     const auto expectRatio = [](const char* from, const char* to, double least, double most) {
         const auto ratio = unitRatio(from, to);
