@@ -13,6 +13,13 @@
 #include "tools/text/Escape.h"
 #include "tools/text/Words.h"
 
+namespace {
+
+/// Of so many folders it is told what keeps packages from being found in them; others are counted.
+constexpr std::size_t mostFoldersTold = 10;
+
+} // namespace
+
 PackageNames::PackageNames(const PackageOptions& options, Console& console)
     : options_(options), console_(console), written_(options.output) {
     requireUsable(options);
@@ -51,6 +58,10 @@ void PackageNames::forEach(const std::function<bool(const PackageInput&)>& read)
 }
 
 bool PackageNames::finish() {
+    if (badFolders_ > mostFoldersTold)
+        console_.complain(
+            fmt::format("{} cannot be listed or hold no visible file that ends in .xml",
+                        quantity(badFolders_ - mostFoldersTold, "more folder")));
     if (const std::string text = passedOver_.text(); !text.empty())
         console_.complain(fmt::format("passed over {}", text));
     if (packages_ > 1 && failures_ > 0)
@@ -70,7 +81,7 @@ std::optional<std::string> PackageNames::find() {
         std::error_code ignored;
         if (isStandardInput(argument) || !std::filesystem::is_directory(argument, ignored))
             return argument;
-        complaintsBefore_ = complaints_;
+        badFoldersBefore_ = badFolders_;
         folders_.emplace_back(argument);
     }
     return findInList();
@@ -95,10 +106,10 @@ std::optional<std::string> PackageNames::findInFolders() {
 void PackageNames::endFolder() {
     const FolderEntries& folder = folders_.back();
     if (folder.error() != 0)
-        complain(folder.folder(),
-                 describeFileError(folder.error()) + "; packages in it are left out");
-    else if (folders_.size() == 1 && found_ == 0 && complaints_ == complaintsBefore_)
-        complain(folder.folder(), "no visible file in it ends in .xml; nothing is read");
+        complainOfFolder(folder,
+                         describeFileError(folder.error()) + "; packages in it are left out");
+    else if (folders_.size() == 1 && found_ == 0 && badFolders_ == badFoldersBefore_)
+        complainOfFolder(folder, "no visible file in it ends in .xml; nothing is read");
     folders_.pop_back();
     if (folders_.empty())
         found_ = 0;
@@ -124,6 +135,11 @@ void PackageNames::endList() {
     else if (found_ == 0)
         complain(options_.list, "names no file");
     list_.reset();
+}
+
+void PackageNames::complainOfFolder(const FolderEntries& folder, const std::string& problem) {
+    if (++badFolders_ <= mostFoldersTold)
+        complain(folder.folder(), problem);
 }
 
 void PackageNames::complain(const std::string& place, const std::string& problem) {

@@ -56,6 +56,7 @@ private:
     std::optional<std::string> findInList();
     void endFolder();
     void endList();
+    void complainOfFolder(const FolderEntries& folder, const std::string& problem);
     void complain(const std::string& place, const std::string& problem);
     void requireNotWritten(const std::string& name) const;
 
@@ -71,7 +72,8 @@ private:
     std::size_t packages_ = 0; ///< That forEach() came to.
     std::size_t failures_ = 0; ///< Of them, those that could not be read.
     std::size_t complaints_ = 0;
-    std::size_t complaintsBefore_ = 0; ///< The first of the folders was begun.
+    std::size_t badFolders_ = 0;
+    std::size_t badFoldersBefore_ = 0; ///< The first of the folders was begun.
 };
 
 #endif

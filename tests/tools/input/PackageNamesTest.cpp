@@ -96,6 +96,22 @@ TEST_F(NamesOfPackages, AreMissedInAFolderWithoutPackages) {
                               "\\n: no visible file in it ends in .xml; nothing is read\n");
 }
 
+TEST_F(NamesOfPackages, AreMissedInSoManyFoldersThatTheRestIsCounted) {
+    Names folders;
+    std::string expected;
+    for (int i = 0; i < 12; ++i) {
+        folders.push_back(folder_.path(std::to_string(i)));
+        fs::create_directory(folders.back());
+        if (i < 10)
+            expected += "qenxml: " + folders.back() +
+                        ": no visible file in it ends in .xml; nothing is read\n";
+    }
+    EXPECT_EQ(taken(named(folders)), Names());
+    EXPECT_FALSE(allFound_);
+    EXPECT_EQ(messages(), expected + "qenxml: 2 more folders cannot be listed or hold no visible "
+                                     "file that ends in .xml\n");
+}
+
 TEST_F(NamesOfPackages, LeaveTheStandardInputToItsReader) {
     fs::create_directory(folder_.path("-"));
     const fs::path before = fs::current_path();
