@@ -42,10 +42,10 @@ unpack_packages() {
     private_apt "$architecture" "$folder/apt" apt-get install -y -qq --download-only "$@" >&2
     for package in "$folder"/apt/cache/archives/*.deb; do
         dpkg-deb -x "$package" "$folder"
+        # shellcheck disable=SC2016
+        dpkg-deb --show --showformat='${Package} ${Version} ${source:Package} ${source:Version}\n' \
+            "$package" >>"$folder/versions"
     done
-    # shellcheck disable=SC2016
-    dpkg-deb --show --showformat='${Package} ${Version} ${source:Package} ${source:Version}\n' \
-        "$folder"/apt/cache/archives/*.deb >"$folder/versions"
     rm -rf "$folder/apt"
     echo "$*" >"$folder/unpacked"
 }
