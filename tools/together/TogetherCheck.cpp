@@ -5,6 +5,7 @@
 #include "tools/input/InputCheck.h"
 #include "tools/input/PackageOptions.h"
 #include "tools/together/MeetingFinding.h"
+#include "tools/together/RecordPlaces.h"
 
 namespace {
 
@@ -45,14 +46,23 @@ void TogetherCheck::check(std::size_t package, FindingSink& sink) {
     checkReading(package, sink);
     if (const std::optional<PackageTwin> twin = twins_.of(package))
         sink.offer(findingOf(*twin, packages_.name(twin->other)));
+    std::optional<RecordPlaces> places;
     for (; next_ < meetings_.size(); ++next_) {
         const Meeting& meeting = meetings_[next_];
-        if (meeting.versions[meeting.anchor].package != package)
+        const RecordVersion& anchor = meeting.versions[meeting.anchor];
+        if (anchor.package != package)
             break;
-        if (sink.wants(meeting.code))
-            sink.add(findingOf(meeting, packages_));
-        else
+        if (!sink.wants(meeting.code)) {
             sink.addCode(meeting.code);
+            continue;
+        }
+        Finding finding = findingOf(meeting, packages_);
+        const std::string& name = packages_.name(package);
+        if (!places && !isStandardInput(name)) // It cannot be read again.
+            places.emplace(name);
+        if (places)
+            finding.location = places->of(packages_.record(anchor));
+        sink.add(finding);
     }
 }
 
