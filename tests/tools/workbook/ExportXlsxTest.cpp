@@ -66,7 +66,7 @@ TEST_F(XlsxExport, NeedsAFolderThatItMayWriteTo) {
     test::openToEverybody(folder_.path(""));
     std::filesystem::permissions(parts_, std::filesystem::perms(0555));
     EXPECT_TRUE(test::asOrdinaryUser(folder_.path(""), [this] {
-        setenv("TMPDIR", parts_.c_str(), 1);
+        setenv("TMPDIR", parts_.c_str(), 1); // NOLINT(concurrency-mt-unsafe)
         try {
             makeXlsxExport([](std::string_view) {});
         } catch (const std::exception& error) {
@@ -83,6 +83,7 @@ TEST_F(XlsxExport, IsWholeOrLeavesThePresentFileHoweverMuchRoomThereIs) {
     const std::string workbook = test::contentOf(folder_.path("out"));
     ASSERT_EQ(workbook.substr(0, 2), "PK");
     test::RunOptions options;
+    const std::string reason = beginning + parts_ + ": File too large" + advice;
     int written = 0;
     int refused = 0;
     constexpr rlim_t step = 45'000;
@@ -96,7 +97,7 @@ TEST_F(XlsxExport, IsWholeOrLeavesThePresentFileHoweverMuchRoomThereIs) {
             EXPECT_TRUE(test::contentOf(folder_.path("out")) == workbook);
             ++written;
         } else {
-            expectNothingWritten(result, beginning + parts_ + ": File too large" + advice);
+            expectNothingWritten(result, reason);
             ++refused;
         }
     }
