@@ -118,7 +118,8 @@ footer { margin-top: 2rem; border-top: 1px solid var(--line); color: var(--quiet
   /* Hundreds of findings, packages and recs on few pages. */
   h3, h4, h5 { margin: .6rem 0 .2rem; }
   p, ul, details { margin: .2rem 0; }
-  .findings li { padding: 0 .5rem; margin: .25rem 0; }
+  .findings { font-size: .85em; line-height: 1.25; }
+  .findings li { padding: 0 .5rem; margin: .15rem 0; }
   .findings p { display: inline; }
   .findings p + p::before { content: "\2014\a0"; }
   th, td { padding: .1rem .5rem; }
