@@ -28,7 +28,7 @@ int main(int argc, char** argv) {
     // Memory of one package is for the next one: giving it back and asking for it again takes a
     // tenth of the time of a check.
     constexpr int mostUnused = 4'000'000;
-    mallopt(M_TRIM_THRESHOLD, mostUnused);
+    mallopt(M_TRIM_THRESHOLD, mostUnused); // NOLINT(concurrency-mt-unsafe): there is one thread
 #endif
     if (!occupyStandardStreams())
         return static_cast<int>(ExitCode::Failure);
