@@ -46,7 +46,7 @@ public:
                 return false;
         } while (depth_ > 0);
         cursor_.takeAll(isWhiteSpace);
-        return cursor_.atEnd();
+        return depth_ == 0 && cursor_.atEnd();
     }
 
 private:

@@ -77,6 +77,22 @@ struct Product {
                                      expected() * plausible::totalTolerance + lastDigit;
     }
 
+    /// Whether it is nearly so, and exactly when digits were rounded.
+    bool fitsRoughly() const {
+        constexpr double tolerance = 0.1;
+        return std::abs(total.value() - expected()) <= tolerance * expected() &&
+               mayFit({1, 1, true});
+    }
+
+    /// Whether the digits of rate and area leave open so little that numbers that fit in one unit
+    /// do not in another one of about its size.
+    bool isExact() const {
+        const auto leavesOpenLittle = [](const GivenNumber& number) {
+            return number.most() - number.least() <= plausible::totalTolerance * number.value();
+        };
+        return leavesOpenLittle(rate) && leavesOpenLittle(area);
+    }
+
     /// Whether it is so by three digits or more.
     bool isSameNumber() const {
         constexpr double coarsest = 0.01;
@@ -99,7 +115,8 @@ bool isSameNumberOfOtherUnit(const Product& product, const UnitRatio& ratio,
     const bool mayBe = rate && isSameUnit(rate->area, units.area)
                            ? maySayTheSame(rate->amount, units.total)
                            : ratio.sameKind;
-    return !mayBe && ratio.least > 0 && product.isSameNumber();
+    return !mayBe && ratio.least > 0 && product.isSameNumber() &&
+           (!ratio.sameKind || product.isExact());
 }
 
 /// "135.5 kg/ha", with six digits at most.
@@ -134,9 +151,8 @@ void checkProduct(CheckReport& report, const Product& product, const StatisticsU
     const std::optional<UnitRatio> ratio = ratioOf(units);
     if (!ratio)
         return;
-    // Seeds are no weight whatever the digits are that were rounded.
-    const bool fitsInOne =
-        ratio->most == 0 ? product.mayFit({1, 1, true}) : product.fitsAsWritten();
+    // Seeds are no weight, by whatever digits.
+    const bool fitsInOne = ratio->most == 0 ? product.fitsRoughly() : product.fitsAsWritten();
     const bool otherUnit = isSameNumberOfOtherUnit(product, *ratio, units);
     if (product.mayFit(*ratio) && !otherUnit)
         return;

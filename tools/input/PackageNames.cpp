@@ -60,7 +60,7 @@ void PackageNames::forEach(const std::function<bool(const PackageInput&)>& read)
 bool PackageNames::finish() {
     if (badFolders_ > mostFoldersTold)
         console_.complain(
-            fmt::format("{} cannot be listed or hold no visible file that ends in .xml",
+            fmt::format("{} that cannot be listed, or without a visible file that ends in .xml",
                         quantity(badFolders_ - mostFoldersTold, "more folder")));
     if (const std::string text = passedOver_.text(); !text.empty())
         console_.complain(fmt::format("passed over {}", text));

@@ -33,6 +33,7 @@ TEST(PlainXml, IsNothingThatAReaderOfXmlMayRefuse) {
                                     "<a>b"s,
                                     "<a b='"s,
                                     "a></a>"s,
+                                    "</a>"s,
                                     "<a/>b"s,
                                     "b<a/>"s,
                                     "<a/><a/>"s,

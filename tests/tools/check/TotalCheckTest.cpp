@@ -114,10 +114,22 @@ TEST(TotalCheck, FindsTheSameNumberInUnitsOfNoSizeThatIsTheSame) {
     EXPECT_EQ(code({"10.0", "10.0", "95", "qt/ac", "ac", "L"}), "");
 }
 
+TEST(TotalCheck, SaysNothingOfUnitsOfAboutOneSizeWhereRateOrAreaWereRounded) {
+    EXPECT_EQ(found({"4", "20", "80.2", "qt/ac", "ac", "L"}), "");
+    EXPECT_EQ(found({"1", "50", "50.0", "qt/ac", "ac", "L"}), "");
+}
+
 TEST(TotalCheck, FindsSeedsInAnotherUnitWhateverWasRounded) {
     EXPECT_EQ(found({"123377", "0.1", "13018", "seeds/ha", "ha", "kg"}).substr(0, 14),
               "units-disagree");
     EXPECT_EQ(found({"123377", "0.1", "130", "seeds/ha", "ha", "kg"}), "");
+}
+
+TEST(TotalCheck, SaysNothingOfSeedsInAnotherUnitWhoseNumberIsOneByRoundingOnly) {
+    EXPECT_EQ(found({"350", "1", "192.5", "seeds/m2", "ha", "kg"}), "");
+    EXPECT_EQ(found({"33000", "0", "5", "seeds/ha", "ha", "bags"}), "");
+    EXPECT_EQ(found({"450", "1", "225", "1000 seeds/ha", "ha", "kg"}), "");
+    EXPECT_EQ(found({"80", "0", "25", "k seeds/ha", "ha", "kg"}), "");
 }
 
 TEST(TotalCheck, FindsATotalOfRatesThatAreAll0) {

@@ -108,8 +108,18 @@ TEST_F(NamesOfPackages, AreMissedInSoManyFoldersThatTheRestIsCounted) {
     }
     EXPECT_EQ(taken(named(folders)), Names());
     EXPECT_FALSE(allFound_);
-    EXPECT_EQ(messages(), expected + "qenxml: 2 more folders cannot be listed or hold no visible "
-                                     "file that ends in .xml\n");
+    EXPECT_EQ(messages(), expected + "qenxml: 2 more folders that cannot be listed, or without a "
+                                     "visible file that ends in .xml\n");
+}
+
+TEST_F(NamesOfPackages, AreMissedInTenFoldersThatAreAllNamed) {
+    Names folders;
+    for (int i = 0; i < 10; ++i) {
+        folders.push_back(folder_.path(std::to_string(i)));
+        fs::create_directory(folders.back());
+    }
+    EXPECT_EQ(taken(named(folders)), Names());
+    EXPECT_EQ(messages().find(" more folder"), std::string::npos) << messages();
 }
 
 TEST_F(NamesOfPackages, LeaveTheStandardInputToItsReader) {
