@@ -63,10 +63,13 @@ def make_large(folder):
         part = folder / f"part '{number % 5}'"
         part.mkdir(parents=True, exist_ok=True)
         path = part / f"{uuid.uuid5(uuid.NAMESPACE_URL, str(number))}.xml"
+        if number % 100 == 3:  # a link to a package elsewhere
+            path.symlink_to(folder.parent / f"elsewhere-{path.name}")
         text = hostile(texts[number % len(texts)], number)
         path.write_text(text[:300] if number % 500 == 7 else text, encoding="utf-8")
     (folder / ".hidden").mkdir()
     (folder / ".hidden" / f"{uuid.UUID(int=1)}.xml").write_text(texts[0], encoding="utf-8")
+    (folder / "linked.xml").symlink_to(folder / "part '0'", target_is_directory=True)
 
 
 class Expected:
@@ -165,7 +168,16 @@ def server(environment):
         shutil.rmtree(folder)
 
 
-def check_parallel(commands, expected, large):
+def check_find(command, folder):
+    """What find finds in a folder, it finds from within it too."""
+    find = command.split("|")[0]
+    found = [sorted(subprocess.run(["bash", "-c", text], cwd=within, stdout=subprocess.PIPE, text=True,
+                                   check=True).stdout.split("\0"))
+             for text, within in ((find, folder), (find.replace("season", ".", 1), folder / "season"))]
+    expect(found[1] == [name.replace("season", ".", 1) for name in found[0]], f"{find} within season")
+
+
+def check_parallel(commands, folder, expected, large):
     by_text = {command.text.strip().split()[0]: command for command in commands}
     expect(by_text["echo"].printed == ("123\n" if large else "0\n"), "the exit code of xargs")
     if "wc" in by_text:
@@ -173,6 +185,7 @@ def check_parallel(commands, expected, large):
     asked = next(command for command in commands if command.text.startswith("find"))
     if large and "wc" in by_text:
         expect(asked.errors.count("; the file is skipped\n") == 3, f"files are not named: {asked.errors}")
+    check_find(asked.text, folder)
 
 
 def check_codes(commands, folder, environment):
@@ -202,10 +215,9 @@ def check_section(title, folder, environment, expected, large):
         if "near.sql" in command.text:
             rows = {tuple(row) for row in tables(command.printed)["farm"]}
             expect(rows == expected.near, f"{rows} instead of {expected.near}")
-    if title == "All cores":
-        check_parallel(commands, expected, large)
-    elif title == "All cores for checking":
-        check_parallel(commands, expected, large)
+    if title.startswith("All cores"):
+        check_parallel(commands, folder, expected, large)
+    if title == "All cores for checking":
         check_codes(commands, folder, environment)
 
 
