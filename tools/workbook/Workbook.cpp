@@ -52,6 +52,14 @@ void expectNothingLost(const std::string& folder) {
     }
 }
 
+/// Expects that a cell or the workbook was not refused.
+void expectTaken(lxw_error error) {
+    if (error == LXW_ERROR_MEMORY_MALLOC_FAILED)
+        throw std::bad_alloc();
+    if (error != LXW_NO_ERROR)
+        fail(lxw_strerror(error));
+}
+
 /// Closing a workbook copies each sheet and packs the copies, and says nothing of one that found no
 /// room. So it begins only when there is room for all of them.
 void expectRoom(const std::string& file, std::size_t size, const std::string& folder) {
@@ -96,26 +104,28 @@ struct WriteCell {
 
     void operator()(std::monostate /*none*/) const {}
     void operator()(bool value) const {
-        worksheet_write_boolean(sheet, row, column, value ? 1 : 0, nullptr);
+        expectTaken(worksheet_write_boolean(sheet, row, column, value ? 1 : 0, nullptr));
     }
     void operator()(int number) const {
-        worksheet_write_number(sheet, row, column, number, nullptr);
+        expectTaken(worksheet_write_number(sheet, row, column, number, nullptr));
     }
     void operator()(double number) const {
         if (std::isfinite(number))
-            worksheet_write_number(sheet, row, column, number, nullptr);
+            expectTaken(worksheet_write_number(sheet, row, column, number, nullptr));
         else
             (*this)(numberText(number));
     }
     void operator()(const std::string& text) const {
         const std::optional<CellDate> date = day == nullptr ? std::nullopt : cellDate(text);
         if (!date) {
-            worksheet_write_string(sheet, row, column, workbookText(text).c_str(), nullptr);
+            expectTaken(
+                worksheet_write_string(sheet, row, column, workbookText(text).c_str(), nullptr));
             return;
         }
         lxw_datetime value{date->day.year, date->day.month, date->day.day,
                            date->hour,     date->minute,    static_cast<double>(date->second)};
-        worksheet_write_datetime(sheet, row, column, &value, date->hasTime ? time : day);
+        expectTaken(
+            worksheet_write_datetime(sheet, row, column, &value, date->hasTime ? time : day));
     }
 };
 
@@ -187,7 +197,7 @@ void Workbook::addSheet(Table& table) {
                          nullptr);
     lxw_col_t column = 0;
     for (const std::string& title : table.titles)
-        worksheet_write_string(table.sheet, 0, column++, title.c_str(), title_);
+        expectTaken(worksheet_write_string(table.sheet, 0, column++, title.c_str(), title_));
     table.row = 1;
 }
 
@@ -208,8 +218,7 @@ void Workbook::finish(const TextSink& sink) {
     errno = 0;
     const lxw_error error = workbook_close(workbook_.release());
     expectNothingLost(folder_);
-    if (error != LXW_NO_ERROR)
-        fail(lxw_strerror(error));
+    expectTaken(error);
     struct CloseFile {
         void operator()(std::FILE* stream) const { std::fclose(stream); }
     };
@@ -231,11 +240,11 @@ std::string workbookText(std::string_view text) {
     std::size_t units = 0;
     while (!text.empty()) {
         const Utf8Character character = firstCharacter(text);
-        units += character.codePoint < firstOfPairs ? 1 : 2;
+        const std::string_view escape = beginsAsEscape(text) ? "_x005F" : "";
+        units += escape.size() + (character.codePoint < firstOfPairs ? 1 : 2);
         if (units > mostUnits)
             break;
-        if (beginsAsEscape(text))
-            result += "_x005F";
+        result += escape;
         if (isOfXml(character))
             result += text.substr(0, character.length);
         else

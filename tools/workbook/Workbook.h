@@ -42,9 +42,8 @@ public:
 
     /// Writes it. Nothing can be added any more.
     ///
-    /// @throws std::bad_alloc, std::runtime_error as everything before it when there is no memory,
-    /// or
-    ///         no room for temporary files
+    /// @throws std::bad_alloc as everything before it
+    /// @throws std::runtime_error likewise, when there is no room for temporary files
     void finish(const TextSink& sink);
 
 private:

@@ -1,6 +1,8 @@
 #include "tools/workbook/Workbook.h"
 
+#include <stdexcept>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -25,6 +27,32 @@ TEST(WorkbookText, IsCutAtWhatACellHolds) {
     for (int i = 0; i < 20'000; ++i)
         pairs += "\U0001F33E";
     EXPECT_EQ(workbookText(pairs).size(), 4U * 16'383);
+}
+
+TEST(WorkbookText, IsCutAtWhatACellHoldsWithWhatWasPutBeforeEscapes) {
+    std::string escapes;
+    for (int i = 0; i < 4'681; ++i)
+        escapes += "_x0041_";
+    std::string expected;
+    for (int i = 0; i < 2'520; ++i)
+        expected += "_x005F_x0041_";
+    expected += "_x005F_";
+    EXPECT_EQ(workbookText(escapes), expected);
+    EXPECT_EQ(expected.size(), 32'767U);
+}
+
+TEST(Workbook, SaysWhenItCannotHoldACell) {
+    constexpr std::size_t mostColumns = 16'384;
+    Workbook workbook;
+    const std::size_t table = workbook.addTable("recs", {"rec"});
+    std::vector<WorkbookCell> cells(mostColumns);
+    for (const OutputValue& value :
+         std::vector<OutputValue>{true, 1, 2.5, std::string("North"), std::string("2026-02-11")}) {
+        cells.push_back({value, true});
+        EXPECT_THROW(workbook.addRow(table, cells), std::runtime_error);
+        cells.pop_back();
+    }
+    EXPECT_NO_THROW(workbook.addRow(table, {{std::string()}, {}}));
 }
 
 TEST(Workbook, IsTheSameForTheSameCells) {
