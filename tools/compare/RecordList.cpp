@@ -63,6 +63,7 @@ RecordList::RecordList(PackageReading reading) : reading_(std::move(reading)) {
                       records_.push_back({Owner::Grower, context});
                       for (QenFarm& farm : grower.farms()) {
                           context.farm = &farm;
+                          context.field = nullptr; // that of the farm before
                           records_.push_back({Owner::Farm, context});
                           for (QenField& field : farm.fields()) {
                               context.field = &field;
