@@ -1,5 +1,6 @@
 #include "tools/together/RecordPlaces.h"
 
+#include <ctime>
 #include <optional>
 #include <string>
 #include <vector>
@@ -61,6 +62,46 @@ TEST(RecordPlaces, AreNoneOfWhatStandsThereTwiceOrNotAtAll) {
     EXPECT_EQ(textsAtPlaces(once, twice).back(), "none");
     EXPECT_EQ(textsAtPlaces(once, farm(test::field(3))).back(), "none");
     EXPECT_EQ(textsAtPlaces(once, "").back(), "none");
+}
+
+TEST(RecordPlaces, AreThoseOfLaterGrowersAndFarmsToo) {
+    const std::string farms = test::farm(2, test::field(3)) + test::farm(4, test::field(3));
+    const std::vector<std::string> found =
+        textsAtPlaces(test::package(test::grower(1, farms) + test::grower(5, farms)));
+    ASSERT_EQ(found.size(), 14U);
+    EXPECT_EQ(found[4], quoted("Farm", "FarmID", 4));
+    EXPECT_EQ(found[7], quoted("Grower", "GrowerID", 5));
+    EXPECT_EQ(found[8], quoted("Farm", "FarmID", 2));
+    EXPECT_EQ(found[11], quoted("Farm", "FarmID", 4));
+}
+
+/// Processor time, which does not depend on what else the machine does. To search the file for each
+/// of the thousand takes more than a hundred times as long as to read it.
+TEST(RecordPlaces, OfAThousandRecsAmongTwentyThousandAreNotSearchedForOneByOne) {
+    constexpr unsigned recs = 20'000;
+    std::string list;
+    for (unsigned number = 0; number < recs; ++number)
+        list += test::rec(number);
+    const std::string text = test::packageWithRecs(list);
+    const test::TemporaryFolder folder;
+    const std::string path = folder.writePackage(text);
+    const RecordList records(readPackage(path));
+    ASSERT_EQ(records.records().size(), recs + 4U); // grower, farm, field and boundary
+
+    const std::clock_t start = std::clock();
+    const RecordPlaces places(path);
+    const std::clock_t whenRead = std::clock();
+    std::vector<std::optional<Location>> found;
+    for (unsigned number = 0; number < recs; number += 20)
+        found.push_back(places.of(records.records()[number + 4]));
+    const std::clock_t whenFound = std::clock();
+
+    EXPECT_LT(whenFound - whenRead, 10 * (whenRead - start));
+    for (unsigned i = 0; i < found.size(); ++i) {
+        ASSERT_TRUE(found[i]);
+        const Extent& extent = found[i]->extent;
+        EXPECT_EQ(text.substr(extent.offset, extent.length), quoted("Rec", "RecID", i * 20));
+    }
 }
 
 } // namespace
