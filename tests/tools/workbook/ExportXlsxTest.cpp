@@ -24,8 +24,8 @@ class XlsxExport : public testing::Test {
 protected:
     XlsxExport() {
         std::string recs;
-        constexpr int many = 300;
-        for (int number = 10; number < many; ++number)
+        constexpr unsigned many = 300;
+        for (unsigned number = 10; number < many; ++number)
             recs += test::rec(number);
         package_ = folder_.writePackage(test::package(
             test::grower(1, test::farm(2, test::field(3, test::recommendations(recs))))));
